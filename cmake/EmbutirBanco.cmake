@@ -1,0 +1,22 @@
+# Writes every script of banco/ into one source file, as data.
+set(TEXTO "#include \"banco/UnBancoEmbutido.h\"\n\nnamespace tarvo {\n\n")
+foreach(GRUPO esquema exemplo)
+  string(SUBSTRING ${GRUPO} 0 1 LETRA)
+  string(TOUPPER ${LETRA} LETRA)
+  string(SUBSTRING ${GRUPO} 1 -1 RESTO)
+  string(APPEND TEXTO "const std::vector<TScriptDoBanco>& ScriptsDo${LETRA}${RESTO}()\n{\n"
+                      "    static const std::vector<TScriptDoBanco> LScripts{\n")
+  file(GLOB ARQUIVOS ${RAIZ}/${GRUPO}/*.sql)
+  list(SORT ARQUIVOS)
+  foreach(ARQUIVO ${ARQUIVOS})
+    get_filename_component(NOME ${ARQUIVO} NAME)
+    # As hexadecimal bytes: a script may hold anything that a list or a literal of CMake would change.
+    file(READ ${ARQUIVO} BYTES HEX)
+    string(REGEX REPLACE "([0-9a-f][0-9a-f])" "'\\\\x\\1'," BYTES "${BYTES}")
+    string(REGEX REPLACE "[^a-zA-Z0-9]" "_" VARIAVEL "${GRUPO}_${NOME}")
+    string(APPEND DADOS "static constexpr char ${VARIAVEL}[] = {${BYTES}'\\0'};\n")
+    string(APPEND TEXTO "        {\"${NOME}\", std::string_view(${VARIAVEL}, sizeof(${VARIAVEL}) - 1)},\n")
+  endforeach()
+  string(APPEND TEXTO "    };\n    return LScripts;\n}\n\n")
+endforeach()
+file(WRITE ${SAIDA} "#include <string_view>\n${DADOS}\n${TEXTO}} // namespace tarvo\n")

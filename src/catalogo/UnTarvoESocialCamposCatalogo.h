@@ -1,0 +1,90 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "imports/UnOvraDataHora.h"
+#include "imports/UnOvraExcecoes.h"
+
+namespace tarvo {
+
+class TTarvoESocialCamposGrupoBase;
+
+/// An event or an argument that doesn't exist, is missing, or holds a text that is no value of it.
+class EArgumentoInvalido : public Exception {
+public:
+    using Exception::Exception;
+};
+
+enum class TTipoArgumento {
+    /// A key, int64.
+    taId,
+    /// A whole number or the ordinal of an enumeration, int32.
+    taInteiro,
+    /// AAAA-MM-DD.
+    taData,
+    /// Digits, points and a hyphen.
+    taCpf,
+    taTexto,
+};
+
+struct TArgumentoDeEvento {
+    const char* Nome;
+    TTipoArgumento Tipo;
+    /// What it is, for a payroll person.
+    const char* Descricao;
+    bool Obrigatorio = true;
+};
+
+/// The values of an event's arguments, checked against their kinds. An optional argument that was not given reads
+/// as 0, unset or empty.
+class TArgumentosDeEvento {
+public:
+    /// EArgumentoInvalido for an unknown or missing name, or a text that is no value of its kind. Names match without
+    /// regard to case.
+    TArgumentosDeEvento(const std::vector<TArgumentoDeEvento>& ADefinicoes, const std::map<std::string, std::string>& ATextos);
+
+    bool Informado(std::string_view ANome) const;
+    std::int64_t Id(std::string_view ANome) const;
+    std::int32_t Inteiro(std::string_view ANome) const;
+    TDateTime Data(std::string_view ANome) const;
+    /// A text or a CPF, as it was given.
+    std::string Texto(std::string_view ANome) const;
+
+private:
+    struct TValor {
+        std::int64_t Inteiro = 0;
+        TDateTime Data;
+        std::string Texto;
+    };
+    const TValor& Buscar(std::string_view ANome) const;
+    std::map<std::string, TValor, std::less<>> FValores;
+};
+
+/// An event ready to load, and the parameter object that it reads, where it has one.
+struct TEventoConstruido {
+    std::shared_ptr<void> Parametros;
+    std::unique_ptr<TTarvoESocialCamposGrupoBase> Evento;
+};
+
+struct TEventoDoCatalogo {
+    /// "S-1000".
+    const char* Codigo;
+    /// What the event reports, for a payroll person.
+    const char* Titulo;
+    std::vector<TArgumentoDeEvento> Argumentos;
+    TEventoConstruido (*Construir)(const TArgumentosDeEvento& AArgumentos);
+};
+
+/// Every event in layout order.
+const std::vector<TEventoDoCatalogo>& CatalogoDeEventos();
+/// By code, without regard to case; EArgumentoInvalido when there is none.
+const TEventoDoCatalogo& BuscarEventoDoCatalogo(std::string_view ACodigo);
+/// Constructs an event from the texts of its arguments. Some constructors read the database already.
+TEventoConstruido ConstruirEvento(std::string_view ACodigo, const std::map<std::string, std::string>& AArgumentos);
+
+} // namespace tarvo

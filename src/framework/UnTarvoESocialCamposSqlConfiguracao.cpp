@@ -1,0 +1,32 @@
+#include "framework/UnTarvoESocialCamposSqlConfiguracao.h"
+
+#include "imports/UnOvraFormat.h"
+#include "imports/UnTarvoUtilsDb.h"
+
+namespace tarvo {
+
+std::string CondicaoDaChave(TTabelaDeConfiguracao ATabela, std::int64_t AIdDono, TChaveDeConfiguracao AChave)
+{
+    return Format("%0:s.%1:s = %2:d AND %0:s.ORIGEM = %3:d AND %0:s.ESPECIE = %4:d AND %0:s.TP = %5:d", ATabela.Nome,
+                  ATabela.ColunaDoDono, AIdDono, AChave.Origem, AChave.Especie, AChave.Tp);
+}
+
+std::string CondicaoDaValidade(TTabelaDeConfiguracao ATabela, TDateTime AData, TFimDaValidade AFim)
+{
+    return Format("%0:s.DATAINICIO <= %1:s AND (%0:s.DATAFIM %2:s %1:s OR %0:s.DATAFIM IS NULL)", ATabela.Nome,
+                  FormatarDataDB(AData, true), AFim == TFimDaValidade::Inclusive ? ">=" : ">");
+}
+
+std::string SqlConfiguracaoVigente(std::string_view AColunas, TTabelaDeConfiguracao ATabela, std::int64_t AIdDono,
+                                   TChaveDeConfiguracao AChave, TDateTime AData, TFimDaValidade AFim)
+{
+    static constexpr std::string_view SQL = R"(SELECT FIRST 1 %0:s
+FROM %1:s
+WHERE %2:s
+  AND %3:s
+ORDER BY %1:s.DATAINICIO DESC)";
+    return Format(SQL, AColunas, ATabela.Nome, CondicaoDaChave(ATabela, AIdDono, AChave),
+                  CondicaoDaValidade(ATabela, AData, AFim));
+}
+
+} // namespace tarvo

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "imports/UnOvraDataHora.h"
+
+namespace tarvo {
+
+/// Address of a configuration row.
+struct TChaveDeConfiguracao {
+    int Origem;
+    int Especie;
+    int Tp;
+};
+
+/// A configuration table and the column that says whose row it is.
+struct TTabelaDeConfiguracao {
+    std::string_view Nome;
+    std::string_view ColunaDoDono;
+};
+
+inline constexpr TTabelaDeConfiguracao SC00_EMPRESACFG{"SC00_EMPRESACFG", "IDEMPRESA"};
+inline constexpr TTabelaDeConfiguracao SC00_FILIALCFG{"SC00_FILIALCFG", "IDFILIAL"};
+inline constexpr TTabelaDeConfiguracao SC00_DEPARTAMENTOCFG{"SC00_DEPARTAMENTOCFG", "IDDEPARTAMENTO"};
+inline constexpr TTabelaDeConfiguracao SC00_EMPREGADOCFG{"SC00_EMPREGADOCFG", "IDEMPREGADO"};
+
+/// How a row's end is compared with the date. The tables differ, and the difference is meant.
+enum class TFimDaValidade {
+    /// DATAFIM >= date: the last day still counts.
+    Inclusive,
+    /// DATAFIM > date: the last day counts no more.
+    Exclusive,
+};
+
+/// `TABLE.OWNER = id AND TABLE.ORIGEM = o AND TABLE.ESPECIE = e AND TABLE.TP = t`.
+std::string CondicaoDaChave(TTabelaDeConfiguracao ATabela, std::int64_t AIdDono, TChaveDeConfiguracao AChave);
+/// `TABLE.DATAINICIO <= date AND (TABLE.DATAFIM >= date OR TABLE.DATAFIM IS NULL)`.
+std::string CondicaoDaValidade(TTabelaDeConfiguracao ATabela, TDateTime AData,
+                               TFimDaValidade AFim = TFimDaValidade::Inclusive);
+/// The row in force at a date, the newest start first: `SELECT FIRST 1 columns FROM TABLE WHERE ... ORDER BY
+/// TABLE.DATAINICIO DESC`. AColunas is the select list as it stands.
+std::string SqlConfiguracaoVigente(std::string_view AColunas, TTabelaDeConfiguracao ATabela, std::int64_t AIdDono,
+                                   TChaveDeConfiguracao AChave, TDateTime AData,
+                                   TFimDaValidade AFim = TFimDaValidade::Inclusive);
+
+} // namespace tarvo

@@ -1,0 +1,94 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "imports/UnOvraConjuntoDeLinhas.h"
+
+namespace tarvo {
+
+struct TParametrosConexao {
+    /// A plain file path opens the embedded engine; `host[/port]:path` or `inet://...` a server.
+    std::string BancoDeDados;
+    std::string Usuario = "SYSDBA";
+    std::string Senha;
+
+    /// True when the location names a server.
+    bool EhServidor() const;
+};
+
+/// What the observer of a connection is told of each statement that ran to its end.
+struct TExecucaoSql {
+    /// The text as the caller gave it.
+    std::string_view Sql;
+    /// Rows read, or rows affected.
+    std::int64_t Linhas = 0;
+    std::int64_t Microssegundos = 0;
+};
+
+using TObservadorSql = std::function<void(const TExecucaoSql&)>;
+
+/// Result of ExecutouSQL.
+struct TResultStatus {
+    bool Sucesso = false;
+    /// The engine's text of the failure; empty on success.
+    std::string Mensagem;
+};
+
+/// A connection to a Firebird database, character set UTF-8. Statements run in its one transaction, which starts
+/// with the first of them (read committed, waiting for no lock) or with IniciarTransacao. It belongs to one thread.
+/// Every failure of the engine is an EDatabaseError with its text and code; a lost connection is one too, and the
+/// object stays safe to use and to free.
+class TOvraConnection {
+public:
+    enum class TIsolamento { LeituraConfirmada, Instantaneo };
+
+    explicit TOvraConnection(const TParametrosConexao& AParametros);
+    TOvraConnection(const TOvraConnection&) = delete;
+    TOvraConnection& operator=(const TOvraConnection&) = delete;
+    /// Undoes an open transaction.
+    ~TOvraConnection();
+
+    /// Creates an empty database (UTF8, dialect 3); EDatabaseError when the file exists.
+    static void CriarBanco(const TParametrosConexao& AParametros);
+
+    /// Runs a statement that returns rows and reads them all.
+    TConjuntoDeLinhas Consultar(std::string_view ASql);
+    /// Runs any statement and tells how many rows it changed.
+    std::int64_t Executar(std::string_view ASql);
+    /// Runs the statements in order, all or nothing, and confirms the transaction when asked. Never raises for the
+    /// engine: the failure is told in the result, and the caller's earlier work stays.
+    TResultStatus ExecutouSQL(const std::vector<std::string>& ASql, bool ACommit);
+
+    /// Starts a transaction; does nothing inside one. A snapshot shows every statement the same moment.
+    void IniciarTransacao(TIsolamento AIsolamento = TIsolamento::LeituraConfirmada);
+    void Confirmar();
+    void Desfazer();
+    bool EmTransacao() const;
+
+    /// The location as it was given.
+    std::string GetDataBaseLineFull() const;
+    TOvraConnection& GetSQLConnection() { return *this; }
+    /// Major version of the engine, 3 for Firebird 3.0.
+    int VersaoMaiorDoServidor();
+
+    /// One observer, called after each statement; an empty function removes it.
+    void DefinirObservador(TObservadorSql AObservador);
+
+private:
+    struct TImplementacao;
+    std::unique_ptr<TImplementacao> FImplementacao;
+};
+
+/// The suite's current connection; Exception when the host has set none.
+TOvraConnection& OvraConnection();
+/// Sets the current connection, which the host owns; null for none.
+void DefinirOvraConnection(TOvraConnection* AConexao);
+/// The current connection, or null.
+TOvraConnection* OvraConnectionOuNulo();
+
+} // namespace tarvo

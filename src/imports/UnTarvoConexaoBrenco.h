@@ -1,0 +1,35 @@
+#pragma once
+
+namespace tarvo {
+
+class TOvraConnection;
+
+/// Holder of the connection to the sibling system, which the host opens, owns and sets.
+class TTarvoConexaoBrenco {
+public:
+    /// Sets the connection; null disconnects. It must outlive its use here.
+    void DefinirConexao(TOvraConnection* AConexao) { FConexao = AConexao; }
+    bool Conectado() const { return FConexao != nullptr; }
+    /// Exception when there is none.
+    TOvraConnection& OvraConnection() const;
+
+private:
+    TOvraConnection* FConexao = nullptr;
+};
+
+/// What the logged-in user may do with the sibling system.
+class TTarvoConexaoBrencoUsuarioClasseBase {
+public:
+    void DefinirUsuarioTemPermissao(bool AValor) { FUsuarioTemPermissao = AValor; }
+    /// Whether the user may read it; not before the host says so.
+    bool GetUsuarioTemPermissao() const { return FUsuarioTemPermissao; }
+
+private:
+    bool FUsuarioTemPermissao = false;
+};
+
+/// The one instance of each in the process.
+TTarvoConexaoBrenco& BuscarInstanciaTarvoConexaoBrenco();
+TTarvoConexaoBrencoUsuarioClasseBase& BuscarInstanciaTarvoConexaoBrencoUsuario();
+
+} // namespace tarvo

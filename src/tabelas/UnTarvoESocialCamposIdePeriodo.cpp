@@ -1,0 +1,38 @@
+#include "tabelas/UnTarvoESocialCamposIdePeriodo.h"
+
+#include "framework/UnTarvoESocialCamposSqlConfiguracao.h"
+#include "imports/UnOvraFormat.h"
+#include "imports/UnTarvoConsultasESocial.h"
+
+namespace tarvo::tabelas {
+
+TTarvoESocialCamposIdePeriodo::TTarvoESocialCamposIdePeriodo(std::int64_t AIDEmpresa)
+    : TTarvoESocialCamposGrupoBase("{7D97CC73-27A8-4D09-9084-19D81F6BBC0A}"), FIDEmpresa(AIDEmpresa)
+{
+}
+
+const TPropriedades& TTarvoESocialCamposIdePeriodo::Propriedades() const
+{
+    using Eu = TTarvoESocialCamposIdePeriodo;
+    static const TPropriedades tabela{
+        {"iniValid", &Eu::iniValid},
+        {"fimValid", &Eu::fimValid},
+        {"DataIniCfg", &Eu::DataIniCfg, TFieldRelacionado("DTINI")},
+    };
+    return tabela;
+}
+
+std::string TTarvoESocialCamposIdePeriodo::BuscarSQLDados()
+{
+    static constexpr std::string_view SQL = R"(SELECT SC00_EMPRESACFG.INFORMACAO1 DTINI
+FROM SC00_EMPRESACFG
+WHERE %0:s)";
+    return Format(SQL, CondicaoDaChave(SC00_EMPRESACFG, FIDEmpresa, {90, 38, 10}));
+}
+
+void TTarvoESocialCamposIdePeriodo::AtribuirValoresManualmente()
+{
+    iniValid = TTarvoConsultasESocial::BuscarDataInicioEmpresaEsocial(FIDEmpresa).DataInicio;
+}
+
+} // namespace tarvo::tabelas

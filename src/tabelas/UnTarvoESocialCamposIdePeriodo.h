@@ -1,0 +1,27 @@
+#pragma once
+
+#include "framework/UnTarvoESocialCamposGrupoBase.h"
+
+namespace tarvo::tabelas {
+
+/// S-1000 idePeriodo: start of the employer in the eSocial. Source: SC00_EMPRESACFG 90/38/10, whatever the date.
+class TTarvoESocialCamposIdePeriodo : public TTarvoESocialCamposGrupoBase {
+public:
+    explicit TTarvoESocialCamposIdePeriodo(std::int64_t AIDEmpresa);
+
+    /// The first of the company's two dates of start.
+    TDate iniValid;
+    /// Never set: the employer's validity has no end.
+    TDate fimValid;
+    TDate DataIniCfg;
+
+protected:
+    const TPropriedades& Propriedades() const override;
+    std::string BuscarSQLDados() override;
+    void AtribuirValoresManualmente() override;
+
+private:
+    std::int64_t FIDEmpresa;
+};
+
+} // namespace tarvo::tabelas

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "tabelas/UnTarvoESocialCamposIdePeriodo.h"
+#include "tabelas/UnTarvoESocialCamposInfoCadastro.h"
+
+namespace tarvo::tabelas {
+
+/// S-1000 infoEmpregador: registration and validity.
+class TTarvoESocialCamposInfoEmpregador : public TTarvoESocialCamposGrupoBase {
+public:
+    TTarvoESocialCamposInfoEmpregador(std::int64_t AIDEmpresa, TDateTime AData);
+
+    TTarvoESocialCamposInfoCadastro infoCadastro;
+    TTarvoESocialCamposIdePeriodo idePeriodo;
+
+    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
+    void ReverterDados() override;
+
+protected:
+    const TPropriedades& Propriedades() const override;
+};
+
+} // namespace tarvo::tabelas

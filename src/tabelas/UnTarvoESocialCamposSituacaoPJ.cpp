@@ -1,0 +1,27 @@
+#include "tabelas/UnTarvoESocialCamposSituacaoPJ.h"
+
+#include "framework/UnTarvoESocialCamposSqlConfiguracao.h"
+
+namespace tarvo::tabelas {
+
+TTarvoESocialCamposSituacaoPJ::TTarvoESocialCamposSituacaoPJ(std::int64_t AIDEmpresa, TDateTime AData)
+    : TTarvoESocialCamposGrupoBase("{D428D78E-7613-424D-A62D-962AA5796A15}"), FIDEmpresa(AIDEmpresa), FData(AData)
+{
+}
+
+const TPropriedades& TTarvoESocialCamposSituacaoPJ::Propriedades() const
+{
+    static const TPropriedades tabela{
+        {"indSitPJ", &TTarvoESocialCamposSituacaoPJ::indSitPJ, TFieldRelacionado("INFORMACAO1")},
+    };
+    return tabela;
+}
+
+std::string TTarvoESocialCamposSituacaoPJ::BuscarSQLDados()
+{
+    return SqlConfiguracaoVigente("SC00_EMPRESACFG.INFORMACAO1", SC00_EMPRESACFG, FIDEmpresa, {90, 38, 8}, FData);
+}
+
+void TTarvoESocialCamposSituacaoPJ::ReverterDados() { TTarvoESocialCamposGrupoBase::ReverterDados(); }
+
+} // namespace tarvo::tabelas

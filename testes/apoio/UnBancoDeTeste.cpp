@@ -1,0 +1,157 @@
+#include "apoio/UnBancoDeTeste.h"
+
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <sstream>
+
+#include "banco/UnBancoEmbutido.h"
+#include "imports/UnOvraConversoes.h"
+#include "imports/UnOvraScriptSql.h"
+#include "imports/UnTarvoUtilsDb.h"
+
+namespace tarvo::testes {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string DoAmbiente(const char* ANome, const char* APadrao)
+{
+    const char* LValor = std::getenv(ANome);
+    return LValor == nullptr ? APadrao : LValor;
+}
+
+/// The folder of this run; removed with the process.
+class TPastaDaRodada {
+public:
+    TPastaDaRodada() : FPasta(fs::temp_directory_path() / ("tarvo-testes-" + std::to_string(getpid())))
+    {
+        fs::create_directories(FPasta);
+        // The server, which may run as another user, creates the files.
+        fs::permissions(FPasta, fs::perms::all);
+    }
+    ~TPastaDaRodada()
+    {
+        std::error_code LErro;
+        fs::remove_all(FPasta, LErro);
+    }
+    const fs::path& Pasta() const { return FPasta; }
+
+private:
+    fs::path FPasta;
+};
+
+const fs::path& PastaDaRodada()
+{
+    static const TPastaDaRodada LPasta;
+    return LPasta.Pasta();
+}
+
+std::map<bool, std::unique_ptr<TOvraConnection>>& Conexoes()
+{
+    // The folder must outlive the connections that hold its files open.
+    PastaDaRodada();
+    static std::map<bool, std::unique_ptr<TOvraConnection>> LConexoes;
+    return LConexoes;
+}
+
+} // namespace
+
+TParametrosConexao ParametrosDoBanco(const std::string& ANomeDoArquivo)
+{
+    const std::string LServidor = DoAmbiente("TESTES_LIGACAO", "");
+    return {LServidor + (PastaDaRodada() / ANomeDoArquivo).string(), DoAmbiente("ISC_USER", "SYSDBA"),
+            DoAmbiente("ISC_PASSWORD", "")};
+}
+
+TParametrosConexao CriarBancoDeTeste(const std::string& ANomeDoArquivo, bool AComExemplo)
+{
+    const auto LParametros = ParametrosDoBanco(ANomeDoArquivo);
+    TOvraConnection::CriarBanco(LParametros);
+    TOvraConnection LConexao(LParametros);
+    for (const auto& LScript : ScriptsDoEsquema())
+        ExecutarScriptSql(LConexao, LScript.Texto);
+    if (AComExemplo)
+        for (const auto& LScript : ScriptsDoExemplo())
+            ExecutarScriptSql(LConexao, LScript.Texto);
+    return LParametros;
+}
+
+TValorSql::TValorSql(double AValor) : FTexto(FloatToStr(AValor))
+{
+    if (const auto LVirgula = FTexto.find(','); LVirgula != std::string::npos)
+        FTexto[LVirgula] = '.';
+}
+
+TValorSql::TValorSql(TDateTime AData) : FTexto(FormatarDataDB(AData, true)) {}
+
+TValorSql::TValorSql(const char* ATexto) : FTexto("'")
+{
+    for (; *ATexto != '\0'; ++ATexto) {
+        FTexto += *ATexto;
+        if (*ATexto == '\'')
+            FTexto += '\'';
+    }
+    FTexto += "'";
+}
+
+void Inserir(const char* ATabela, TCamposSql ACampos)
+{
+    std::string LNomes;
+    std::string LValores;
+    for (const auto& [LNome, LValor] : ACampos) {
+        LNomes += (LNomes.empty() ? "" : ", ") + std::string(LNome);
+        LValores += (LValores.empty() ? "" : ", ") + LValor.Texto();
+    }
+    Executar("INSERT INTO " + std::string(ATabela) + " (" + LNomes + ") VALUES (" + LValores + ")");
+}
+
+void Executar(const std::string& ASql) { OvraConnection().Executar(ASql); }
+
+std::string Consultar(const std::string& ASql)
+{
+    const auto LLinhas = OvraConnection().Consultar(ASql);
+    return LLinhas.QuantidadeDeLinhas() == 0 ? std::string() : LLinhas.Texto(0, 0);
+}
+
+Currency R(const std::string& ATexto) { return Currency(StrToFloat(ATexto)); }
+
+void TTesteComBanco::SetUp()
+{
+    auto& LConexao = Conexoes()[ComExemplo()];
+    if (!LConexao)
+        LConexao = std::make_unique<TOvraConnection>(
+            CriarBancoDeTeste(ComExemplo() ? "exemplo.fdb" : "esquema.fdb", ComExemplo()));
+    DefinirOvraConnection(LConexao.get());
+    LConexao->IniciarTransacao();
+}
+
+void TTesteComBanco::TearDown()
+{
+    Conexao().DefinirObservador({});
+    Conexao().Desfazer();
+    DefinirOvraConnection(nullptr);
+}
+
+TOvraConnection& TTesteComBanco::Conexao() { return *Conexoes()[ComExemplo()]; }
+
+void ConferirGolden(const std::string& ANome, const std::string& AJson)
+{
+    const fs::path LArquivo = fs::path(PASTA_DOS_GOLDENS) / (ANome + ".json");
+    if (!DoAmbiente("ATUALIZAR_GOLDENS", "").empty()) {
+        fs::create_directories(LArquivo.parent_path());
+        std::ofstream(LArquivo) << AJson << '\n';
+        return;
+    }
+    std::ifstream LEntrada(LArquivo);
+    ASSERT_TRUE(LEntrada) << "Falta o golden " << LArquivo;
+    std::stringstream LEsperado;
+    LEsperado << LEntrada.rdbuf();
+    EXPECT_EQ(LEsperado.str(), AJson + '\n') << LArquivo;
+}
+
+} // namespace tarvo::testes
