@@ -2,8 +2,7 @@
 
 #include "imports/UnOvraFormat.h"
 
-namespace tarvo::trabalhador
-{
+namespace tarvo::trabalhador {
 
 TTarvoESocialCamposAposentadoria::TTarvoESocialCamposAposentadoria(std::int64_t AIDEmpregado)
     : TTarvoESocialCamposGrupoBase("{C473D81F-C198-47CD-8BC3-FECCF90F7DF7}"), FIDEmpregado(AIDEmpregado)

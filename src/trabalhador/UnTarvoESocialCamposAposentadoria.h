@@ -2,12 +2,10 @@
 
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
 
-namespace tarvo::trabalhador
-{
+namespace tarvo::trabalhador {
 
 /// Retirement of a worker. Source: EMPREGADOS.
-class TTarvoESocialCamposAposentadoria : public TTarvoESocialCamposGrupoBase
-{
+class TTarvoESocialCamposAposentadoria : public TTarvoESocialCamposGrupoBase {
 public:
     explicit TTarvoESocialCamposAposentadoria(std::int64_t AIDEmpregado);
 

@@ -3,8 +3,7 @@
 #include "imports/UnOvraFormat.h"
 #include "trabalhador/UnTarvoESocialCamposSqlEndereco.h"
 
-namespace tarvo::trabalhador
-{
+namespace tarvo::trabalhador {
 
 TTarvoESocialCamposBrasil::TTarvoESocialCamposBrasil(std::int64_t AIDEmpregado)
     : TTarvoESocialCamposGrupoBase("{3192016A-E18C-423D-A0FB-5FD3DFDF53A6}"), FIDEmpregado(AIDEmpregado)

@@ -2,13 +2,11 @@
 
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
 
-namespace tarvo::trabalhador
-{
+namespace tarvo::trabalhador {
 
 /// Address of a worker, read as one in Brazil. Source: EMPREGADOS, with the kind of street in the payroll's register
 /// (CA06_CODLOGRAD) and in the eSocial's table 20, and the municipality in MUNICIPIOS. Loaded whatever the country.
-class TTarvoESocialCamposBrasil : public TTarvoESocialCamposGrupoBase
-{
+class TTarvoESocialCamposBrasil : public TTarvoESocialCamposGrupoBase {
 public:
     explicit TTarvoESocialCamposBrasil(std::int64_t AIDEmpregado);
 

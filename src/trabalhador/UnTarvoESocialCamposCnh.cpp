@@ -2,8 +2,7 @@
 
 #include "imports/UnOvraFormat.h"
 
-namespace tarvo::trabalhador
-{
+namespace tarvo::trabalhador {
 
 TTarvoESocialCamposCnh::TTarvoESocialCamposCnh(std::int64_t AIDEmpregado)
     : TTarvoESocialCamposGrupoBase("{E9797D7B-F248-4AED-B8C9-53ABA1F6B644}"), FIDEmpregado(AIDEmpregado)

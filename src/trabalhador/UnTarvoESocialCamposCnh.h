@@ -2,12 +2,10 @@
 
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
 
-namespace tarvo::trabalhador
-{
+namespace tarvo::trabalhador {
 
 /// Driver's licence (CNH) of a worker. Source: EMPREGADOS.
-class TTarvoESocialCamposCnh : public TTarvoESocialCamposGrupoBase
-{
+class TTarvoESocialCamposCnh : public TTarvoESocialCamposGrupoBase {
 public:
     explicit TTarvoESocialCamposCnh(std::int64_t AIDEmpregado);
 

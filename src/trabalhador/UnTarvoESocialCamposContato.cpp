@@ -4,11 +4,9 @@
 #include "imports/UnTarvoConsultasGeral.h"
 #include "imports/UnTarvoUtilsStrings.h"
 
-namespace tarvo::trabalhador
-{
+namespace tarvo::trabalhador {
 
-namespace
-{
+namespace {
 
 /// The first two rows that count, as they stand.
 template <class TConta>

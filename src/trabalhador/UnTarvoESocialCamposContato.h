@@ -2,14 +2,12 @@
 
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
 
-namespace tarvo::trabalhador
-{
+namespace tarvo::trabalhador {
 
 /// Telephones and e-mails of a worker. Source: the first two of each kind in FP_EMPREGADOSCONTATO (telephones 1 and 2,
 /// e-mails 4), in the order in which the database gives them, and the telephone of EMPREGADOS beside them. The four
 /// are emptied by each load.
-class TTarvoESocialCamposContato : public TTarvoESocialCamposGrupoBase
-{
+class TTarvoESocialCamposContato : public TTarvoESocialCamposGrupoBase {
 public:
     explicit TTarvoESocialCamposContato(std::int64_t AIDEmpregado);
 

@@ -2,8 +2,7 @@
 
 #include "imports/UnOvraFormat.h"
 
-namespace tarvo::trabalhador
-{
+namespace tarvo::trabalhador {
 
 TTarvoESocialCamposCtps::TTarvoESocialCamposCtps(std::int64_t AIDEmpregado)
     : TTarvoESocialCamposGrupoBase("{7E88AEB1-53C0-4F1D-92AB-8E61F9224039}"), FIDEmpregado(AIDEmpregado)

@@ -2,13 +2,11 @@
 
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
 
-namespace tarvo::trabalhador
-{
+namespace tarvo::trabalhador {
 
 /// Work card (CTPS) and category of a worker. Source: EMPREGADOS joined to table 1 of the categories: a worker whose
 /// category isn't there has no row, and the whole group stays empty, card included; meant.
-class TTarvoESocialCamposCtps : public TTarvoESocialCamposGrupoBase
-{
+class TTarvoESocialCamposCtps : public TTarvoESocialCamposGrupoBase {
 public:
     explicit TTarvoESocialCamposCtps(std::int64_t AIDEmpregado);
 

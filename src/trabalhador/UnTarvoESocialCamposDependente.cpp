@@ -2,8 +2,7 @@
 
 #include "imports/UnOvraFormat.h"
 
-namespace tarvo::trabalhador
-{
+namespace tarvo::trabalhador {
 
 TTarvoESocialCamposDependente::TTarvoESocialCamposDependente(std::int64_t AIDDependente)
     : TTarvoESocialCamposGrupoBase("{306B71FD-1A0D-4B2C-9C4B-F146856B8489}"), FIDDependente(AIDDependente)

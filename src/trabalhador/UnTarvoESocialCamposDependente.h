@@ -2,12 +2,10 @@
 
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
 
-namespace tarvo::trabalhador
-{
+namespace tarvo::trabalhador {
 
 /// A dependant of a worker. Source: DEPENDENTES by the dependant's own id, with the degree of dependency from table 7.
-class TTarvoESocialCamposDependente : public TTarvoESocialCamposGrupoBase
-{
+class TTarvoESocialCamposDependente : public TTarvoESocialCamposGrupoBase {
 public:
     explicit TTarvoESocialCamposDependente(std::int64_t AIDDependente);
 

@@ -1,7 +1,6 @@
 #include "trabalhador/UnTarvoESocialCamposDocumentos.h"
 
-namespace tarvo::trabalhador
-{
+namespace tarvo::trabalhador {
 
 TTarvoESocialCamposDocumentos::TTarvoESocialCamposDocumentos(std::int64_t AIDEmpregado)
     : TTarvoESocialCamposGrupoBase("{6CD2616D-4774-4AFB-B171-E24E0AE5AC4D}"), Ctps(AIDEmpregado), Rg(AIDEmpregado),

@@ -7,12 +7,10 @@
 #include "trabalhador/UnTarvoESocialCamposRic.h"
 #include "trabalhador/UnTarvoESocialCamposRne.h"
 
-namespace tarvo::trabalhador
-{
+namespace tarvo::trabalhador {
 
 /// The documents of a worker.
-class TTarvoESocialCamposDocumentos : public TTarvoESocialCamposGrupoBase
-{
+class TTarvoESocialCamposDocumentos : public TTarvoESocialCamposGrupoBase {
 public:
     explicit TTarvoESocialCamposDocumentos(std::int64_t AIDEmpregado);
 

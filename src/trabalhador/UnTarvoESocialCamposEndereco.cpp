@@ -1,7 +1,6 @@
 #include "trabalhador/UnTarvoESocialCamposEndereco.h"
 
-namespace tarvo::trabalhador
-{
+namespace tarvo::trabalhador {
 
 TTarvoESocialCamposEndereco::TTarvoESocialCamposEndereco(std::int64_t AIDEmpregado)
     : TTarvoESocialCamposGrupoBase("{51C354A8-EF61-4A27-B585-253507EDC8A3}"), Brasil(AIDEmpregado),

@@ -3,12 +3,10 @@
 #include "trabalhador/UnTarvoESocialCamposBrasil.h"
 #include "trabalhador/UnTarvoESocialCamposExterior.h"
 
-namespace tarvo::trabalhador
-{
+namespace tarvo::trabalhador {
 
 /// Address of a worker, in both readings; which of them to report is for the reader of the tree to decide.
-class TTarvoESocialCamposEndereco : public TTarvoESocialCamposGrupoBase
-{
+class TTarvoESocialCamposEndereco : public TTarvoESocialCamposGrupoBase {
 public:
     explicit TTarvoESocialCamposEndereco(std::int64_t AIDEmpregado);
 

@@ -3,8 +3,7 @@
 #include "imports/UnOvraFormat.h"
 #include "trabalhador/UnTarvoESocialCamposSqlEndereco.h"
 
-namespace tarvo::trabalhador
-{
+namespace tarvo::trabalhador {
 
 TTarvoESocialCamposExterior::TTarvoESocialCamposExterior(std::int64_t AIDEmpregado)
     : TTarvoESocialCamposGrupoBase("{DD40DC53-0EAB-4D7D-BA8F-1F37B3121AD0}"), FIDEmpregado(AIDEmpregado)

@@ -2,13 +2,11 @@
 
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
 
-namespace tarvo::trabalhador
-{
+namespace tarvo::trabalhador {
 
 /// Address of a worker, read as one abroad. Source: EMPREGADOS, whose code of municipality here points at the general
 /// register CA06_MUNICIPIO; the country of residence is the municipality's. Loaded whatever the country.
-class TTarvoESocialCamposExterior : public TTarvoESocialCamposGrupoBase
-{
+class TTarvoESocialCamposExterior : public TTarvoESocialCamposGrupoBase {
 public:
     explicit TTarvoESocialCamposExterior(std::int64_t AIDEmpregado);
 

@@ -2,8 +2,7 @@
 
 #include "imports/UnOvraFormat.h"
 
-namespace tarvo::trabalhador
-{
+namespace tarvo::trabalhador {
 
 TTarvoESocialCamposInfoDeficiencia::TTarvoESocialCamposInfoDeficiencia(std::int64_t AIDEmpregado)
     : TTarvoESocialCamposGrupoBase("{728E5542-F430-410F-BF97-8067F5D6273A}"), FIDEmpregado(AIDEmpregado)

@@ -2,12 +2,10 @@
 
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
 
-namespace tarvo::trabalhador
-{
+namespace tarvo::trabalhador {
 
 /// Disability of a worker. Source: EMPREGADOS.
-class TTarvoESocialCamposInfoDeficiencia : public TTarvoESocialCamposGrupoBase
-{
+class TTarvoESocialCamposInfoDeficiencia : public TTarvoESocialCamposGrupoBase {
 public:
     explicit TTarvoESocialCamposInfoDeficiencia(std::int64_t AIDEmpregado);
 

@@ -2,8 +2,7 @@
 
 #include "imports/UnOvraFormat.h"
 
-namespace tarvo::trabalhador
-{
+namespace tarvo::trabalhador {
 
 TTarvoESocialCamposNascimento::TTarvoESocialCamposNascimento(std::int64_t AIDEmpregado)
     : TTarvoESocialCamposGrupoBase("{A53E443F-37A1-4FDF-8D54-6E0505A3730E}"), FIDEmpregado(AIDEmpregado)

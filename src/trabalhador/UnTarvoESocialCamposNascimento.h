@@ -2,14 +2,12 @@
 
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
 
-namespace tarvo::trabalhador
-{
+namespace tarvo::trabalhador {
 
 /// Birth, parents and nationality of a worker. Source: EMPREGADOS, with the countries in the payroll's register
 /// (CA06_PAIS) and in the eSocial's table 6. Raises EDatabaseError when table 6 holds a code that is no number and is
 /// compared with a country of the worker.
-class TTarvoESocialCamposNascimento : public TTarvoESocialCamposGrupoBase
-{
+class TTarvoESocialCamposNascimento : public TTarvoESocialCamposGrupoBase {
 public:
     explicit TTarvoESocialCamposNascimento(std::int64_t AIDEmpregado);
 

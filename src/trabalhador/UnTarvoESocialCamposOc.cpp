@@ -2,8 +2,7 @@
 
 #include "imports/UnOvraFormat.h"
 
-namespace tarvo::trabalhador
-{
+namespace tarvo::trabalhador {
 
 TTarvoESocialCamposOc::TTarvoESocialCamposOc(std::int64_t AIDEmpregado)
     : TTarvoESocialCamposGrupoBase("{371466C0-437D-413E-8466-AFE570E6D0C1}"), FIDEmpregado(AIDEmpregado)

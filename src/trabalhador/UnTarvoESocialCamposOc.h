@@ -2,12 +2,10 @@
 
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
 
-namespace tarvo::trabalhador
-{
+namespace tarvo::trabalhador {
 
 /// Registration of a worker at a class council. Source: EMPREGADOS.
-class TTarvoESocialCamposOc : public TTarvoESocialCamposGrupoBase
-{
+class TTarvoESocialCamposOc : public TTarvoESocialCamposGrupoBase {
 public:
     explicit TTarvoESocialCamposOc(std::int64_t AIDEmpregado);
 

@@ -2,8 +2,7 @@
 
 #include "imports/UnOvraFormat.h"
 
-namespace tarvo::trabalhador
-{
+namespace tarvo::trabalhador {
 
 TTarvoESocialCamposRg::TTarvoESocialCamposRg(std::int64_t AIDEmpregado)
     : TTarvoESocialCamposGrupoBase("{FDE3FB61-4CB1-4E03-A5BB-F594BD868CC4}"), FIDEmpregado(AIDEmpregado)

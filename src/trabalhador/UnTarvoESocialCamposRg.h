@@ -2,12 +2,10 @@
 
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
 
-namespace tarvo::trabalhador
-{
+namespace tarvo::trabalhador {
 
 /// Identity card (RG) of a worker. Source: EMPREGADOS, with the code of the country of birth from CA06_PAIS.
-class TTarvoESocialCamposRg : public TTarvoESocialCamposGrupoBase
-{
+class TTarvoESocialCamposRg : public TTarvoESocialCamposGrupoBase {
 public:
     explicit TTarvoESocialCamposRg(std::int64_t AIDEmpregado);
 

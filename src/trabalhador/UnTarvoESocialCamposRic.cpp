@@ -1,7 +1,6 @@
 #include "trabalhador/UnTarvoESocialCamposRic.h"
 
-namespace tarvo::trabalhador
-{
+namespace tarvo::trabalhador {
 
 TTarvoESocialCamposRic::TTarvoESocialCamposRic()
     : TTarvoESocialCamposGrupoBase("{9B7B77E5-251A-4A0D-9AD3-4D5721A1B331}")

@@ -2,12 +2,10 @@
 
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
 
-namespace tarvo::trabalhador
-{
+namespace tarvo::trabalhador {
 
 /// RIC document of a worker. The payroll has no register of it: the block stands for the layout and stays empty.
-class TTarvoESocialCamposRic : public TTarvoESocialCamposGrupoBase
-{
+class TTarvoESocialCamposRic : public TTarvoESocialCamposGrupoBase {
 public:
     TTarvoESocialCamposRic();
 

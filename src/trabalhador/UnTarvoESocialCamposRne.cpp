@@ -2,8 +2,7 @@
 
 #include "imports/UnOvraFormat.h"
 
-namespace tarvo::trabalhador
-{
+namespace tarvo::trabalhador {
 
 TTarvoESocialCamposRne::TTarvoESocialCamposRne(std::int64_t AIDEmpregado)
     : TTarvoESocialCamposGrupoBase("{BDD143FE-F78F-47B9-BCA0-D32040746607}"), FIDEmpregado(AIDEmpregado)

@@ -2,12 +2,10 @@
 
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
 
-namespace tarvo::trabalhador
-{
+namespace tarvo::trabalhador {
 
 /// Register of a foreigner (RNE). Source: EMPREGADOS, with the name of the country of birth from CA06_PAIS.
-class TTarvoESocialCamposRne : public TTarvoESocialCamposGrupoBase
-{
+class TTarvoESocialCamposRne : public TTarvoESocialCamposGrupoBase {
 public:
     explicit TTarvoESocialCamposRne(std::int64_t AIDEmpregado);
 

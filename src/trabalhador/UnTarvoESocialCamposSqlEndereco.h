@@ -2,8 +2,7 @@
 
 #include <string_view>
 
-namespace tarvo::trabalhador
-{
+namespace tarvo::trabalhador {
 
 /// Column of EMPREGADOS: the number of the street as the layouts take it. A number that is not set stays NULL: the test
 /// isn't true then, and the other branch is the column itself.

@@ -3,8 +3,7 @@
 #include "imports/UnOvraConversoes.h"
 #include "imports/UnOvraFormat.h"
 
-namespace tarvo::trabalhador
-{
+namespace tarvo::trabalhador {
 
 TTarvoESocialCamposTrabEstrangeiro::TTarvoESocialCamposTrabEstrangeiro(std::int64_t AIDEmpregado)
     : TTarvoESocialCamposGrupoBase("{8E5244D2-B1A8-40B4-9EC8-FDA77F4767AC}"), FIDEmpregado(AIDEmpregado)

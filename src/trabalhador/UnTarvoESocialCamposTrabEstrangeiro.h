@@ -2,13 +2,11 @@
 
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
 
-namespace tarvo::trabalhador
-{
+namespace tarvo::trabalhador {
 
 /// Foreign worker: arrival, class and family in Brazil. Source: EMPREGADOS, with the name of the country of birth from
 /// CA06_PAIS.
-class TTarvoESocialCamposTrabEstrangeiro : public TTarvoESocialCamposGrupoBase
-{
+class TTarvoESocialCamposTrabEstrangeiro : public TTarvoESocialCamposGrupoBase {
 public:
     explicit TTarvoESocialCamposTrabEstrangeiro(std::int64_t AIDEmpregado);
 

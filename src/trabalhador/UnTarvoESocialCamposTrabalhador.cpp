@@ -3,8 +3,7 @@
 #include "imports/UnOvraFormat.h"
 #include "imports/UnTarvoConsultasGeral.h"
 
-namespace tarvo::trabalhador
-{
+namespace tarvo::trabalhador {
 
 TTarvoESocialCamposTrabalhador::TTarvoESocialCamposTrabalhador(std::int64_t AIDEmpregado)
     : TTarvoESocialCamposGrupoBase("{36756A42-CD30-44CE-8661-02396AFC2FC2}"), Nascimento(AIDEmpregado),

@@ -9,13 +9,11 @@
 #include "trabalhador/UnTarvoESocialCamposNascimento.h"
 #include "trabalhador/UnTarvoESocialCamposTrabEstrangeiro.h"
 
-namespace tarvo::trabalhador
-{
+namespace tarvo::trabalhador {
 
 /// Personal data of a worker, the same tree in S-2200, S-2205, S-2100 and S-2300. Source: EMPREGADOS, with the tables
 /// 9993 (civil status) and 9994 (race and colour) that turn the payroll's texts into the layout's codes.
-class TTarvoESocialCamposTrabalhador : public TTarvoESocialCamposGrupoBase
-{
+class TTarvoESocialCamposTrabalhador : public TTarvoESocialCamposGrupoBase {
 public:
     explicit TTarvoESocialCamposTrabalhador(std::int64_t AIDEmpregado);
 

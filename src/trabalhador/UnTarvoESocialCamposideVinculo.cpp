@@ -2,8 +2,7 @@
 
 #include "imports/UnOvraFormat.h"
 
-namespace tarvo::trabalhador
-{
+namespace tarvo::trabalhador {
 
 TTarvoESocialCamposideVinculo::TTarvoESocialCamposideVinculo(std::int64_t AIdEmpregado)
     : TTarvoESocialCamposGrupoBase("{A40C219B-EC89-4C7C-9F68-8AE4061D19C7}"), FIDEmpregado(AIdEmpregado)

@@ -2,13 +2,11 @@
 
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
 
-namespace tarvo::trabalhador
-{
+namespace tarvo::trabalhador {
 
 /// Identification of a worker's bond, the same in every event that refers to one. Source: EMPREGADOS, with the code of
 /// the category from FP_ESOCIALTABELA.
-class TTarvoESocialCamposideVinculo : public TTarvoESocialCamposGrupoBase
-{
+class TTarvoESocialCamposideVinculo : public TTarvoESocialCamposGrupoBase {
 public:
     explicit TTarvoESocialCamposideVinculo(std::int64_t AIdEmpregado);
 

@@ -2,8 +2,7 @@
 
 #include "imports/UnOvraFormat.h"
 
-namespace tarvo::trabalhador
-{
+namespace tarvo::trabalhador {
 
 TTarvoESocialCamposinfoRegPrelim::TTarvoESocialCamposinfoRegPrelim(std::int64_t AIdEmpregado)
     : TTarvoESocialCamposGrupoBase("{196F86B6-9476-4522-BB0A-E8721488E5E6}"), FIDEmpregado(AIdEmpregado)

@@ -2,12 +2,10 @@
 
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
 
-namespace tarvo::trabalhador
-{
+namespace tarvo::trabalhador {
 
 /// S-2190 infoRegPrelim: the worker to be admitted. Source: EMPREGADOS; the CPF as it was typed.
-class TTarvoESocialCamposinfoRegPrelim : public TTarvoESocialCamposGrupoBase
-{
+class TTarvoESocialCamposinfoRegPrelim : public TTarvoESocialCamposGrupoBase {
 public:
     explicit TTarvoESocialCamposinfoRegPrelim(std::int64_t AIdEmpregado);
 
