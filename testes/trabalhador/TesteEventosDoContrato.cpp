@@ -126,6 +126,28 @@ TEST_F(TTesteEventosDoContrato, TermosDoContratoEstaoDuasVezesCadaUmComSeuGuid)
     }
 }
 
+TEST_F(TTesteEventosDoContrato, AListaPassaAosFilhosDoS2206)
+{
+    const auto LEvento = CarregarS2206(D(2021, 3, 1));
+    auto& LAlteracao = LEvento->altContratual;
+    Executar("UPDATE EMPREGADOS SET CPF = '222'");
+    Salario(D(2021, 2, 1), 1000);
+    struct TCaso {
+        const TTarvoESocialCamposGrupoBase& Grupo;
+        const char* Cpf;
+        TDateTime Efeito;
+    };
+    const TCaso LCasos[] = {{*LEvento, "10111222354", TDateTime()},
+                            {LAlteracao, "10111222354", D(2021, 2, 1)},
+                            {LEvento->ideVinculo, "222", D(2021, 2, 1)}};
+    for (const auto& LCaso : LCasos) {
+        const TListaCamposModificados LLista{std::string(LCaso.Grupo.GuidClasse())};
+        LEvento->CarregarDados(&LLista);
+        EXPECT_EQ(LCaso.Cpf, LEvento->ideVinculo.cpfTrab) << LCaso.Grupo.GuidClasse();
+        EXPECT_EQ(LCaso.Efeito, LAlteracao.dtEf) << LCaso.Grupo.GuidClasse();
+    }
+}
+
 TEST_F(TTesteEventosDoContrato, OrdemDaCargaDoS2206)
 {
     std::vector<std::string> LOrdem;

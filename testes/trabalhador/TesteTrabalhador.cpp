@@ -353,6 +353,96 @@ TEST_F(TTesteTrabalhador, OrdemDaCarga)
     EXPECT_EQ(LEsperada, LOrdem);
 }
 
+TEST_F(TTesteTrabalhador, AListaAlcancaCadaGrupoESoEle)
+{
+    auto LGrupo = Carregar();
+    auto& LDocumentos = LGrupo->Documentos;
+    std::vector<std::string> LTextos;
+    Conexao().DefinirObservador([&](const TExecucaoSql& AExecucao) { LTextos.emplace_back(AExecucao.Sql); });
+    struct TCaso {
+        const TTarvoESocialCamposGrupoBase& Grupo;
+        const char* Marca;
+        std::size_t Quantidade = 1;
+    };
+    const TCaso LCasos[] = {{*LGrupo, "WITH RACACOR"},
+                            {LGrupo->Nascimento, "ESOCIALPAISNASC"},
+                            {LDocumentos, "", 0},
+                            {LDocumentos.Ctps, "CTPS_NUMERO"},
+                            {LDocumentos.Ric, "", 0},
+                            {LDocumentos.Rg, "NUMERO_RG"},
+                            {LDocumentos.Rne, "INSCRNE"},
+                            {LDocumentos.Oc, "INSCOC"},
+                            {LDocumentos.Cnh, "CART_NAC_HABILIT"},
+                            {LGrupo->Endereco, "", 0},
+                            {LGrupo->Endereco.Brasil, "MUNICIPIOS"},
+                            {LGrupo->Endereco.Exterior, "CA06_MUNICIPIO"},
+                            {LGrupo->TrabEstrangeiro, "CASADOBRASIL"},
+                            {LGrupo->InfoDeficiencia, "DEFICIENCIAOBS"},
+                            {LGrupo->Aposentadoria, "APOSENTADORIA"},
+                            {LGrupo->Contato, "EMPREGADOS.FONE", 3}};
+    for (const auto& LCaso : LCasos) {
+        LTextos.clear();
+        const TListaCamposModificados LLista{std::string(LCaso.Grupo.GuidClasse())};
+        LGrupo->CarregarDados(&LLista);
+        // The list of the dependants is read again in any case.
+        std::erase_if(LTextos, [](const auto& ATexto) { return ATexto.starts_with("SELECT DEPENDENTES.ID"); });
+        ASSERT_EQ(LCaso.Quantidade, LTextos.size()) << LCaso.Grupo.GuidClasse();
+        if (LCaso.Quantidade > 0) {
+            EXPECT_NE(std::string::npos, LTextos.front().find(LCaso.Marca)) << LTextos.front();
+        }
+    }
+}
+
+TEST_F(TTesteTrabalhador, FalhaNoMeioDeixaOQueJaVeio)
+{
+    auto LGrupo = Carregar();
+    Dependente(1, 1, 70, "Lia");
+    Inserir("CA06_PAIS", {{"IDPAIS", 31}, {"PAIS", 105}});
+    Definir("PAISNASCIMENTO", 31);
+    Definir("NOME", "Ana Maria");
+    Definir("FONE", "3210");
+    Tabela(6, "Brasil");
+    EXPECT_THROW(LGrupo->CarregarDados(), EDatabaseError);
+    EXPECT_EQ("Ana Maria", LGrupo->Nome);
+    EXPECT_EQ("", LGrupo->Contato.FoneCadEmpregado);
+    EXPECT_TRUE(LGrupo->Dependentes.empty());
+
+    Executar("UPDATE FP_ESOCIALTABELA SET CODIGO = '105'");
+    LGrupo->CarregarDados();
+    EXPECT_EQ("3210", LGrupo->Contato.FoneCadEmpregado);
+    EXPECT_EQ(1u, LGrupo->Dependentes.size());
+
+    // The key of a dependant is read as 32 bits: a longer one is refused rather than cut to another's.
+    Executar("UPDATE DEPENDENTES SET IDDEPENDENTE = 4294967297");
+    EXPECT_THROW(LGrupo->CarregarDados(), EIntOverflow);
+    EXPECT_TRUE(LGrupo->Dependentes.empty());
+}
+
+TEST_F(TTesteTrabalhador, GrupoDesligadoMantemOQueTinha)
+{
+    Definir("APOSENTADORIA", 71);
+    Definir("DATA_APOSENTADORIA", D(2020, 1, 1));
+    Definir("INSCOC", "987");
+    TTarvoESocialCamposTrabalhador LGrupo(ID_EMPREGADO);
+    LGrupo.Aposentadoria.SetCarregarDadosDoGrupo(false);
+    LGrupo.Documentos.SetCarregarDadosDoGrupo(false);
+    LGrupo.CarregarDados();
+    EXPECT_TRUE(LGrupo.Aposentadoria.DataAposentadoria.Vazia());
+    EXPECT_EQ(0, LGrupo.Aposentadoria.TipoAposent);
+    EXPECT_EQ("", LGrupo.Aposentadoria.DescAposent);
+    // The children of a group that is off load all the same.
+    EXPECT_EQ("987", LGrupo.Documentos.Oc.Numero);
+
+    LGrupo.Aposentadoria.SetCarregarDadosDoGrupo(true);
+    LGrupo.CarregarDados();
+    EXPECT_EQ(71, LGrupo.Aposentadoria.TipoAposent);
+    // A description that has an ELSE is emptied by the next load, a value that became null stays.
+    Definir("APOSENTADORIA", nullptr);
+    LGrupo.CarregarDados();
+    EXPECT_EQ("", LGrupo.Aposentadoria.DescAposent);
+    EXPECT_EQ(71, LGrupo.Aposentadoria.TipoAposent);
+}
+
 TEST_F(TTesteTrabalhador, IdentificacaoDoVinculo)
 {
     Definir("CPF", "101.112.223-54");
