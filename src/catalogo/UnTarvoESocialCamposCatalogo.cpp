@@ -6,6 +6,8 @@
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
 #include "imports/UnOvraConversoes.h"
 #include "tabelas/UnTarvoESocialCamposS1000.h"
+#include "trabalhador/s2190/UnTarvoESocialCamposS2190.h"
+#include "trabalhador/s2205/UnTarvoESocialCamposS2205.h"
 
 namespace tarvo {
 
@@ -49,6 +51,18 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          {{"AIDEmpresa", taId, "código interno da empresa"}, {"AData", taData, "data de referência"}},
          [](const TArgumentosDeEvento& A) {
              return Evento<tabelas::TTarvoESocialCamposS1000>(A.Id("AIDEmpresa"), A.Data("AData"));
+         }},
+        {"S-2190",
+         "Admissão de trabalhador, registro preliminar",
+         {{"AIDEmpregado", taId, "código interno do empregado"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<trabalhador::TTarvoESocialCamposS2190>(A.Id("AIDEmpregado"));
+         }},
+        {"S-2205",
+         "Alteração de dados cadastrais do trabalhador",
+         {{"AIDEmpregado", taId, "código interno do empregado"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<trabalhador::TTarvoESocialCamposS2205>(A.Id("AIDEmpregado"));
          }},
     };
     return LCatalogo;
