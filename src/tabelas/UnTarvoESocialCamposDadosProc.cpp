@@ -1,5 +1,6 @@
 #include "tabelas/UnTarvoESocialCamposDadosProc.h"
 
+#include "framework/UnTarvoESocialCamposListaDeGrupos.h"
 #include "imports/UnOvraFormat.h"
 #include "imports/UnTarvoConsultasGeral.h"
 
@@ -46,12 +47,8 @@ void TTarvoESocialCamposDadosProc::CarregarInfoSusp(const TListaCamposModificado
     static constexpr std::string_view SQL = R"(SELECT ES02_SPPROCDET.IDSPPROCDET
 FROM ES02_SPPROCDET
 WHERE ES02_SPPROCDET.IDSPPROC = %0:D)";
-    const auto LCds = TTarvoConsultasGeral::BuscarRegistrosSomenteLeitura(Format(SQL, FIdProcesso));
-    for (; !LCds->Eof(); LCds->Next()) {
-        auto LItem = std::make_unique<TTarvoESocialCamposInfoSusp>(LCds->FieldByName("IDSPPROCDET").AsLargeInt());
-        LItem->CarregarDados(AListaCamposModificados);
-        InfoSusp.push_back(std::move(LItem));
-    }
+    AcrescentarUmPorLinha(InfoSusp, TTarvoConsultasGeral::BuscarRegistrosSomenteLeitura(Format(SQL, FIdProcesso)),
+                          "IDSPPROCDET", AListaCamposModificados);
 }
 
 } // namespace tarvo::tabelas

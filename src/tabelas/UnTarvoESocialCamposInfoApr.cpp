@@ -1,5 +1,6 @@
 #include "tabelas/UnTarvoESocialCamposInfoApr.h"
 
+#include "framework/UnTarvoESocialCamposListaDeGrupos.h"
 #include "imports/UnOvraFormat.h"
 #include "imports/UnTarvoConsultasGeral.h"
 
@@ -62,11 +63,7 @@ WHERE FP_INFOGERALCFG.ORIGEM = 90
     const auto LCds = TTarvoConsultasGeral::BuscarRegistros(Format(
         SQL, FLugar.EhDepto ? "IDDEPARTAMENTOCFG" : "IDFILIALCFG", LCfg.Nome,
         CondicaoDaChave(LCfg, FLugar.Id, APRENDIZES), CondicaoDaValidade(LCfg, FData, TFimDaValidade::Inclusive)));
-    for (; !LCds->Eof(); LCds->Next()) {
-        auto LItem = std::make_unique<TTarvoESocialCamposInfoEntEduc>(LCds->FieldByName("IDINFOGERALCFG").AsLargeInt());
-        LItem->CarregarDados();
-        InfoEntEduc.push_back(std::move(LItem));
-    }
+    AcrescentarUmPorLinha(InfoEntEduc, LCds, "IDINFOGERALCFG");
 }
 
 } // namespace tarvo::tabelas
