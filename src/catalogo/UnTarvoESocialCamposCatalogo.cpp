@@ -13,14 +13,14 @@
 #include "sst/UnTarvoESocialCamposS2245.h"
 #include "tabelas/UnTarvoESocialCamposS1000.h"
 #include "tabelas/UnTarvoESocialCamposS1005.h"
+#include "tabelas/UnTarvoESocialCamposS1010.h"
 #include "tabelas/UnTarvoESocialCamposS1020.h"
 #include "tabelas/UnTarvoESocialCamposS1030.h"
 #include "tabelas/UnTarvoESocialCamposS1035.h"
 #include "tabelas/UnTarvoESocialCamposS1040.h"
+#include "tabelas/UnTarvoESocialCamposS1050.h"
 #include "tabelas/UnTarvoESocialCamposS1060.h"
 #include "tabelas/UnTarvoESocialCamposS1070.h"
-#include "tabelas/UnTarvoESocialCamposS1010.h"
-#include "tabelas/UnTarvoESocialCamposS1050.h"
 #include "trabalhador/s2100/UnTarvoESocialCamposS2100.h"
 #include "trabalhador/s2190/UnTarvoESocialCamposS2190.h"
 #include "trabalhador/s2200/UnTarvoESocialCamposS2200.h"
@@ -78,6 +78,28 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          [](const TArgumentosDeEvento& A) {
              return Evento<tabelas::TTarvoESocialCamposS1005>(A.Id("AIDEstab"), A.Id("AIDDepto"), A.Data("AData"));
          }},
+        {"S-1010",
+         "Tabela de rubricas",
+         {{"AIdVerba", taId, "código interno da verba; 0 para uma rubrica de RPA"},
+          {"AidEmpresa", taId, "código interno da empresa"},
+          {"AIdRubricaRpa", taId, "código interno da relação da rubrica de RPA; 0 para uma verba"},
+          {"ADataGeracao", taData, "data de referência"},
+          {"codIncCP", taInteiro, "incidência para a previdência social", false},
+          {"codIncIRRF", taInteiro, "incidência para o imposto de renda", false},
+          {"codIncFGTS", taInteiro, "incidência para o FGTS", false},
+          {"codIncSIND", taInteiro, "incidência para a contribuição sindical", false}},
+         [](const TArgumentosDeEvento& A) {
+             // Without any of the codes the event gets none at all, and leaves them empty.
+             std::shared_ptr<tabelas::TCodigosIncidenciaVerba> LCodigos;
+             if (A.Informado("codIncCP") || A.Informado("codIncIRRF") || A.Informado("codIncFGTS") ||
+                 A.Informado("codIncSIND"))
+                 LCodigos = std::make_shared<tabelas::TCodigosIncidenciaVerba>(tabelas::TCodigosIncidenciaVerba{
+                     A.Inteiro("codIncCP"), A.Inteiro("codIncIRRF"), A.Inteiro("codIncFGTS"), A.Inteiro("codIncSIND")});
+             auto LEvento = Evento<tabelas::TTarvoESocialCamposS1010>(
+                 A.Id("AIdVerba"), A.Id("AidEmpresa"), A.Id("AIdRubricaRpa"), A.Data("ADataGeracao"), LCodigos.get());
+             LEvento.Parametros = LCodigos;
+             return LEvento;
+         }},
         {"S-1020",
          "Lotações tributárias",
          {{"AIDEstab", taId, "código interno do estabelecimento"},
@@ -102,36 +124,6 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          [](const TArgumentosDeEvento& A) {
              return Evento<tabelas::TTarvoESocialCamposS1040>(A.Id("AIDCargosDescr"));
          }},
-        {"S-1060",
-         "Ambientes de trabalho",
-         {{"AIdAmbiente", taId, "código interno do ambiente"}},
-         [](const TArgumentosDeEvento& A) { return Evento<tabelas::TTarvoESocialCamposS1060>(A.Id("AIdAmbiente")); }},
-        {"S-1070",
-         "Processos administrativos e judiciais",
-         {{"AIdProcesso", taId, "código interno do processo"}},
-         [](const TArgumentosDeEvento& A) { return Evento<tabelas::TTarvoESocialCamposS1070>(A.Id("AIdProcesso")); }},
-        {"S-1010",
-         "Tabela de rubricas",
-         {{"AIdVerba", taId, "código interno da verba; 0 para uma rubrica de RPA"},
-          {"AidEmpresa", taId, "código interno da empresa"},
-          {"AIdRubricaRpa", taId, "código interno da relação da rubrica de RPA; 0 para uma verba"},
-          {"ADataGeracao", taData, "data de referência"},
-          {"codIncCP", taInteiro, "incidência para a previdência social", false},
-          {"codIncIRRF", taInteiro, "incidência para o imposto de renda", false},
-          {"codIncFGTS", taInteiro, "incidência para o FGTS", false},
-          {"codIncSIND", taInteiro, "incidência para a contribuição sindical", false}},
-         [](const TArgumentosDeEvento& A) {
-             // Without any of the codes the event gets none at all, and leaves them empty.
-             std::shared_ptr<tabelas::TCodigosIncidenciaVerba> LCodigos;
-             if (A.Informado("codIncCP") || A.Informado("codIncIRRF") || A.Informado("codIncFGTS") ||
-                 A.Informado("codIncSIND"))
-                 LCodigos = std::make_shared<tabelas::TCodigosIncidenciaVerba>(tabelas::TCodigosIncidenciaVerba{
-                     A.Inteiro("codIncCP"), A.Inteiro("codIncIRRF"), A.Inteiro("codIncFGTS"), A.Inteiro("codIncSIND")});
-             auto LEvento = Evento<tabelas::TTarvoESocialCamposS1010>(
-                 A.Id("AIdVerba"), A.Id("AidEmpresa"), A.Id("AIdRubricaRpa"), A.Data("ADataGeracao"), LCodigos.get());
-             LEvento.Parametros = LCodigos;
-             return LEvento;
-         }},
         {"S-1050",
          "Tabela de horários e turnos de trabalho",
          {{"AIdHorario", taId, "código interno do horário"},
@@ -141,6 +133,14 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
              return Evento<tabelas::TTarvoESocialCamposS1050>(A.Id("AIdHorario"), A.Id("AIdHorarioDet"),
                                                               static_cast<TDiaSemana>(A.Ordinal("ADiaSemana", 6)));
          }},
+        {"S-1060",
+         "Ambientes de trabalho",
+         {{"AIdAmbiente", taId, "código interno do ambiente"}},
+         [](const TArgumentosDeEvento& A) { return Evento<tabelas::TTarvoESocialCamposS1060>(A.Id("AIdAmbiente")); }},
+        {"S-1070",
+         "Processos administrativos e judiciais",
+         {{"AIdProcesso", taId, "código interno do processo"}},
+         [](const TArgumentosDeEvento& A) { return Evento<tabelas::TTarvoESocialCamposS1070>(A.Id("AIdProcesso")); }},
         {"S-2100",
          "Cadastramento inicial do vínculo",
          {{"AIDEmpregado", taId, "código interno do empregado"}, {"ADataGeracao", taData, "data de referência"}},
