@@ -3,7 +3,8 @@
 #include "imports/UnOvraConversoes.h"
 #include "imports/UnOvraFormat.h"
 
-namespace tarvo::remuneracao {
+namespace tarvo::remuneracao
+{
 
 std::string FormarIdeDmDev(const TDadosIdeDmDev& ADados)
 {
@@ -14,7 +15,8 @@ std::string FormarIdeDmDev(const TDadosIdeDmDev& ADados)
         LTexto += FormatFloat("0000000000", ADados.NrRecibo) + "_" + FormatDateTime("DD_MM_YYYY", ADados.Data);
         break;
     case TFormaIdeDmDev::Rescisao:
-        LTexto += FormatFloat("000", ADados.SubTipoFolha) + "_" + LConvocacao + FormatDateTime("DD_MM_YYYY", ADados.Data);
+        LTexto +=
+            FormatFloat("000", ADados.SubTipoFolha) + "_" + LConvocacao + FormatDateTime("DD_MM_YYYY", ADados.Data);
         break;
     case TFormaIdeDmDev::Folha:
         LTexto += FormatFloat("000", ADados.SubTipoFolha) + "_" + FormatFloat("0", ADados.TipoFolhaCompl) + "_" +

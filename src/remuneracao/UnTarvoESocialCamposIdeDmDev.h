@@ -6,7 +6,8 @@
 
 #include "imports/UnOvraDataHora.h"
 
-namespace tarvo::remuneracao {
+namespace tarvo::remuneracao
+{
 
 /// The three shapes of a demonstrative's identifier.
 enum class TFormaIdeDmDev : std::uint8_t {

@@ -3,8 +3,10 @@
 #include "apoio/UnBancoDeTeste.h"
 #include "remuneracao/UnTarvoESocialCamposIdeDmDev.h"
 
-namespace tarvo::testes {
-namespace {
+namespace tarvo::testes
+{
+namespace
+{
 
 using remuneracao::FormarIdeDmDev;
 using remuneracao::TDadosIdeDmDev;
@@ -25,7 +27,12 @@ TEST(TesteIdeDmDev, CadaCasoTemOSeuTexto)
          "05_002_15_01_2019"},
         {{.Forma = Rescisao, .TipoFolha = 5, .IdDetConvocacao = 9, .Data = D(2019, 1, 5), .CodCateg = 111},
          "05_000_0000000009_05_01_2019_111"},
-        {{.Forma = Recibo, .TipoFolha = 97, .SubTipoFolha = 3, .NrRecibo = 1234, .IdDetConvocacao = 57, .Data = D(2021, 3, 5)},
+        {{.Forma = Recibo,
+          .TipoFolha = 97,
+          .SubTipoFolha = 3,
+          .NrRecibo = 1234,
+          .IdDetConvocacao = 57,
+          .Data = D(2021, 3, 5)},
          "97_0000001234_05_03_2021"},
     };
     for (const auto& LCaso : LCasos)
@@ -34,9 +41,11 @@ TEST(TesteIdeDmDev, CadaCasoTemOSeuTexto)
 
 TEST(TesteIdeDmDev, NumerosMaioresQueAMascaraFicamInteiros)
 {
-    EXPECT_EQ("100_1040_12_12345678901_03_2021",
-              FormarIdeDmDev({.TipoFolha = 100, .SubTipoFolha = 1040, .TipoFolhaCompl = 12,
-                              .IdDetConvocacao = 12345678901, .Data = D(2021, 3, 1)}));
+    EXPECT_EQ("100_1040_12_12345678901_03_2021", FormarIdeDmDev({.TipoFolha = 100,
+                                                                 .SubTipoFolha = 1040,
+                                                                 .TipoFolhaCompl = 12,
+                                                                 .IdDetConvocacao = 12345678901,
+                                                                 .Data = D(2021, 3, 1)}));
 }
 
 } // namespace
