@@ -92,7 +92,7 @@ TArgumentosDeEvento::TArgumentosDeEvento(const std::vector<TArgumentoDeEvento>& 
                 Recusar("não é um número inteiro");
             }
             if (LDefinicao->Tipo == taInteiro && (LLido.Inteiro < std::numeric_limits<std::int32_t>::min() ||
-                                                LLido.Inteiro > std::numeric_limits<std::int32_t>::max()))
+                                                  LLido.Inteiro > std::numeric_limits<std::int32_t>::max()))
                 Recusar("está fora da faixa");
             break;
         case taData:

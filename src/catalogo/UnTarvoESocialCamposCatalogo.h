@@ -46,7 +46,8 @@ class TArgumentosDeEvento {
 public:
     /// EArgumentoInvalido for an unknown or missing name, or a text that is no value of its kind. Names match without
     /// regard to case.
-    TArgumentosDeEvento(const std::vector<TArgumentoDeEvento>& ADefinicoes, const std::map<std::string, std::string>& ATextos);
+    TArgumentosDeEvento(const std::vector<TArgumentoDeEvento>& ADefinicoes,
+                        const std::map<std::string, std::string>& ATextos);
 
     bool Informado(std::string_view ANome) const;
     std::int64_t Id(std::string_view ANome) const;

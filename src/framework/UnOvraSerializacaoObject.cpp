@@ -69,7 +69,8 @@ void EscreverValor(TEscritor& AEscritor, const TValorPropriedade& AValor)
     std::visit(TVisitante{AEscritor}, AValor);
 }
 
-void EscreverPropriedade(TEscritor& AEscritor, const TPropriedade& APropriedade, const TTarvoESocialCamposGrupoBase& AGrupo)
+void EscreverPropriedade(TEscritor& AEscritor, const TPropriedade& APropriedade,
+                         const TTarvoESocialCamposGrupoBase& AGrupo)
 {
     switch (APropriedade.Tipo()) {
     case TTipoPropriedade::Grupo:
