@@ -70,6 +70,12 @@ TEST_F(TTesteChavesDoLote, ArgumentoErradoOuEventoSemLote)
                            {{"IdEmpresa", "1"}, {"DataInicio", "2021-03-01"}, {"DataFim", "2021-03-31"}, {"Cpf", "1"}}),
         EArgumentoInvalido)
         << "the batch fills the CPF";
+    for (const char* LIndicador : {"2", "-1", "x"})
+        EXPECT_THROW(BuscarChavesDoLote("S-1200", {{"IdEmpresa", "1"},
+                                                   {"DataInicio", "2021-03-01"},
+                                                   {"DataFim", "2021-03-31"},
+                                                   {"IndApuracao", LIndicador}}),
+                     EArgumentoInvalido);
 }
 
 } // namespace
