@@ -3,8 +3,13 @@
 #include <algorithm>
 #include <limits>
 
+#include "framework/UnOvraSerializacaoObject.h"
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
+#include "imports/UnOvraConnection.h"
 #include "imports/UnOvraConversoes.h"
+#include "imports/UnOvraFormat.h"
+#include "imports/UnTarvoUtilsDb.h"
+#include "remuneracao/UnTarvoESocialCamposS1200.h"
 #include "sst/UnTarvoESocialCamposS2210.h"
 #include "sst/UnTarvoESocialCamposS2220.h"
 #include "sst/UnTarvoESocialCamposS2221.h"
@@ -55,6 +60,48 @@ TDateTime LerDataIso(std::string_view ATexto)
     const int LMes = LParte(5, 2);
     const int LDia = LParte(8, 2);
     return DataValida(LAno, LMes, LDia) ? EncodeDate(LAno, LMes, LDia) : TDateTime();
+}
+
+/// Everybody of a company by CPF: its employees, then the providers with a receipt of the company in the period who
+/// aren't among them. A CPF is taken as it is stored, and compared by its digits.
+std::string SqlDosCpfs(const TArgumentosDeEvento& AArgumentos)
+{
+    static constexpr std::string_view SQL = R"(SELECT CHAVES.CPF
+FROM (
+  SELECT PESSOAS.ORDEM, PESSOAS.CPF, MIN(PESSOAS.ORDEM) OVER (PARTITION BY PESSOAS.DIGITOS) AS PRIMEIRA
+  FROM (
+    SELECT 1 AS ORDEM, TRIM(EMPREGADOS.CPF) AS CPF,
+           REPLACE(REPLACE(REPLACE(EMPREGADOS.CPF,'.',''),'-',''),' ','') AS DIGITOS
+    FROM EMPREGADOS
+    WHERE EMPREGADOS.IDEMPRESA = %0:d
+    UNION
+    SELECT 2 AS ORDEM, MIN(TRIM(PREST_SERVICO.CPF)) AS CPF,
+           REPLACE(REPLACE(REPLACE(PREST_SERVICO.CPF,'.',''),'-',''),' ','') AS DIGITOS
+    FROM RPA
+    JOIN PREST_SERVICO ON (PREST_SERVICO.IDPRESTSERVICO = RPA.IDPRESTSERVICO)
+    JOIN SC00_FILIAL ON (SC00_FILIAL.IDFILIAL = RPA.IDFILIAL)
+    WHERE SC00_FILIAL.IDEMPRESA = %0:d
+      AND RPA.DATAPAGTO BETWEEN %1:s AND %2:s
+    GROUP BY 3
+  ) AS PESSOAS
+  WHERE PESSOAS.DIGITOS <> ''
+) AS CHAVES
+WHERE CHAVES.ORDEM = CHAVES.PRIMEIRA
+ORDER BY CHAVES.ORDEM, CHAVES.CPF)";
+    return Format(SQL, AArgumentos.Id("IdEmpresa"), FormatarDataDB(AArgumentos.Data("DataInicio"), true),
+                  FormatarDataDB(AArgumentos.Data("DataFim"), true));
+}
+
+/// A value of a key as text of an argument, and as JSON.
+std::pair<std::string, std::string> LerChave(const TConjuntoDeLinhas& ALinhas, std::size_t ALinha, std::size_t AColuna)
+{
+    const auto LTipo = ALinhas.Colunas()[AColuna].Tipo;
+    if (LTipo == TTipoColuna::Data || LTipo == TTipoColuna::DataHora) {
+        const auto LTexto = FormatDateTime("yyyy-mm-dd", ALinhas.Data(ALinha, AColuna));
+        return {LTexto, "\"" + LTexto + "\""};
+    }
+    const auto LTexto = ALinhas.Texto(ALinha, AColuna);
+    return {LTexto, LTipo == TTipoColuna::Inteiro ? LTexto : TextoJson(LTexto)};
 }
 
 } // namespace
@@ -116,7 +163,7 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          }},
         {"S-1035",
          "Carreiras públicas",
-         {{"AIdCargoDescr", taId, "código interno da carreira", true, "AIDCargosDescr"}},
+         {{"AIdCargoDescr", taId, "código interno da carreira", true, -1, "AIDCargosDescr"}},
          [](const TArgumentosDeEvento& A) { return Evento<tabelas::TTarvoESocialCamposS1035>(A.Id("AIdCargoDescr")); }},
         {"S-1040",
          "Funções e cargos em comissão",
@@ -141,6 +188,28 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          "Processos administrativos e judiciais",
          {{"AIdProcesso", taId, "código interno do processo"}},
          [](const TArgumentosDeEvento& A) { return Evento<tabelas::TTarvoESocialCamposS1070>(A.Id("AIdProcesso")); }},
+        {"S-1200",
+         "Remuneração de trabalhador vinculado ao RGPS",
+         {{"IdEmpresa", taId, "código interno da empresa"},
+          {"Cpf", taCpf, "CPF do trabalhador, como está no cadastro"},
+          {"DataInicio", taData, "primeiro dia do mês"},
+          {"DataFim", taData, "último dia do mês"},
+          {"IndApuracao", taInteiro, "0 mensal (padrão), 1 anual (13º salário)", false, 1}},
+         [](const TArgumentosDeEvento& A) {
+             auto LParametros = std::make_shared<remuneracao::TTarvoESocialCamposS1200IOP>();
+             LParametros->SetIdEmpresa(A.Id("IdEmpresa"));
+             LParametros->SetCpf(A.Texto("Cpf"));
+             LParametros->SetDataInicio(A.Data("DataInicio"));
+             LParametros->SetDataFim(A.Data("DataFim"));
+             LParametros->SetIndApuracao(static_cast<tpIndApuracao>(A.Inteiro("IndApuracao")));
+             auto LEvento = std::make_unique<remuneracao::TTarvoESocialCamposS1200>(*LParametros);
+             return TEventoConstruido{std::move(LParametros), std::move(LEvento)};
+         },
+         TLoteDoEvento{{{"IdEmpresa", taId, "código interno da empresa"},
+                        {"DataInicio", taData, "primeiro dia do mês"},
+                        {"DataFim", taData, "último dia do mês"},
+                        {"IndApuracao", taInteiro, "0 mensal (padrão), 1 anual (13º salário)", false, 1}},
+                       SqlDosCpfs}},
         {"S-2100",
          "Cadastramento inicial do vínculo",
          {{"AIDEmpregado", taId, "código interno do empregado"}, {"ADataGeracao", taData, "data de referência"}},
@@ -220,6 +289,45 @@ TEventoConstruido ConstruirEvento(std::string_view ACodigo, const std::map<std::
     return LEvento.Construir(TArgumentosDeEvento(LEvento.Argumentos, AArgumentos));
 }
 
+std::vector<TChaveDoLote> BuscarChavesDoLote(std::string_view ACodigo,
+                                             const std::map<std::string, std::string>& AArgumentos)
+{
+    const auto& LEvento = BuscarEventoDoCatalogo(ACodigo);
+    if (!LEvento.Lote)
+        throw EArgumentoInvalido("O evento " + std::string(LEvento.Codigo) + " não é carregado em lote");
+    const auto LLinhas = OvraConnection().Consultar(
+        LEvento.Lote->SqlDasChaves(TArgumentosDeEvento(LEvento.Lote->Argumentos, AArgumentos)));
+
+    // What the batch alone needs, such as the company, is no argument of the event.
+    std::map<std::string, std::string> LComuns;
+    for (const auto& [LNome, LTexto] : AArgumentos)
+        if (std::any_of(LEvento.Argumentos.begin(), LEvento.Argumentos.end(),
+                        [&](const auto& AArgumento) { return MesmoTexto(AArgumento.Nome, LNome); }))
+            LComuns.emplace(LNome, LTexto);
+
+    const auto& LColunas = LLinhas.Colunas();
+    std::vector<TChaveDoLote> LChaves;
+    LChaves.reserve(LLinhas.QuantidadeDeLinhas());
+    for (std::size_t LLinha = 0; LLinha < LLinhas.QuantidadeDeLinhas(); ++LLinha) {
+        TChaveDoLote LChave{LComuns, {}};
+        for (std::size_t LColuna = 0; LColuna < LColunas.size(); ++LColuna) {
+            const auto LArgumento =
+                std::find_if(LEvento.Argumentos.begin(), LEvento.Argumentos.end(), [&](const auto& AArgumento) {
+                    return MesmoTexto(AArgumento.Nome, LColunas[LColuna].Nome);
+                });
+            const std::string LNome =
+                LArgumento == LEvento.Argumentos.end() ? LColunas[LColuna].Nome : LArgumento->Nome;
+            auto [LTexto, LJson] = LerChave(LLinhas, LLinha, LColuna);
+            LChave.Argumentos.insert_or_assign(LNome, std::move(LTexto));
+            LChave.Json += (LColuna == 0 ? "" : ",") + (LColunas.size() == 1 ? LJson : TextoJson(LNome) + ":" + LJson);
+        }
+        if (LColunas.size() > 1)
+            LChave.Json = "{" + LChave.Json + "}";
+        LChaves.push_back(std::move(LChave));
+    }
+    return LChaves;
+}
+
 TArgumentosDeEvento::TArgumentosDeEvento(const std::vector<TArgumentoDeEvento>& ADefinicoes,
                                          const std::map<std::string, std::string>& ATextos)
 {
@@ -229,7 +337,8 @@ TArgumentosDeEvento::TArgumentosDeEvento(const std::vector<TArgumentoDeEvento>& 
         });
         if (LDefinicao == ADefinicoes.end())
             throw EArgumentoInvalido("Argumento desconhecido: --" + LNome);
-        const auto Recusar = [&, &LNomeDoArgumento = LDefinicao->Nome, &LValor = LTexto](const char* AMotivo) -> void {
+        const auto Recusar = [&, &LNomeDoArgumento = LDefinicao->Nome,
+                              &LValor = LTexto](const std::string& AMotivo) -> void {
             throw EArgumentoInvalido(std::string("Argumento --") + LNomeDoArgumento + ": '" + LValor + "' " + AMotivo);
         };
         TValor LLido;
@@ -245,6 +354,8 @@ TArgumentosDeEvento::TArgumentosDeEvento(const std::vector<TArgumentoDeEvento>& 
             if (LDefinicao->Tipo == taInteiro && (LLido.Inteiro < std::numeric_limits<std::int32_t>::min() ||
                                                   LLido.Inteiro > std::numeric_limits<std::int32_t>::max()))
                 Recusar("está fora da faixa");
+            if (LDefinicao->UltimoOrdinal >= 0 && (LLido.Inteiro < 0 || LLido.Inteiro > LDefinicao->UltimoOrdinal))
+                Recusar("não é um dos valores, de 0 a " + IntToStr(LDefinicao->UltimoOrdinal));
             break;
         case taData:
             LLido.Data = LerDataIso(LTexto);
