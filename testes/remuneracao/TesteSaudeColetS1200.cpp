@@ -3,6 +3,7 @@
 #include "remuneracao/UnTarvoESocialCamposInfoAgNocivoS1200.h"
 #include "remuneracao/UnTarvoESocialCamposInfoSaudeColetS1200.h"
 #include "remuneracao/UnTarvoESocialCamposInfoTrabInterm.h"
+#include "remuneracao/UnTarvoESocialCamposS1200.h"
 #include "remuneracao/UnTarvoESocialCamposinfoSaudeColet.h"
 
 namespace tarvo::testes {
@@ -183,6 +184,25 @@ TEST(TTesteDiasDoPlanoDeSaude, PeriodoQueContaOsDias)
         EXPECT_DOUBLE_EQ(LCaso.Esperado, static_cast<double>(tabelas::ProporcionalizarPelosDias(60, LCaso.Inicio,
                                                                                                 LCaso.Fim, LCaso.Dias)))
             << LCaso.Inicio.Valor() << " " << LCaso.Fim.Valor() << " " << LCaso.Dias;
+}
+
+TEST_F(TTesteSaudeColetS1200, FolhaComplementarEReciboNaoTemPlano)
+{
+    Dependente("Lia", 30);
+    Calculo(38, 100);
+    Complementar(1, 2, D(2021, 3, 1), D(2021, 3, 31), D(2021, 3, 31));
+    Calculo(38, 50, {.SubTipo = 4});
+    Prestador(5, "11122233396", 101);
+    Recibo(1, 1234, 5, D(2021, 3, 5), 60);
+    remuneracao::TTarvoESocialCamposS1200 LEvento(Info);
+    LEvento.CarregarDados();
+    std::string LPlanos;
+    for (const auto& LDmDev : LEvento.dmDev) {
+        const auto& LPlano = LDmDev->infoPerApur.ideEstabLot.at(0)->remunPerApur.at(0)->InfoSaudeColet;
+        LPlanos += LDmDev->ideDmDev + "=" + std::to_string(LPlano.detOper.size()) + "/" +
+                   std::to_string(LPlano.IdFilial) + " ";
+    }
+    EXPECT_EQ("01_000_0_03_2021=1/1 01_004_2_03_2021=0/0 97_0000001234_05_03_2021=0/1 ", LPlanos);
 }
 
 TEST_F(TTesteSaudeColetS1200, DependenteSemTipoFicaNaListaSemValor)
