@@ -173,7 +173,7 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
           {"Cpf", taCpf, "CPF do trabalhador, como está no cadastro"},
           {"DataInicio", taData, "primeiro dia do mês"},
           {"DataFim", taData, "último dia do mês"},
-          {"IndApuracao", taInteiro, "0 mensal (padrão), 1 anual (13º salário)", false}},
+          {"IndApuracao", taInteiro, "0 mensal (padrão), 1 anual (13º salário)", false, 1}},
          [](const TArgumentosDeEvento& A) {
              auto LParametros = std::make_shared<remuneracao::TTarvoESocialCamposS1200IOP>();
              LParametros->SetIdEmpresa(A.Id("IdEmpresa"));
@@ -187,7 +187,7 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          TLoteDoEvento{{{"IdEmpresa", taId, "código interno da empresa"},
                         {"DataInicio", taData, "primeiro dia do mês"},
                         {"DataFim", taData, "último dia do mês"},
-                        {"IndApuracao", taInteiro, "0 mensal (padrão), 1 anual (13º salário)", false}},
+                        {"IndApuracao", taInteiro, "0 mensal (padrão), 1 anual (13º salário)", false, 1}},
                        SqlDosCpfs}},
     };
     return LCatalogo;
@@ -256,7 +256,8 @@ TArgumentosDeEvento::TArgumentosDeEvento(const std::vector<TArgumentoDeEvento>& 
                                              [&](const auto& AItem) { return MesmoTexto(AItem.Nome, LNome); });
         if (LDefinicao == ADefinicoes.end())
             throw EArgumentoInvalido("Argumento desconhecido: --" + LNome);
-        const auto Recusar = [&, &LNomeDoArgumento = LDefinicao->Nome, &LValor = LTexto](const char* AMotivo) -> void {
+        const auto Recusar = [&, &LNomeDoArgumento = LDefinicao->Nome,
+                              &LValor = LTexto](const std::string& AMotivo) -> void {
             throw EArgumentoInvalido(std::string("Argumento --") + LNomeDoArgumento + ": '" + LValor + "' " + AMotivo);
         };
         TValor LLido;
@@ -272,6 +273,8 @@ TArgumentosDeEvento::TArgumentosDeEvento(const std::vector<TArgumentoDeEvento>& 
             if (LDefinicao->Tipo == taInteiro && (LLido.Inteiro < std::numeric_limits<std::int32_t>::min() ||
                                                   LLido.Inteiro > std::numeric_limits<std::int32_t>::max()))
                 Recusar("está fora da faixa");
+            if (LDefinicao->UltimoOrdinal >= 0 && (LLido.Inteiro < 0 || LLido.Inteiro > LDefinicao->UltimoOrdinal))
+                Recusar("não é um dos valores, de 0 a " + IntToStr(LDefinicao->UltimoOrdinal));
             break;
         case taData:
             LLido.Data = LerDataIso(LTexto);

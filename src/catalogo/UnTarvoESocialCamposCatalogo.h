@@ -39,6 +39,8 @@ struct TArgumentoDeEvento {
     /// What it is, for a payroll person.
     const char* Descricao;
     bool Obrigatorio = true;
+    /// Of a taInteiro that is an enumeration, its last ordinal; the first is 0.
+    std::int32_t UltimoOrdinal = -1;
 };
 
 /// The values of an event's arguments, checked against their kinds. An optional argument that was not given reads
