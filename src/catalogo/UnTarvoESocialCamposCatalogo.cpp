@@ -5,6 +5,8 @@
 
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
 #include "imports/UnOvraConversoes.h"
+#include "imports/pcesConversaoeSocial.h"
+#include "pagamento/UnTarvoESocialCamposS1210.h"
 #include "tabelas/UnTarvoESocialCamposS1000.h"
 
 namespace tarvo {
@@ -18,6 +20,21 @@ template <class T, class... A>
 TEventoConstruido Evento(const A&... AArgumentos)
 {
     return {nullptr, std::make_unique<T>(AArgumentos...)};
+}
+
+TEventoConstruido EventoS1210(const TArgumentosDeEvento& A)
+{
+    auto LInfoBind = std::make_shared<pagamento::TTarvoESocialCamposS1210IOP>();
+    LInfoBind->IdEmpresa = A.Id("IdEmpresa");
+    LInfoBind->Cpf = A.Texto("Cpf");
+    LInfoBind->DataInicio = A.Data("DataInicio");
+    LInfoBind->DataFim = A.Data("DataFim");
+    LInfoBind->DataInicioVigencia = A.Data("DataInicioVigencia");
+    LInfoBind->TipoTrabalhador = A.Ordinal("TipoTrabalhador", TTipoTrabalhador::Prestador);
+    // Taken as the remuneration takes it, so that one command line serves both; payments are the same either way.
+    A.Ordinal("IndApuracao", tpIndApuracao::Anual);
+    auto LEvento = std::make_unique<pagamento::TTarvoESocialCamposS1210>(*LInfoBind);
+    return {std::move(LInfoBind), std::move(LEvento)};
 }
 
 bool EhDigito(char AChar) { return AChar >= '0' && AChar <= '9'; }
@@ -50,6 +67,16 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          [](const TArgumentosDeEvento& A) {
              return Evento<tabelas::TTarvoESocialCamposS1000>(A.Id("AIDEmpresa"), A.Data("AData"));
          }},
+        {"S-1210",
+         "Pagamentos de rendimentos do trabalho",
+         {{"IdEmpresa", taId, "código interno da empresa"},
+          {"Cpf", taCpf, "CPF do beneficiário"},
+          {"DataInicio", taData, "primeiro dia do período"},
+          {"DataFim", taData, "último dia do período"},
+          {"IndApuracao", taInteiro, "0 mensal, 1 anual; não muda os pagamentos", false},
+          {"TipoTrabalhador", taInteiro, "0 empregado, 1 prestador de serviço", false},
+          {"DataInicioVigencia", taData, "início do leiaute: o que é anterior vai como pagamento anterior", false}},
+         EventoS1210},
     };
     return LCatalogo;
 }
@@ -132,6 +159,15 @@ const TArgumentosDeEvento::TValor& TArgumentosDeEvento::Buscar(std::string_view 
 }
 
 std::int64_t TArgumentosDeEvento::Id(std::string_view ANome) const { return Buscar(ANome).Inteiro; }
+
+std::int32_t TArgumentosDeEvento::InteiroAte(std::string_view ANome, std::int32_t AUltimo) const
+{
+    const auto LValor = Inteiro(ANome);
+    if (LValor < 0 || LValor > AUltimo)
+        throw EArgumentoInvalido("Argumento --" + std::string(ANome) + ": '" + IntToStr(LValor) +
+                                 "' não está entre 0 e " + IntToStr(AUltimo));
+    return LValor;
+}
 
 std::int32_t TArgumentosDeEvento::Inteiro(std::string_view ANome) const
 {

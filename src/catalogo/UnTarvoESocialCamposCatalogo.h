@@ -52,6 +52,12 @@ public:
     bool Informado(std::string_view ANome) const;
     std::int64_t Id(std::string_view ANome) const;
     std::int32_t Inteiro(std::string_view ANome) const;
+    /// A value of an enumeration whose ordinals run from 0 to that of AUltimo; EArgumentoInvalido for any other.
+    template <class T>
+    T Ordinal(std::string_view ANome, T AUltimo) const
+    {
+        return static_cast<T>(InteiroAte(ANome, static_cast<std::int32_t>(AUltimo)));
+    }
     TDateTime Data(std::string_view ANome) const;
     /// A text or a CPF, as it was given.
     std::string Texto(std::string_view ANome) const;
@@ -63,6 +69,7 @@ private:
         std::string Texto;
     };
     const TValor& Buscar(std::string_view ANome) const;
+    std::int32_t InteiroAte(std::string_view ANome, std::int32_t AUltimo) const;
     std::map<std::string, TValor, std::less<>> FValores;
 };
 
