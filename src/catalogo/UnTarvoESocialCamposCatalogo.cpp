@@ -8,6 +8,11 @@
 #include "imports/pcesConversaoeSocial.h"
 #include "pagamento/UnTarvoESocialCamposS1210.h"
 #include "tabelas/UnTarvoESocialCamposS1000.h"
+#include "trabalhador/s2100/UnTarvoESocialCamposS2100.h"
+#include "trabalhador/s2190/UnTarvoESocialCamposS2190.h"
+#include "trabalhador/s2200/UnTarvoESocialCamposS2200.h"
+#include "trabalhador/s2205/UnTarvoESocialCamposS2205.h"
+#include "trabalhador/s2206/UnTarvoESocialCamposS2206.h"
 
 namespace tarvo {
 
@@ -77,6 +82,39 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
           {"TipoTrabalhador", taInteiro, "0 empregado, 1 prestador de serviço", false},
           {"DataInicioVigencia", taData, "início do leiaute: o que é anterior vai como pagamento anterior", false}},
          EventoS1210},
+        {"S-2100",
+         "Cadastramento inicial do vínculo",
+         {{"AIDEmpregado", taId, "código interno do empregado"}, {"ADataGeracao", taData, "data de referência"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<trabalhador::TTarvoESocialCamposS2100>(A.Id("AIDEmpregado"), A.Data("ADataGeracao"));
+         }},
+        {"S-2190",
+         "Admissão de trabalhador, registro preliminar",
+         {{"AIDEmpregado", taId, "código interno do empregado"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<trabalhador::TTarvoESocialCamposS2190>(A.Id("AIDEmpregado"));
+         }},
+        {"S-2200",
+         "Admissão de trabalhador",
+         {{"AIDEmpresa", taId, "código interno da empresa"},
+          {"AIDEmpregado", taId, "código interno do empregado"},
+          {"ADataGeracao", taData, "data de referência"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<trabalhador::TTarvoESocialCamposS2200>(A.Id("AIDEmpresa"), A.Id("AIDEmpregado"),
+                                                                  A.Data("ADataGeracao"));
+         }},
+        {"S-2205",
+         "Alteração de dados cadastrais do trabalhador",
+         {{"AIDEmpregado", taId, "código interno do empregado"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<trabalhador::TTarvoESocialCamposS2205>(A.Id("AIDEmpregado"));
+         }},
+        {"S-2206",
+         "Alteração de contrato de trabalho",
+         {{"AIDEmpregado", taId, "código interno do empregado"}, {"AData", taData, "data de referência"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<trabalhador::TTarvoESocialCamposS2206>(A.Id("AIDEmpregado"), A.Data("AData"));
+         }},
     };
     return LCatalogo;
 }

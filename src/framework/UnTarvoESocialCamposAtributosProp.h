@@ -324,7 +324,7 @@ public:
     auto begin() const { return FItens.begin(); }
     auto end() const { return FItens.end(); }
     std::size_t size() const { return FItens.size(); }
-    /// By name, exact before without regard to case (the layouts tell no two tags of a group apart by case alone).
+    /// By name, exact before without regard to case: two tags of a group may differ by case alone (ServPubl, servPubl).
     const TPropriedade* Buscar(std::string_view ANome) const;
 
 private:
