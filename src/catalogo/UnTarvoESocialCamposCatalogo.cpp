@@ -7,6 +7,12 @@
 #include "imports/UnOvraConversoes.h"
 #include "imports/pcesConversaoeSocial.h"
 #include "pagamento/UnTarvoESocialCamposS1210.h"
+#include "sst/UnTarvoESocialCamposS2210.h"
+#include "sst/UnTarvoESocialCamposS2220.h"
+#include "sst/UnTarvoESocialCamposS2221.h"
+#include "sst/UnTarvoESocialCamposS2240.h"
+#include "sst/UnTarvoESocialCamposS2241.h"
+#include "sst/UnTarvoESocialCamposS2245.h"
 #include "tabelas/UnTarvoESocialCamposS1000.h"
 #include "trabalhador/s2100/UnTarvoESocialCamposS2100.h"
 #include "trabalhador/s2190/UnTarvoESocialCamposS2190.h"
@@ -115,6 +121,32 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          [](const TArgumentosDeEvento& A) {
              return Evento<trabalhador::TTarvoESocialCamposS2206>(A.Id("AIDEmpregado"), A.Data("AData"));
          }},
+        {"S-2210",
+         "Comunicação de acidente de trabalho",
+         {{"AIdTabCat", taId, "código interno da CAT"}},
+         [](const TArgumentosDeEvento& A) { return Evento<sst::TTarvoESocialCamposS2210>(A.Id("AIdTabCat")); }},
+        {"S-2220",
+         "Monitoramento da saúde do trabalhador",
+         {{"AIDEmpregado", taId, "código interno do empregado"}},
+         [](const TArgumentosDeEvento& A) { return Evento<sst::TTarvoESocialCamposS2220>(A.Id("AIDEmpregado")); }},
+        {"S-2221",
+         "Exame toxicológico do motorista profissional",
+         {{"AIdExameToxicologico", taId, "código interno do exame"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<sst::TTarvoESocialCamposS2221>(A.Id("AIdExameToxicologico"));
+         }},
+        {"S-2240",
+         "Condições ambientais do trabalho: fatores de risco",
+         {{"AIdFatRisco", taId, "código interno do fator de risco"}},
+         [](const TArgumentosDeEvento& A) { return Evento<sst::TTarvoESocialCamposS2240>(A.Id("AIdFatRisco")); }},
+        {"S-2241",
+         "Insalubridade, periculosidade e aposentadoria especial",
+         {{"AIdInsalPeric", taId, "código interno da condição"}},
+         [](const TArgumentosDeEvento& A) { return Evento<sst::TTarvoESocialCamposS2241>(A.Id("AIdInsalPeric")); }},
+        {"S-2245",
+         "Treinamentos e capacitações",
+         {{"AIdCursoEmpregado", taId, "código interno do curso do empregado"}},
+         [](const TArgumentosDeEvento& A) { return Evento<sst::TTarvoESocialCamposS2245>(A.Id("AIdCursoEmpregado")); }},
     };
     return LCatalogo;
 }

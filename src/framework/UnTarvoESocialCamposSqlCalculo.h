@@ -14,6 +14,10 @@ namespace tarvo
 
 // Rules on calculated rows (CALCULO, CALC_QUEBRA, CALCCOMPL...) that hold alike for remuneration and for termination.
 
+/// Sum of two amounts that are held as floating numbers, exact to the fourth decimal: cents stay cents, where a binary
+/// sum would show 508.40999999999997.
+inline double SomarQuantias(double A, double B) { return (Currency(A) + Currency(B)).ParaDouble(); }
+
 /// The rows of CALCULO that the break table doesn't split.
 inline constexpr std::string_view CALCULO_SEM_QUEBRA =
     "NOT EXISTS (SELECT CALC_QUEBRA.IDCALCQUEBRA FROM CALC_QUEBRA WHERE CALCULO.IDCALCULO = CALC_QUEBRA.IDCALCULO)";
@@ -43,11 +47,11 @@ requires std::same_as<TValor, double> || std::same_as<TValor, Currency>
 void SomarFeriasComplementares(std::vector<TDado>& ALista, std::int64_t TDado::*AIdVerba, TValor TDado::*ABase,
                                TValor TDado::*AValor, const std::string& ASql)
 {
-    const auto Ler = [](const TField& AField) {
+    const auto Somar = [](TValor& AQuantia, const TField& AField) {
         if constexpr (std::same_as<TValor, double>)
-            return AField.AsFloat();
+            AQuantia = SomarQuantias(AQuantia, AField.AsCurrency().ParaDouble());
         else
-            return AField.AsCurrency();
+            AQuantia += AField.AsCurrency();
     };
     const auto LCds = TTarvoConsultasGeral::BuscarRegistrosSomenteLeitura(ASql);
     for (; !LCds->Eof(); LCds->Next()) {
@@ -55,8 +59,8 @@ void SomarFeriasComplementares(std::vector<TDado>& ALista, std::int64_t TDado::*
         for (auto& LDado : ALista) {
             if (LDado.*AIdVerba != LIdVerba)
                 continue;
-            LDado.*ABase += Ler(LCds->FieldByName("BASE"));
-            LDado.*AValor += Ler(LCds->FieldByName("VALOR"));
+            Somar(LDado.*ABase, LCds->FieldByName("BASE"));
+            Somar(LDado.*AValor, LCds->FieldByName("VALOR"));
             break;
         }
     }

@@ -1,5 +1,6 @@
 #include "remuneracao/UnTarvoESocialCamposItensRemunS1200.h"
 
+#include "framework/UnTarvoESocialCamposSqlCalculo.h"
 #include "framework/UnTarvoESocialCamposSqlConfiguracao.h"
 #include "imports/UnOvraConversoes.h"
 #include "imports/UnOvraExcecoes.h"
@@ -63,11 +64,12 @@ void TTarvoESocialCamposItensRemunS1200::CarregarDados(const TListaCamposModific
         if (FItemCalculo.Horas == "Sim" || LFormula.starts_with("4T"))
             qtdRubr = TTarvoUtilsMatematica::ConverterHorasEmDecimais(FItemCalculo.Referencia);
         if (LFormula.starts_with("9"))
-            fatorRubr += FItemCalculo.Referencia;
+            fatorRubr = SomarQuantias(fatorRubr, FItemCalculo.Referencia);
         if (LFormula.starts_with("1C") || LFormula == "1Z" || LFormula == "3G" || LFormula == "3C")
-            fatorRubr += FItemCalculo.Vlr_Calc;
+            fatorRubr = SomarQuantias(fatorRubr, FItemCalculo.Vlr_Calc);
     }
-    vrRubr += TTarvoConsultasGeral::VerbaUsaBase(LNatRubr, LFormula) ? FItemCalculo.Base : FItemCalculo.Valor;
+    vrRubr = SomarQuantias(vrRubr, TTarvoConsultasGeral::VerbaUsaBase(LNatRubr, LFormula) ? FItemCalculo.Base
+                                                                                          : FItemCalculo.Valor);
     IdVerba = FItemCalculo.IdVerba;
 }
 

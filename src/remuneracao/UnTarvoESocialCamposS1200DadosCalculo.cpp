@@ -170,6 +170,7 @@ void TTarvoESocialCamposS1200DadosCalculo::AdicionarVerbasDeFeriasComplementares
                                                       FInfoBind.DataInicio(), FInfoBind.DataFim()));
 }
 
+// Without a test of the convocation: the run outside any convocation takes the rows of all of them along. That is meant.
 TDataset TTarvoESocialCamposS1200DadosCalculo::BuscarDadosFolhaNormal()
 {
     const auto LCondicoes = Format(
