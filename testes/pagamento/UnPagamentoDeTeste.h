@@ -1,6 +1,8 @@
 #pragma once
 
 #include "apoio/UnBancoDeTeste.h"
+#include "imports/UnOvraConversoes.h"
+#include "imports/UnOvraExcecoes.h"
 #include "pagamento/UnTarvoESocialCamposS1210.h"
 
 namespace tarvo::testes {
