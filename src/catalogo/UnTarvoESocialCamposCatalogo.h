@@ -52,12 +52,8 @@ public:
     bool Informado(std::string_view ANome) const;
     std::int64_t Id(std::string_view ANome) const;
     std::int32_t Inteiro(std::string_view ANome) const;
-    /// A value of an enumeration whose ordinals run from 0 to that of AUltimo; EArgumentoInvalido for any other.
-    template <class T>
-    T Ordinal(std::string_view ANome, T AUltimo) const
-    {
-        return static_cast<T>(InteiroAte(ANome, static_cast<std::int32_t>(AUltimo)));
-    }
+    /// The ordinal of an enumeration; EArgumentoInvalido when it isn't one of 0 to AMaximo.
+    std::int32_t Ordinal(std::string_view ANome, std::int32_t AMaximo) const;
     TDateTime Data(std::string_view ANome) const;
     /// A text or a CPF, as it was given.
     std::string Texto(std::string_view ANome) const;
@@ -69,7 +65,6 @@ private:
         std::string Texto;
     };
     const TValor& Buscar(std::string_view ANome) const;
-    std::int32_t InteiroAte(std::string_view ANome, std::int32_t AUltimo) const;
     std::map<std::string, TValor, std::less<>> FValores;
 };
 
