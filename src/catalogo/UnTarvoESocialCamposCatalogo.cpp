@@ -3,9 +3,14 @@
 #include <algorithm>
 #include <limits>
 
+#include "framework/UnOvraSerializacaoObject.h"
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
+#include "imports/UnOvraConnection.h"
 #include "imports/UnOvraConversoes.h"
 #include "pagamento/UnTarvoESocialCamposS1210.h"
+#include "imports/UnOvraFormat.h"
+#include "imports/UnTarvoUtilsDb.h"
+#include "remuneracao/UnTarvoESocialCamposS1200.h"
 #include "sst/UnTarvoESocialCamposS2210.h"
 #include "sst/UnTarvoESocialCamposS2220.h"
 #include "sst/UnTarvoESocialCamposS2221.h"
@@ -64,6 +69,48 @@ TDateTime LerDataIso(std::string_view ATexto)
     const int LMes = LParte(5, 2);
     const int LDia = LParte(8, 2);
     return DataValida(LAno, LMes, LDia) ? EncodeDate(LAno, LMes, LDia) : TDateTime();
+}
+
+/// Everybody of a company by CPF: its employees, then the providers with a receipt of the company in the period who
+/// aren't among them. A CPF is taken as it is stored, and compared by its digits.
+std::string SqlDosCpfs(const TArgumentosDeEvento& AArgumentos)
+{
+    static constexpr std::string_view SQL = R"(SELECT CHAVES.CPF
+FROM (
+  SELECT PESSOAS.ORDEM, PESSOAS.CPF, MIN(PESSOAS.ORDEM) OVER (PARTITION BY PESSOAS.DIGITOS) AS PRIMEIRA
+  FROM (
+    SELECT 1 AS ORDEM, TRIM(EMPREGADOS.CPF) AS CPF,
+           REPLACE(REPLACE(REPLACE(EMPREGADOS.CPF,'.',''),'-',''),' ','') AS DIGITOS
+    FROM EMPREGADOS
+    WHERE EMPREGADOS.IDEMPRESA = %0:d
+    UNION
+    SELECT 2 AS ORDEM, MIN(TRIM(PREST_SERVICO.CPF)) AS CPF,
+           REPLACE(REPLACE(REPLACE(PREST_SERVICO.CPF,'.',''),'-',''),' ','') AS DIGITOS
+    FROM RPA
+    JOIN PREST_SERVICO ON (PREST_SERVICO.IDPRESTSERVICO = RPA.IDPRESTSERVICO)
+    JOIN SC00_FILIAL ON (SC00_FILIAL.IDFILIAL = RPA.IDFILIAL)
+    WHERE SC00_FILIAL.IDEMPRESA = %0:d
+      AND RPA.DATAPAGTO BETWEEN %1:s AND %2:s
+    GROUP BY 3
+  ) AS PESSOAS
+  WHERE PESSOAS.DIGITOS <> ''
+) AS CHAVES
+WHERE CHAVES.ORDEM = CHAVES.PRIMEIRA
+ORDER BY CHAVES.ORDEM, CHAVES.CPF)";
+    return Format(SQL, AArgumentos.Id("IdEmpresa"), FormatarDataDB(AArgumentos.Data("DataInicio"), true),
+                  FormatarDataDB(AArgumentos.Data("DataFim"), true));
+}
+
+/// A value of a key as text of an argument, and as JSON.
+std::pair<std::string, std::string> LerChave(const TConjuntoDeLinhas& ALinhas, std::size_t ALinha, std::size_t AColuna)
+{
+    const auto LTipo = ALinhas.Colunas()[AColuna].Tipo;
+    if (LTipo == TTipoColuna::Data || LTipo == TTipoColuna::DataHora) {
+        const auto LTexto = FormatDateTime("yyyy-mm-dd", ALinhas.Data(ALinha, AColuna));
+        return {LTexto, "\"" + LTexto + "\""};
+    }
+    const auto LTexto = ALinhas.Texto(ALinha, AColuna);
+    return {LTexto, LTipo == TTipoColuna::Inteiro ? LTexto : TextoJson(LTexto)};
 }
 
 } // namespace
@@ -179,6 +226,28 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          "Treinamentos e capacitações",
          {{"AIdCursoEmpregado", taId, "código interno do curso do empregado"}},
          [](const TArgumentosDeEvento& A) { return Evento<sst::TTarvoESocialCamposS2245>(A.Id("AIdCursoEmpregado")); }},
+        {"S-1200",
+         "Remuneração de trabalhador vinculado ao RGPS",
+         {{"IdEmpresa", taId, "código interno da empresa"},
+          {"Cpf", taCpf, "CPF do trabalhador, como está no cadastro"},
+          {"DataInicio", taData, "primeiro dia do mês"},
+          {"DataFim", taData, "último dia do mês"},
+          {"IndApuracao", taInteiro, "0 mensal (padrão), 1 anual (13º salário)", false}},
+         [](const TArgumentosDeEvento& A) {
+             auto LParametros = std::make_shared<remuneracao::TTarvoESocialCamposS1200IOP>();
+             LParametros->SetIdEmpresa(A.Id("IdEmpresa"));
+             LParametros->SetCpf(A.Texto("Cpf"));
+             LParametros->SetDataInicio(A.Data("DataInicio"));
+             LParametros->SetDataFim(A.Data("DataFim"));
+             LParametros->SetIndApuracao(static_cast<tpIndApuracao>(A.Inteiro("IndApuracao")));
+             auto LEvento = std::make_unique<remuneracao::TTarvoESocialCamposS1200>(*LParametros);
+             return TEventoConstruido{std::move(LParametros), std::move(LEvento)};
+         },
+         TLoteDoEvento{{{"IdEmpresa", taId, "código interno da empresa"},
+                        {"DataInicio", taData, "primeiro dia do mês"},
+                        {"DataFim", taData, "último dia do mês"},
+                        {"IndApuracao", taInteiro, "0 mensal (padrão), 1 anual (13º salário)", false}},
+                       SqlDosCpfs}},
     };
     return LCatalogo;
 }
@@ -197,6 +266,45 @@ TEventoConstruido ConstruirEvento(std::string_view ACodigo, const std::map<std::
 {
     const auto& LEvento = BuscarEventoDoCatalogo(ACodigo);
     return LEvento.Construir(TArgumentosDeEvento(LEvento.Argumentos, AArgumentos));
+}
+
+std::vector<TChaveDoLote> BuscarChavesDoLote(std::string_view ACodigo,
+                                             const std::map<std::string, std::string>& AArgumentos)
+{
+    const auto& LEvento = BuscarEventoDoCatalogo(ACodigo);
+    if (!LEvento.Lote)
+        throw EArgumentoInvalido("O evento " + std::string(LEvento.Codigo) + " não é carregado em lote");
+    const auto LLinhas = OvraConnection().Consultar(
+        LEvento.Lote->SqlDasChaves(TArgumentosDeEvento(LEvento.Lote->Argumentos, AArgumentos)));
+
+    // What the batch alone needs, such as the company, is no argument of the event.
+    std::map<std::string, std::string> LComuns;
+    for (const auto& [LNome, LTexto] : AArgumentos)
+        if (std::any_of(LEvento.Argumentos.begin(), LEvento.Argumentos.end(),
+                        [&](const auto& AArgumento) { return MesmoTexto(AArgumento.Nome, LNome); }))
+            LComuns.emplace(LNome, LTexto);
+
+    const auto& LColunas = LLinhas.Colunas();
+    std::vector<TChaveDoLote> LChaves;
+    LChaves.reserve(LLinhas.QuantidadeDeLinhas());
+    for (std::size_t LLinha = 0; LLinha < LLinhas.QuantidadeDeLinhas(); ++LLinha) {
+        TChaveDoLote LChave{LComuns, {}};
+        for (std::size_t LColuna = 0; LColuna < LColunas.size(); ++LColuna) {
+            const auto LArgumento =
+                std::find_if(LEvento.Argumentos.begin(), LEvento.Argumentos.end(), [&](const auto& AArgumento) {
+                    return MesmoTexto(AArgumento.Nome, LColunas[LColuna].Nome);
+                });
+            const std::string LNome =
+                LArgumento == LEvento.Argumentos.end() ? LColunas[LColuna].Nome : LArgumento->Nome;
+            auto [LTexto, LJson] = LerChave(LLinhas, LLinha, LColuna);
+            LChave.Argumentos.insert_or_assign(LNome, std::move(LTexto));
+            LChave.Json += (LColuna == 0 ? "" : ",") + (LColunas.size() == 1 ? LJson : TextoJson(LNome) + ":" + LJson);
+        }
+        if (LColunas.size() > 1)
+            LChave.Json = "{" + LChave.Json + "}";
+        LChaves.push_back(std::move(LChave));
+    }
+    return LChaves;
 }
 
 TArgumentosDeEvento::TArgumentosDeEvento(const std::vector<TArgumentoDeEvento>& ADefinicoes,

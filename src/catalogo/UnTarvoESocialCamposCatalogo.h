@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -74,6 +75,22 @@ struct TEventoConstruido {
     std::unique_ptr<TTarvoESocialCamposGrupoBase> Evento;
 };
 
+/// How an event is loaded for everybody of a company.
+struct TLoteDoEvento {
+    /// What the caller gives: the company, and the arguments of the event that aren't part of a key.
+    std::vector<TArgumentoDeEvento> Argumentos;
+    /// Statement of the keys, in the order of the load. Each column is the argument of the event of that name.
+    std::string (*SqlDasChaves)(const TArgumentosDeEvento& AArgumentos);
+};
+
+/// One load of a batch.
+struct TChaveDoLote {
+    /// Every argument of the event, as ConstruirEvento takes them.
+    std::map<std::string, std::string> Argumentos;
+    /// The key as JSON: its value, or an object where it has several parts.
+    std::string Json;
+};
+
 struct TEventoDoCatalogo {
     /// "S-1000".
     const char* Codigo;
@@ -81,6 +98,8 @@ struct TEventoDoCatalogo {
     const char* Titulo;
     std::vector<TArgumentoDeEvento> Argumentos;
     TEventoConstruido (*Construir)(const TArgumentosDeEvento& AArgumentos);
+    /// Nothing for an event that isn't loaded in a batch.
+    std::optional<TLoteDoEvento> Lote = std::nullopt;
 };
 
 /// Every event in layout order.
@@ -89,5 +108,9 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos();
 const TEventoDoCatalogo& BuscarEventoDoCatalogo(std::string_view ACodigo);
 /// Constructs an event from the texts of its arguments. Some constructors read the database already.
 TEventoConstruido ConstruirEvento(std::string_view ACodigo, const std::map<std::string, std::string>& AArgumentos);
+/// The keys of an event's batch, read from the database. EArgumentoInvalido for an event that has none, and for the
+/// arguments of the batch as ConstruirEvento for the event's.
+std::vector<TChaveDoLote> BuscarChavesDoLote(std::string_view ACodigo,
+                                             const std::map<std::string, std::string>& AArgumentos);
 
 } // namespace tarvo

@@ -3,8 +3,7 @@
 #include "imports/UnOvraFormat.h"
 #include "imports/UnTarvoUtilsDb.h"
 
-namespace tarvo
-{
+namespace tarvo {
 
 std::string SqlFeriasComplementares(std::int64_t AIdEmpregado, std::string_view ATipoFolha, TDateTime ADataInicio,
                                     TDateTime ADataFim)

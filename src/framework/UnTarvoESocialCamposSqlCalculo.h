@@ -9,8 +9,7 @@
 #include "imports/UnOvraClientDataSet.h"
 #include "imports/UnTarvoConsultasGeral.h"
 
-namespace tarvo
-{
+namespace tarvo {
 
 // Rules on calculated rows (CALCULO, CALC_QUEBRA, CALCCOMPL...) that hold alike for remuneration and for termination.
 

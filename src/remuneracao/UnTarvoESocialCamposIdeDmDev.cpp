@@ -3,8 +3,7 @@
 #include "imports/UnOvraConversoes.h"
 #include "imports/UnOvraFormat.h"
 
-namespace tarvo::remuneracao
-{
+namespace tarvo::remuneracao {
 
 std::string FormarIdeDmDev(const TDadosIdeDmDev& ADados)
 {

@@ -6,8 +6,7 @@
 
 #include "imports/UnOvraDataHora.h"
 
-namespace tarvo::remuneracao
-{
+namespace tarvo::remuneracao {
 
 /// The three shapes of a demonstrative's identifier.
 enum class TFormaIdeDmDev : std::uint8_t {

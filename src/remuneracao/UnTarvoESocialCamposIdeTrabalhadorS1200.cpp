@@ -5,15 +5,13 @@
 #include "imports/UnTarvoConsultasEmpregado.h"
 #include "imports/UnTarvoUtilsDb.h"
 
-namespace tarvo::remuneracao
-{
+namespace tarvo::remuneracao {
 
 TTarvoESocialCamposIdeTrabalhadorS1200::TTarvoESocialCamposIdeTrabalhadorS1200(
     const TTarvoESocialCamposS1200IOP& AinfoBind1200)
     : TTarvoESocialCamposGrupoBase("{98592C13-490B-4E74-89F6-4095C9465F12}"), cpfTrab(AinfoBind1200.Cpf()),
       InfoMV(AinfoBind1200), infoComplem(AinfoBind1200), infoInterm(AinfoBind1200), FInfoBind(AinfoBind1200)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposIdeTrabalhadorS1200::Propriedades() const
 {

@@ -7,14 +7,12 @@
 #include "remuneracao/UnTarvoESocialCamposS1200IOP.h"
 #include "remuneracao/UnTarvoESocialCamposinfoInterm.h"
 
-namespace tarvo::remuneracao
-{
+namespace tarvo::remuneracao {
 
 /// S-1200 ideTrabalhador: who the event is about. Sources: EMPREGADOS and PREST_SERVICO by CPF. Loaded once, with the
 /// month as the caller gave it, before any run is chosen. EMPREGADOS.CPF must be stored as the caller gives the CPF;
 /// that of a provider is compared by its digits.
-class TTarvoESocialCamposIdeTrabalhadorS1200 : public TTarvoESocialCamposGrupoBase
-{
+class TTarvoESocialCamposIdeTrabalhadorS1200 : public TTarvoESocialCamposGrupoBase {
 public:
     explicit TTarvoESocialCamposIdeTrabalhadorS1200(const TTarvoESocialCamposS1200IOP& AinfoBind1200);
 

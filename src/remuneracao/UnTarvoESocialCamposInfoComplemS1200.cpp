@@ -3,14 +3,12 @@
 #include "imports/UnOvraFormat.h"
 #include "imports/UnTarvoUtilsStrings.h"
 
-namespace tarvo::remuneracao
-{
+namespace tarvo::remuneracao {
 
 TTarvoESocialCamposInfoComplemS1200::TTarvoESocialCamposInfoComplemS1200(
     const TTarvoESocialCamposS1200IOP& AinfoBind1200)
     : TTarvoESocialCamposGrupoBase("{217555DF-953E-4016-85B0-34B54685AAA6}"), FInfoBind(AinfoBind1200)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposInfoComplemS1200::Propriedades() const
 {

@@ -4,13 +4,11 @@
 #include "remuneracao/UnTarvoESocialCamposS1200IOP.h"
 #include "remuneracao/UnTarvoESocialCamposSucessaoVincS1200.h"
 
-namespace tarvo::remuneracao
-{
+namespace tarvo::remuneracao {
 
 /// S-1200 infoComplem: who a worker without a registration is. Source: PREST_SERVICO by the digits of the CPF; empty
 /// for a plain employee.
-class TTarvoESocialCamposInfoComplemS1200 : public TTarvoESocialCamposGrupoBase
-{
+class TTarvoESocialCamposInfoComplemS1200 : public TTarvoESocialCamposGrupoBase {
 public:
     explicit TTarvoESocialCamposInfoComplemS1200(const TTarvoESocialCamposS1200IOP& AinfoBind1200);
 

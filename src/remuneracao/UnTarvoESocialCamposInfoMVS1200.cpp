@@ -6,13 +6,11 @@
 #include "imports/UnTarvoUtilsDb.h"
 #include "tabelas/UnTarvoESocialCamposSqlRendimentos.h"
 
-namespace tarvo::remuneracao
-{
+namespace tarvo::remuneracao {
 
 TTarvoESocialCamposInfoMVS1200::TTarvoESocialCamposInfoMVS1200(const TTarvoESocialCamposS1200IOP& AinfoBind1200)
     : TTarvoESocialCamposGrupoBase("{F973BA99-4837-456C-9BBA-4D32C02DC035}"), FInfoBind(AinfoBind1200)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposInfoMVS1200::Propriedades() const
 {

@@ -4,13 +4,11 @@
 #include "remuneracao/UnTarvoESocialCamposRemunOutrEmprS1200.h"
 #include "remuneracao/UnTarvoESocialCamposS1200IOP.h"
 
-namespace tarvo::remuneracao
-{
+namespace tarvo::remuneracao {
 
 /// S-1200 infoMV: whether other employers withhold social security of the worker, and what they pay. Sources: the
 /// contracts' INDICADORDESCINSS, else the receipts of the month; RENDIMENTOS and FP_RPAOUTROSREND for the incomes.
-class TTarvoESocialCamposInfoMVS1200 : public TTarvoESocialCamposGrupoBase
-{
+class TTarvoESocialCamposInfoMVS1200 : public TTarvoESocialCamposGrupoBase {
 public:
     explicit TTarvoESocialCamposInfoMVS1200(const TTarvoESocialCamposS1200IOP& AinfoBind1200);
 

@@ -13,13 +13,11 @@
 #include "tabelas/UnTarvoESocialCamposCodRubr.h"
 #include "tabelas/UnTarvoESocialCamposIncidIrrf.h"
 
-namespace tarvo::remuneracao
-{
+namespace tarvo::remuneracao {
 
 TTarvoESocialCamposItensRemunS1200::TTarvoESocialCamposItensRemunS1200(const TTarvoESocialCamposS1200IOP& AInfoBind)
     : TTarvoESocialCamposGrupoBase("{362B865D-56C8-4806-B873-3C353B54AAAD}"), FInfoBind(AInfoBind)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposItensRemunS1200::Propriedades() const
 {
@@ -95,8 +93,7 @@ void TTarvoESocialCamposItensRemunS1200::AlimentarCampoCodRubr()
                                                               .codIncSIND = Atribuir(CodIncCs, LIncid.FListCs)});
 }
 
-namespace
-{
+namespace {
 
 bool EhReportado(const TTarvoESocialCamposItensRemunS1200& AItem, bool ACategoriaSemVinculo)
 {

@@ -3,13 +3,11 @@
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
 #include "remuneracao/UnTarvoESocialCamposS1200IOP.h"
 
-namespace tarvo::remuneracao
-{
+namespace tarvo::remuneracao {
 
 /// S-1200 itensRemun: one rubric of a worker in a lotação, of one calculated row or of several that follow each other.
 /// Sources: the row, the rubric's nature and incidences, SC00_EMPRESACFG 90/38/13 for the table of rubrics.
-class TTarvoESocialCamposItensRemunS1200 : public TTarvoESocialCamposGrupoBase
-{
+class TTarvoESocialCamposItensRemunS1200 : public TTarvoESocialCamposGrupoBase {
 public:
     explicit TTarvoESocialCamposItensRemunS1200(const TTarvoESocialCamposS1200IOP& AInfoBind);
 

@@ -7,8 +7,7 @@
 #include "imports/UnTarvoUtilsDb.h"
 #include "imports/UnTarvoUtilsGeral.h"
 
-namespace tarvo::remuneracao
-{
+namespace tarvo::remuneracao {
 
 std::string SqlCalculosPorLotacao(std::string_view AColunas, const std::vector<std::int64_t>& AIdsEmpregado,
                                   TDateTime ADataInicio, TDateTime ADataFim, bool AComDepto, std::string_view ACondicao)

@@ -7,8 +7,7 @@
 
 #include "imports/UnOvraDataHora.h"
 
-namespace tarvo::remuneracao
-{
+namespace tarvo::remuneracao {
 
 /// Calculations of contracts by the establishment (and department) that they were made in, whole and split rows
 /// together: `SELECT DISTINCT AColunas ... UNION ...`. A calculation counts when its start or its end lies in the

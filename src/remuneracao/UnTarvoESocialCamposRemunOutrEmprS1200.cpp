@@ -1,12 +1,10 @@
 #include "remuneracao/UnTarvoESocialCamposRemunOutrEmprS1200.h"
 
-namespace tarvo::remuneracao
-{
+namespace tarvo::remuneracao {
 
 TTarvoESocialCamposRemunOutrEmprS1200::TTarvoESocialCamposRemunOutrEmprS1200()
     : TTarvoESocialCamposGrupoBase("{020C01EF-0020-44E7-8670-9FE2074EA739}")
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposRemunOutrEmprS1200::Propriedades() const
 {

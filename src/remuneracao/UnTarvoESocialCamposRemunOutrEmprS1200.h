@@ -2,12 +2,10 @@
 
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
 
-namespace tarvo::remuneracao
-{
+namespace tarvo::remuneracao {
 
 /// S-1200 remunOutrEmpr: what the worker earns at another employer. A holder: the parent sets it.
-class TTarvoESocialCamposRemunOutrEmprS1200 : public TTarvoESocialCamposGrupoBase
-{
+class TTarvoESocialCamposRemunOutrEmprS1200 : public TTarvoESocialCamposGrupoBase {
 public:
     TTarvoESocialCamposRemunOutrEmprS1200();
 

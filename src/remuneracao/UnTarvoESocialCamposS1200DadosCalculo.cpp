@@ -9,11 +9,9 @@
 #include "imports/UnTarvoUtilsDb.h"
 #include "imports/UnTarvoUtilsMatematica.h"
 
-namespace tarvo::remuneracao
-{
+namespace tarvo::remuneracao {
 
-namespace
-{
+namespace {
 
 constexpr std::string_view COLUNAS_DO_CALCULO = R"(
   CALCULO.IDCALCULO,
@@ -56,8 +54,7 @@ TTarvoESocialCamposS1200DadosCalculo::TTarvoESocialCamposS1200DadosCalculo(const
                                                                            std::int64_t AIdDepto, TTagOrigem ATagOrigem)
     : FTipoQuebraEmpresa(TTarvoConsultasEmpresa::BuscarTipoQuebraGpsGfipEmpresa(AInfoBind.IdEmpresa())),
       FIdFilial(AIdFilial), FIdDepto(AIdDepto), FInfoBind(AInfoBind), FTagOrigem(ATagOrigem)
-{
-}
+{}
 
 void TTarvoESocialCamposS1200DadosCalculo::CarregarListaDadosCalculo()
 {

@@ -8,8 +8,7 @@
 #include "imports/UnTarvoTypesCalculos.h"
 #include "remuneracao/UnTarvoESocialCamposS1200IOP.h"
 
-namespace tarvo::remuneracao
-{
+namespace tarvo::remuneracao {
 
 /// Which tree asks for the amounts: that of the current or that of an earlier period.
 enum class TTagOrigem : std::uint8_t { toRemunPerApur = 0, toRemunPerAnt = 1 };
@@ -22,8 +21,7 @@ enum class TOrigemInformacoesCalculo : std::uint8_t { ocCALCULO = 0, ocCALC_QUEB
 ///
 /// An employee who is dismissed in the month has only the thirteenth salary and profit sharing here; the rest goes
 /// into the dismissal. EDatabaseError as the engine raises it; a kind of run that is unknown gives an empty list.
-class TTarvoESocialCamposS1200DadosCalculo
-{
+class TTarvoESocialCamposS1200DadosCalculo {
 public:
     /// By establishment where AIdFilial isn't 0, else by department.
     TTarvoESocialCamposS1200DadosCalculo(const TTarvoESocialCamposS1200IOP& AInfoBind, std::int64_t AIdFilial,

@@ -2,8 +2,7 @@
 
 #include "imports/UnOvraExcecoes.h"
 
-namespace tarvo::remuneracao
-{
+namespace tarvo::remuneracao {
 
 void TTarvoESocialCamposS1200IOP::DeuPau(const char* ANome)
 {

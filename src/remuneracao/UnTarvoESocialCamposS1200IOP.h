@@ -8,8 +8,7 @@
 #include "imports/UnTarvoTypesGeral.h"
 #include "imports/pcesConversaoeSocial.h"
 
-namespace tarvo::remuneracao
-{
+namespace tarvo::remuneracao {
 
 /// One calculated rubric of S-1200, from CALCULO, CALC_QUEBRA or a receipt. Amounts in reais, rounded to cents.
 struct TDadosCalculo {
@@ -35,8 +34,7 @@ struct TDadosCalculo {
 /// DataInicio, DataFim and IndApuracao before the load.
 ///
 /// A guarded parameter that nobody set raises Exception with its name; one that was set to 0 or empty reads normally.
-class TTarvoESocialCamposS1200IOP
-{
+class TTarvoESocialCamposS1200IOP {
 public:
     TTarvoESocialCamposS1200IOP() = default;
     TTarvoESocialCamposS1200IOP(const TTarvoESocialCamposS1200IOP&) = delete;

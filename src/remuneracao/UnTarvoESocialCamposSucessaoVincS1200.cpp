@@ -1,12 +1,10 @@
 #include "remuneracao/UnTarvoESocialCamposSucessaoVincS1200.h"
 
-namespace tarvo::remuneracao
-{
+namespace tarvo::remuneracao {
 
 TTarvoESocialCamposSucessaoVincS1200::TTarvoESocialCamposSucessaoVincS1200()
     : TTarvoESocialCamposGrupoBase("{F8C6879B-D118-4056-9325-1124B2524EB8}")
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposSucessaoVincS1200::Propriedades() const
 {

@@ -2,12 +2,10 @@
 
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
 
-namespace tarvo::remuneracao
-{
+namespace tarvo::remuneracao {
 
 /// S-1200 sucessaoVinc: always empty in this event, and in the tree all the same.
-class TTarvoESocialCamposSucessaoVincS1200 : public TTarvoESocialCamposGrupoBase
-{
+class TTarvoESocialCamposSucessaoVincS1200 : public TTarvoESocialCamposGrupoBase {
 public:
     TTarvoESocialCamposSucessaoVincS1200();
 

@@ -9,13 +9,11 @@
 #include "imports/UnTarvoConsultasGeral.h"
 #include "imports/UnTarvoUtilsStrings.h"
 
-namespace tarvo::remuneracao
-{
+namespace tarvo::remuneracao {
 
 TTarvoESocialCamposinfoComplCont::TTarvoESocialCamposinfoComplCont(const TTarvoESocialCamposS1200IOP& AinfoBind1200)
     : TTarvoESocialCamposGrupoBase("{5A20ED0A-EA2B-4496-B1F1-949A116BC9DF}"), FInfoBind(AinfoBind1200)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposinfoComplCont::Propriedades() const
 {

@@ -3,13 +3,11 @@
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
 #include "remuneracao/UnTarvoESocialCamposS1200IOP.h"
 
-namespace tarvo::remuneracao
-{
+namespace tarvo::remuneracao {
 
 /// S-1200 infoComplCont: occupation and kind of activity of a worker without a bond. Source: PREST_SERVICO by the
 /// digits of the CPF, whatever the employer; an employee who is nobody's provider leaves it empty.
-class TTarvoESocialCamposinfoComplCont : public TTarvoESocialCamposGrupoBase
-{
+class TTarvoESocialCamposinfoComplCont : public TTarvoESocialCamposGrupoBase {
 public:
     explicit TTarvoESocialCamposinfoComplCont(const TTarvoESocialCamposS1200IOP& AinfoBind1200);
 

@@ -3,13 +3,11 @@
 #include "imports/UnOvraFormat.h"
 #include "imports/UnTarvoUtilsDb.h"
 
-namespace tarvo::remuneracao
-{
+namespace tarvo::remuneracao {
 
 TTarvoESocialCamposinfoInterm::TTarvoESocialCamposinfoInterm(const TTarvoESocialCamposS1200IOP& AinfoBind1200)
     : TTarvoESocialCamposGrupoBase("{FD37107D-863A-4021-84DF-ABED870A4096}"), FInfoBind(AinfoBind1200)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposinfoInterm::Propriedades() const
 {

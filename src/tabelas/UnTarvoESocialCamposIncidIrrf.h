@@ -2,8 +2,7 @@
 
 #include <cstdint>
 
-namespace tarvo::tabelas
-{
+namespace tarvo::tabelas {
 
 /// True for the income-tax codes of withheld tax (31 to 35), alimony (51 to 55) and judicial suspension (81 to 83):
 /// rubrics that a payment reports and a remuneration doesn't.

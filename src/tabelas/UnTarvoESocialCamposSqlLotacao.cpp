@@ -3,8 +3,7 @@
 #include "imports/UnOvraFormat.h"
 #include "imports/UnTarvoConsultasDepartamento.h"
 
-namespace tarvo::tabelas
-{
+namespace tarvo::tabelas {
 
 std::string SqlInscricaoDaLotacao(std::int64_t AIdFilial, std::int64_t AIdDepto)
 {

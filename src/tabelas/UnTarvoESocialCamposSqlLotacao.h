@@ -3,8 +3,7 @@
 #include <cstdint>
 #include <string>
 
-namespace tarvo::tabelas
-{
+namespace tarvo::tabelas {
 
 /// The registration that a lotação is reported with: TPINSCRICAO, INSCRICAO, CODIGOESOCIAL. Without a department that
 /// of the establishment; with one its own where the kind of department has one, else the establishment's under the

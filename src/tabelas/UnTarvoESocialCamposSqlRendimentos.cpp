@@ -3,8 +3,7 @@
 #include "imports/UnOvraFormat.h"
 #include "imports/UnTarvoConsultasEmpregado.h"
 
-namespace tarvo::tabelas
-{
+namespace tarvo::tabelas {
 
 std::string CondicaoDeOutroEmpregador(std::string_view AColuna, std::string_view AIdEmpresa)
 {

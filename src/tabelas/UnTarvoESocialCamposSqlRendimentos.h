@@ -4,8 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace tarvo::tabelas
-{
+namespace tarvo::tabelas {
 
 /// Leaves out incomes that the employer itself paid: ` AND AColuna NOT IN (its registration and those of its
 /// establishments)`. AIdEmpresa is a column or a number.

@@ -2,13 +2,11 @@
 
 #include "imports/UnOvraFormat.h"
 
-namespace tarvo::tabelas
-{
+namespace tarvo::tabelas {
 
 TTarvoESocialCamposprocJudTrab::TTarvoESocialCamposprocJudTrab(std::int64_t AIdSpProc, std::string_view AGuid)
     : TTarvoESocialCamposGrupoBase(AGuid), FIdSpProc(AIdSpProc)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposprocJudTrab::Propriedades() const
 {

@@ -2,13 +2,11 @@
 
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
 
-namespace tarvo::tabelas
-{
+namespace tarvo::tabelas {
 
 /// A judicial process of a worker, in S-1200 and in the termination events; each gives the group a GUID of its own.
 /// Source: ES02_SPPROC by id and its newest detail.
-class TTarvoESocialCamposprocJudTrab : public TTarvoESocialCamposGrupoBase
-{
+class TTarvoESocialCamposprocJudTrab : public TTarvoESocialCamposGrupoBase {
 public:
     TTarvoESocialCamposprocJudTrab(std::int64_t AIdSpProc, std::string_view AGuid);
 

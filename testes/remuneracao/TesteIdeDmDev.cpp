@@ -3,10 +3,8 @@
 #include "apoio/UnBancoDeTeste.h"
 #include "remuneracao/UnTarvoESocialCamposIdeDmDev.h"
 
-namespace tarvo::testes
-{
-namespace
-{
+namespace tarvo::testes {
+namespace {
 
 using remuneracao::FormarIdeDmDev;
 using remuneracao::TDadosIdeDmDev;

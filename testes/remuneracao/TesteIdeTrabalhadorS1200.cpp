@@ -3,17 +3,14 @@
 #include "remuneracao/UnTarvoESocialCamposIdeTrabalhadorS1200.h"
 #include "remuneracao/UnTarvoESocialCamposinfoComplCont.h"
 
-namespace tarvo::testes
-{
-namespace
-{
+namespace tarvo::testes {
+namespace {
 
 using remuneracao::TTarvoESocialCamposIdeTrabalhadorS1200;
 using remuneracao::TTarvoESocialCamposinfoComplCont;
 using remuneracao::TTarvoESocialCamposS1200IOP;
 
-class TTesteIdeTrabalhador : public TTesteDeFolha
-{
+class TTesteIdeTrabalhador : public TTesteDeFolha {
 protected:
     std::unique_ptr<TTarvoESocialCamposIdeTrabalhadorS1200> Carregar()
     {

@@ -2,17 +2,14 @@
 #include "remuneracao/UnCenarioDeFolha.h"
 #include "remuneracao/UnTarvoESocialCamposItensRemunS1200.h"
 
-namespace tarvo::testes
-{
-namespace
-{
+namespace tarvo::testes {
+namespace {
 
 using remuneracao::GerarListaItensRemun;
 using remuneracao::TDadosCalculo;
 using remuneracao::TTarvoESocialCamposItensRemunS1200;
 
-class TTesteItensRemun : public TTesteDeFolha
-{
+class TTesteItensRemun : public TTesteDeFolha {
 protected:
     void SetUp() override
     {

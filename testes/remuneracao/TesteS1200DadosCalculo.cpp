@@ -5,16 +5,13 @@
 #include "remuneracao/UnCenarioDeFolha.h"
 #include "remuneracao/UnTarvoESocialCamposS1200DadosCalculo.h"
 
-namespace tarvo::testes
-{
-namespace
-{
+namespace tarvo::testes {
+namespace {
 
 using remuneracao::TTagOrigem;
 using remuneracao::TTarvoESocialCamposS1200DadosCalculo;
 
-class TTesteDadosCalculo : public TTesteDeFolha
-{
+class TTesteDadosCalculo : public TTesteDeFolha {
 protected:
     void SetUp() override
     {

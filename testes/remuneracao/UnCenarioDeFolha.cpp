@@ -1,7 +1,6 @@
 #include "remuneracao/UnCenarioDeFolha.h"
 
-namespace tarvo::testes
-{
+namespace tarvo::testes {
 
 void TTesteDeFolha::SetUp()
 {

@@ -4,13 +4,11 @@
 #include "imports/UnOvraConversoes.h"
 #include "remuneracao/UnTarvoESocialCamposS1200IOP.h"
 
-namespace tarvo::testes
-{
+namespace tarvo::testes {
 
 /// A payroll to test with: company 1 (code 7), establishments 1 and 2 with departments 10 and 20, employee 1 (code 101)
 /// of category 101, CPF 111.222.333-96. The run of the parameter object is the normal payroll of March 2021.
-class TTesteDeFolha : public TTesteComBanco
-{
+class TTesteDeFolha : public TTesteComBanco {
 protected:
     static constexpr const char* CPF = "111.222.333-96";
 
