@@ -98,13 +98,7 @@ GROUP BY COD_CATEG)";
 // detail's own queries and is dropped there. The kinds stand bare, as numbers, and the engine converts the column; the
 // complementary branch leaves them out. Both are meant.
 static constexpr std::string_view SQL_CALCULOS_DA_DATA = R"(SELECT
-  CALCULO.DATA_INICIO,
-  CALCULO.DATA_PAGTO,
-  CALCULO.TIPO,
-  CALCULO.SUBTIPO,
-  0 AS TIPOCALCCOMPL,
-  CALCULO.IDDETCONVOCACAO,
-  NULL AS DATAACORDOCONVENCAO
+%6:s
 FROM CALCULO
 WHERE CALCULO.IDEMPREGADO IN (%0:S)
   AND CALCULO.DATA_PAGTO = %1:S
@@ -113,13 +107,7 @@ WHERE CALCULO.IDEMPREGADO IN (%0:S)
   AND CALCULO.DATA_INICIO >= %3:s
 UNION
 SELECT
-  CALCULO.DATA_INICIO,
-  CALCULO.DATA_PAGTO,
-  CALCULO.TIPO,
-  CALCULO.SUBTIPO,
-  CALCCOMPL.TIPOCALCULO AS TIPOCALCCOMPL,
-  CALCULO.IDDETCONVOCACAO,
-  FP_INFOGFIP650660.DATAOCORRENCIA AS DATAACORDOCONVENCAO
+%7:s
 %4:s
 LEFT JOIN FP_INFOGFIP650660 ON (FP_INFOGFIP650660.IDINFOGFIP650660 = CALCCOMPL.IDINFOGFIP650660)
 WHERE CALCULO.IDEMPREGADO IN (%0:S)
@@ -129,13 +117,7 @@ WHERE CALCULO.IDEMPREGADO IN (%0:S)
   AND ((CALCULO.DATA_INICIO >= %3:s) OR (CALCCOMPL.TIPOCALCULO = 1))
 UNION
 SELECT
-  CALCULO.DATA_INICIO,
-  CALCULO.DATA_PAGTO,
-  CALCULO.TIPO,
-  CALCULO.SUBTIPO,
-  0 AS TIPOCALCCOMPL,
-  CALCULO.IDDETCONVOCACAO,
-  FP_INFOGFIP650660.DATAOCORRENCIA AS DATAACORDOCONVENCAO
+%8:s
 FROM CALCULO
 LEFT JOIN %5:s
 LEFT JOIN FP_INFOGFIP650660 ON (RESC_COMPL.IDINFOGFIP650660 = FP_INFOGFIP650660.IDINFOGFIP650660)
@@ -144,6 +126,18 @@ WHERE CALCULO.IDEMPREGADO IN (%0:S)
   AND CALCULO.DATA_PAGTO = %1:S
   AND CALCULO.SUBTIPO = 2
   AND CALCULO.DATA_INICIO >= %3:s)";
+
+static std::string ColunasDoCalculo(std::string_view ATipoCalcCompl, std::string_view ADataAcordo)
+{
+    static constexpr std::string_view COLUNAS = R"(  CALCULO.DATA_INICIO,
+  CALCULO.DATA_PAGTO,
+  CALCULO.TIPO,
+  CALCULO.SUBTIPO,
+  %0:s AS TIPOCALCCOMPL,
+  CALCULO.IDDETCONVOCACAO,
+  %1:s AS DATAACORDOCONVENCAO)";
+    return Format(COLUNAS, ATipoCalcCompl, ADataAcordo);
+}
 
 void TTarvoESocialCamposinfoPgto::CarregarListadetPgtoFlEmpregados()
 {
@@ -155,7 +149,9 @@ void TTarvoESocialCamposinfoPgto::CarregarListadetPgtoFlEmpregados()
     const auto LCalculos = TTarvoConsultasGeral::BuscarRegistrosSomenteLeitura(
         Format(SQL_CALCULOS_DA_DATA, FInfoBind.ListaIdsEmpregado, FormatarDataDB(FInfoBind.DataPagto, true),
                FInfoBind.ListaTipoFolhaDetPgto, FormatarDataDB(FInfoBind.DataInicioVigencia, true),
-               CALCULO_DO_COMPLEMENTAR, RESC_COMPL_DO_CALCULO));
+               CALCULO_DO_COMPLEMENTAR, RESC_COMPL_DO_CALCULO, ColunasDoCalculo("0", "NULL"),
+               ColunasDoCalculo("CALCCOMPL.TIPOCALCULO", "FP_INFOGFIP650660.DATAOCORRENCIA"),
+               ColunasDoCalculo("0", "FP_INFOGFIP650660.DATAOCORRENCIA")));
     for (; !LCategorias->Eof(); LCategorias->Next()) {
         InicializarInfoBindAux();
         for (LCalculos->First(); !LCalculos->Eof(); LCalculos->Next()) {
