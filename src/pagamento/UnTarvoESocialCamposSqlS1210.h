@@ -14,12 +14,6 @@ JOIN FP_CALCCOMPLEMPREG ON (CALCCOMPL.IDCALCCOMPL=FP_CALCCOMPLEMPREG.IDCALCCOMPL
 JOIN CALCULO ON (CALCULO.IDEMPREGADO=FP_CALCCOMPLEMPREG.IDEMPREGADO)
 JOIN CALCCOMPLPER ON (CALCCOMPLPER.IDCALCCOMPL=CALCCOMPL.IDCALCCOMPL AND CALCCOMPLPER.COMPET_PGTO=CALCULO.DATA_PAGTO))";
 
-/// The complementary dismissal of a calculated row; the JOIN or LEFT JOIN stands before it.
-inline constexpr std::string_view RESC_COMPL_DO_CALCULO =
-    R"(RESC_COMPL ON (RESC_COMPL.COD_EMPRESA = CALCULO.COD_EMPRESA
-  AND RESC_COMPL.COD_EMPREGADO = CALCULO.COD_EMPREGADO
-  AND RESC_COMPL.DATA_PGTO = CALCULO.DATA_PAGTO))";
-
 /// A complementary calculation that is a payment of an earlier period: any but those by agreement, and of those the
 /// ones of a competence before the date of change of layout (%0:s).
 inline constexpr std::string_view COMPLEMENTAR_ANTERIOR =

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "framework/UnTarvoESocialCamposSqlCalculo.h"
 #include "imports/UnOvraConversoes.h"
 #include "imports/UnOvraFormat.h"
 #include "imports/UnTarvoConsultasGeral.h"
