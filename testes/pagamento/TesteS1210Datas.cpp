@@ -21,235 +21,113 @@ protected:
 
 enum TOrigem { oNormal, oComplementar, oAcordo, oRescisao, oRescisaoAcordo };
 
-struct TCasoDeData {
-    const char* Nome;
+struct TFolhaDeTeste {
     const char* Tipo;
     int Subtipo;
+    TOrigem Origem = oNormal;
+};
+constexpr TFolhaDeTeste FOLHA{"01", 0}, ADIANTAMENTO{"02", 0}, DECIMO_TERCEIRO{"03", 0}, FERIAS{"04", 0},
+    RESCISAO{"05", 0}, ADIANTAMENTO_13{"06", 0}, PARTICIPACAO{"09", 0};
+
+const auto NUNCA = TDateTime();
+const auto JUL18 = D(2018, 7, 1);
+const auto FEV1 = D(2021, 2, 1);
+const auto FEV2 = D(2021, 2, 2);
+const auto FEV28 = D(2021, 2, 28);
+const auto MAR1 = D(2021, 3, 1);
+const auto MAR5 = D(2021, 3, 5);
+const auto MAR6 = D(2021, 3, 6);
+const auto MAR10 = D(2021, 3, 10);
+const auto MAR31 = D(2021, 3, 31);
+const auto ABR1 = D(2021, 4, 1);
+
+/// A calculation of February 2021 in the period of March.
+struct TCasoDeData {
+    const char* Nome;
+    TFolhaDeTeste Folha;
     /// 0 for no payment.
     int Esperado;
-    TOrigem Origem = oNormal;
+    TDateTime Demissao = NUNCA;
+    TDateTime Vigencia = JUL18;
     const char* Categoria = "101";
-    TValorSql Demissao = nullptr;
-    TDateTime Vigencia = D(2018, 7, 1);
-    TDateTime Acordo = D(2021, 3, 10);
-    TDateTime Inicio = D(2021, 2, 1);
-    TDateTime Fim = D(2021, 2, 28);
-    TDateTime Pagto = D(2021, 3, 5);
+    TDateTime Acordo = MAR10;
+    TDateTime Pagto = MAR5;
 };
 
 TEST_F(TTesteDatasDePagamento, CadaCalculoTemOSeuTipoDePagamento)
 {
-    const auto FEV1 = D(2021, 2, 1);
-    const auto FEV2 = D(2021, 2, 2);
-    const auto FEV28 = D(2021, 2, 28);
-    const auto MAR1 = D(2021, 3, 1);
-    const auto MAR5 = D(2021, 3, 5);
-    const auto MAR6 = D(2021, 3, 6);
-    const auto MAR31 = D(2021, 3, 31);
-    const auto ABR1 = D(2021, 4, 1);
     const TCasoDeData LCasos[] = {
-        {.Nome = "folha", .Tipo = "01", .Subtipo = 0, .Esperado = 1},
-        {.Nome = "folha paga no primeiro dia", .Tipo = "01", .Subtipo = 0, .Esperado = 1, .Pagto = MAR1},
-        {.Nome = "folha paga no último dia", .Tipo = "01", .Subtipo = 0, .Esperado = 1, .Pagto = MAR31},
-        {.Nome = "folha paga antes", .Tipo = "01", .Subtipo = 0, .Esperado = 0, .Pagto = FEV28},
-        {.Nome = "folha paga depois", .Tipo = "01", .Subtipo = 0, .Esperado = 0, .Pagto = ABR1},
-        {.Nome = "folha no início do leiaute", .Tipo = "01", .Subtipo = 0, .Esperado = 1, .Vigencia = FEV1},
-        {.Nome = "folha anterior ao leiaute", .Tipo = "01", .Subtipo = 0, .Esperado = 9, .Vigencia = FEV2},
-        {.Nome = "demissão no primeiro dia da folha", .Tipo = "01", .Subtipo = 0, .Esperado = 2, .Demissao = FEV1},
-        {.Nome = "demissão no último dia da folha", .Tipo = "01", .Subtipo = 0, .Esperado = 2, .Demissao = FEV28},
-        {.Nome = "demissão depois da folha", .Tipo = "01", .Subtipo = 0, .Esperado = 1, .Demissao = MAR1},
-        {.Nome = "demissão antes da folha", .Tipo = "01", .Subtipo = 0, .Esperado = 1, .Demissao = D(2021, 1, 31)},
-        {.Nome = "demitido, folha anterior",
-         .Tipo = "01",
-         .Subtipo = 0,
-         .Esperado = 9,
-         .Demissao = FEV28,
-         .Vigencia = MAR1},
-        {.Nome = "término sem vínculo",
-         .Tipo = "01",
-         .Subtipo = 0,
-         .Esperado = 3,
-         .Categoria = "721",
-         .Demissao = FEV28},
-        {.Nome = "término de categoria com ponto",
-         .Tipo = "01",
-         .Subtipo = 0,
-         .Esperado = 3,
-         .Categoria = "723.1",
-         .Demissao = FEV28},
-        {.Nome = "sem vínculo fora da lista",
-         .Tipo = "01",
-         .Subtipo = 0,
-         .Esperado = 2,
-         .Categoria = "701",
-         .Demissao = FEV28},
-        {.Nome = "demitido sem categoria",
-         .Tipo = "01",
-         .Subtipo = 0,
-         .Esperado = 2,
-         .Categoria = nullptr,
-         .Demissao = FEV28},
-        {.Nome = "rescisão", .Tipo = "05", .Subtipo = 0, .Esperado = 2, .Demissao = FEV28},
-        {.Nome = "rescisão de término futuro", .Tipo = "05", .Subtipo = 0, .Esperado = 1, .Demissao = MAR1},
-        {.Nome = "subtipo 2 sem RESC_COMPL", .Tipo = "05", .Subtipo = 2, .Esperado = 0},
-        {.Nome = "subtipo 1", .Tipo = "05", .Subtipo = 1, .Esperado = 0},
-        {.Nome = "subtipo 104", .Tipo = "01", .Subtipo = 104, .Esperado = 0},
-        {.Nome = "subtipo 4 sem CALCCOMPL", .Tipo = "01", .Subtipo = 4, .Esperado = 0},
+        {"folha", FOLHA, 1},
+        {"folha paga no primeiro dia", FOLHA, 1, NUNCA, JUL18, "101", MAR10, MAR1},
+        {"folha paga no último dia", FOLHA, 1, NUNCA, JUL18, "101", MAR10, MAR31},
+        {"folha paga antes", FOLHA, 0, NUNCA, JUL18, "101", MAR10, FEV28},
+        {"folha paga depois", FOLHA, 0, NUNCA, JUL18, "101", MAR10, ABR1},
+        {"folha no início do leiaute", FOLHA, 1, NUNCA, FEV1},
+        {"folha anterior ao leiaute", FOLHA, 9, NUNCA, FEV2},
+        {"demissão no primeiro dia da folha", FOLHA, 2, FEV1},
+        {"demissão no último dia da folha", FOLHA, 2, FEV28},
+        {"demissão depois da folha", FOLHA, 1, MAR1},
+        {"demissão antes da folha", FOLHA, 1, D(2021, 1, 31)},
+        {"demitido, folha anterior", FOLHA, 9, FEV28, MAR1},
+        {"término sem vínculo", FOLHA, 3, FEV28, JUL18, "721"},
+        {"término de categoria com ponto", FOLHA, 3, FEV28, JUL18, "723.1"},
+        {"sem vínculo fora da lista", FOLHA, 2, FEV28, JUL18, "701"},
+        {"demitido sem categoria", FOLHA, 2, FEV28, JUL18, nullptr},
+        {"rescisão", RESCISAO, 2, FEV28},
+        {"rescisão de término futuro", RESCISAO, 1, MAR1},
+        {"subtipo 2 sem RESC_COMPL", {"05", 2}, 0},
+        {"subtipo 1", {"05", 1}, 0},
+        {"subtipo 104", {"01", 104}, 0},
+        {"subtipo 4 sem CALCCOMPL", {"01", 4}, 0},
 
-        {.Nome = "férias", .Tipo = "04", .Subtipo = 0, .Esperado = 7},
-        {.Nome = "férias no mês da demissão", .Tipo = "04", .Subtipo = 0, .Esperado = 7, .Demissao = FEV28},
-        {.Nome = "férias no início do leiaute", .Tipo = "04", .Subtipo = 0, .Esperado = 7, .Vigencia = FEV1},
-        {.Nome = "férias anteriores", .Tipo = "04", .Subtipo = 0, .Esperado = 9, .Vigencia = FEV2},
+        {"férias", FERIAS, 7},
+        {"férias no mês da demissão", FERIAS, 7, FEV28},
+        {"férias no início do leiaute", FERIAS, 7, NUNCA, FEV1},
+        {"férias anteriores", FERIAS, 9, NUNCA, FEV2},
 
-        {.Nome = "adiantamento", .Tipo = "02", .Subtipo = 0, .Esperado = 1},
-        {.Nome = "adiantamento do 13º", .Tipo = "06", .Subtipo = 0, .Esperado = 1},
-        {.Nome = "adiantamento, demissão no primeiro dia", .Tipo = "02", .Subtipo = 0, .Esperado = 2, .Demissao = MAR1},
-        {.Nome = "adiantamento, demissão no último dia", .Tipo = "02", .Subtipo = 0, .Esperado = 2, .Demissao = MAR31},
-        {.Nome = "adiantamento, término",
-         .Tipo = "06",
-         .Subtipo = 0,
-         .Esperado = 3,
-         .Categoria = "721",
-         .Demissao = MAR31},
-        {.Nome = "adiantamento, demissão antes do mês", .Tipo = "02", .Subtipo = 0, .Esperado = 1, .Demissao = FEV28},
-        {.Nome = "adiantamento, demissão depois do mês", .Tipo = "02", .Subtipo = 0, .Esperado = 1, .Demissao = ABR1},
-        {.Nome = "adiantamento anterior",
-         .Tipo = "02",
-         .Subtipo = 0,
-         .Esperado = 9,
-         .Demissao = MAR31,
-         .Vigencia = FEV2},
-        {.Nome = "adiantamento de outro subtipo", .Tipo = "02", .Subtipo = 4, .Esperado = 0},
+        {"adiantamento", ADIANTAMENTO, 1},
+        {"adiantamento do 13º", ADIANTAMENTO_13, 1},
+        {"adiantamento, demissão no primeiro dia", ADIANTAMENTO, 2, MAR1},
+        {"adiantamento, demissão no último dia", ADIANTAMENTO, 2, MAR31},
+        {"adiantamento, término", ADIANTAMENTO_13, 3, MAR31, JUL18, "721"},
+        {"adiantamento, demissão antes do mês", ADIANTAMENTO, 1, FEV28},
+        {"adiantamento, demissão depois do mês", ADIANTAMENTO, 1, ABR1},
+        {"adiantamento anterior", ADIANTAMENTO, 9, MAR31, FEV2},
+        {"adiantamento de outro subtipo", {"02", 4}, 0},
 
-        {.Nome = "13º", .Tipo = "03", .Subtipo = 0, .Esperado = 1},
-        {.Nome = "13º pago na demissão", .Tipo = "03", .Subtipo = 0, .Esperado = 1, .Demissao = FEV28},
-        {.Nome = "13º no início do leiaute", .Tipo = "03", .Subtipo = 0, .Esperado = 1, .Vigencia = FEV1},
-        {.Nome = "13º anterior", .Tipo = "03", .Subtipo = 0, .Esperado = 9, .Vigencia = FEV2},
+        {"13º", DECIMO_TERCEIRO, 1},
+        {"13º pago na demissão", DECIMO_TERCEIRO, 1, FEV28},
+        {"13º no início do leiaute", DECIMO_TERCEIRO, 1, NUNCA, FEV1},
+        {"13º anterior", DECIMO_TERCEIRO, 9, NUNCA, FEV2},
 
-        {.Nome = "participação, leiaute no pagamento",
-         .Tipo = "09",
-         .Subtipo = 0,
-         .Esperado = 1,
-         .Demissao = FEV28,
-         .Vigencia = MAR5},
-        {.Nome = "participação anterior", .Tipo = "09", .Subtipo = 0, .Esperado = 9, .Vigencia = MAR6},
+        {"participação, leiaute no pagamento", PARTICIPACAO, 1, FEV28, MAR5},
+        {"participação anterior", PARTICIPACAO, 9, NUNCA, MAR6},
 
-        {.Nome = "complementar", .Tipo = "01", .Subtipo = 4, .Esperado = 1, .Origem = oComplementar, .Demissao = MAR31},
-        {.Nome = "complementar do 13º",
-         .Tipo = "03",
-         .Subtipo = 4,
-         .Esperado = 1,
-         .Origem = oComplementar,
-         .Vigencia = FEV1},
-        {.Nome = "complementar anterior",
-         .Tipo = "01",
-         .Subtipo = 4,
-         .Esperado = 9,
-         .Origem = oComplementar,
-         .Vigencia = FEV2},
-        {.Nome = "complementar de adiantamento", .Tipo = "02", .Subtipo = 4, .Esperado = 0, .Origem = oComplementar},
-        {.Nome = "complementar de subtipo 2", .Tipo = "01", .Subtipo = 2, .Esperado = 0, .Origem = oComplementar},
+        {"complementar", {"01", 4, oComplementar}, 1, MAR31},
+        {"complementar do 13º", {"03", 4, oComplementar}, 1, NUNCA, FEV1},
+        {"complementar anterior", {"01", 4, oComplementar}, 9, NUNCA, FEV2},
+        {"complementar de adiantamento", {"02", 4, oComplementar}, 0},
+        {"complementar de subtipo 2", {"01", 2, oComplementar}, 0},
 
-        {.Nome = "acordo", .Tipo = "01", .Subtipo = 4, .Esperado = 1, .Origem = oAcordo},
-        {.Nome = "acordo, demitido no mês",
-         .Tipo = "01",
-         .Subtipo = 4,
-         .Esperado = 2,
-         .Origem = oAcordo,
-         .Demissao = MAR1,
-         .Acordo = MAR31},
-        {.Nome = "acordo do 13º, término no mês",
-         .Tipo = "03",
-         .Subtipo = 4,
-         .Esperado = 3,
-         .Origem = oAcordo,
-         .Categoria = "721",
-         .Demissao = MAR31,
-         .Acordo = MAR1},
-        {.Nome = "acordo de outro mês, demitido no mês",
-         .Tipo = "01",
-         .Subtipo = 4,
-         .Esperado = 1,
-         .Origem = oAcordo,
-         .Demissao = MAR31,
-         .Acordo = FEV28},
-        {.Nome = "acordo futuro, demitido no mês",
-         .Tipo = "01",
-         .Subtipo = 4,
-         .Esperado = 1,
-         .Origem = oAcordo,
-         .Demissao = MAR31,
-         .Acordo = ABR1},
-        {.Nome = "acordo, demitido antes",
-         .Tipo = "01",
-         .Subtipo = 4,
-         .Esperado = 1,
-         .Origem = oAcordo,
-         .Demissao = FEV28},
-        {.Nome = "acordo anterior",
-         .Tipo = "01",
-         .Subtipo = 4,
-         .Esperado = 9,
-         .Origem = oAcordo,
-         .Demissao = MAR31,
-         .Vigencia = FEV2},
+        {"acordo", {"01", 4, oAcordo}, 1},
+        {"acordo, demitido no mês", {"01", 4, oAcordo}, 2, MAR1, JUL18, "101", MAR31},
+        {"acordo do 13º, término no mês", {"03", 4, oAcordo}, 3, MAR31, JUL18, "721", MAR1},
+        {"acordo de outro mês, demitido no mês", {"01", 4, oAcordo}, 1, MAR31, JUL18, "101", FEV28},
+        {"acordo futuro, demitido no mês", {"01", 4, oAcordo}, 1, MAR31, JUL18, "101", ABR1},
+        {"acordo, demitido antes", {"01", 4, oAcordo}, 1, FEV28},
+        {"acordo anterior", {"01", 4, oAcordo}, 9, MAR31, FEV2},
 
-        {.Nome = "rescisão por acordo",
-         .Tipo = "05",
-         .Subtipo = 2,
-         .Esperado = 1,
-         .Origem = oRescisaoAcordo,
-         .Demissao = FEV28,
-         .Vigencia = MAR5},
-        {.Nome = "rescisão por acordo, demitido no mês",
-         .Tipo = "05",
-         .Subtipo = 2,
-         .Esperado = 2,
-         .Origem = oRescisaoAcordo,
-         .Demissao = MAR31},
-        {.Nome = "rescisão por acordo, término no mês",
-         .Tipo = "05",
-         .Subtipo = 2,
-         .Esperado = 3,
-         .Origem = oRescisaoAcordo,
-         .Categoria = "721",
-         .Demissao = MAR1},
-        {.Nome = "rescisão por acordo, demitido depois",
-         .Tipo = "05",
-         .Subtipo = 2,
-         .Esperado = 1,
-         .Origem = oRescisaoAcordo,
-         .Demissao = ABR1},
-        {.Nome = "rescisão por acordo anterior",
-         .Tipo = "05",
-         .Subtipo = 2,
-         .Esperado = 9,
-         .Origem = oRescisaoAcordo,
-         .Demissao = MAR31,
-         .Vigencia = MAR6},
+        {"rescisão por acordo", {"05", 2, oRescisaoAcordo}, 1, FEV28, MAR5},
+        {"rescisão por acordo, demitido no mês", {"05", 2, oRescisaoAcordo}, 2, MAR31},
+        {"rescisão por acordo, término no mês", {"05", 2, oRescisaoAcordo}, 3, MAR1, JUL18, "721"},
+        {"rescisão por acordo, demitido depois", {"05", 2, oRescisaoAcordo}, 1, ABR1},
+        {"rescisão por acordo anterior", {"05", 2, oRescisaoAcordo}, 9, MAR31, MAR6},
 
-        {.Nome = "rescisão complementar",
-         .Tipo = "05",
-         .Subtipo = 2,
-         .Esperado = 2,
-         .Origem = oRescisao,
-         .Demissao = FEV28,
-         .Vigencia = MAR5},
-        {.Nome = "rescisão complementar sem demissão", .Tipo = "05", .Subtipo = 2, .Esperado = 2, .Origem = oRescisao},
-        {.Nome = "rescisão complementar, sem vínculo",
-         .Tipo = "05",
-         .Subtipo = 2,
-         .Esperado = 3,
-         .Origem = oRescisao,
-         .Categoria = "721"},
-        {.Nome = "rescisão complementar anterior",
-         .Tipo = "05",
-         .Subtipo = 2,
-         .Esperado = 9,
-         .Origem = oRescisao,
-         .Demissao = MAR31,
-         .Vigencia = MAR6},
-        {.Nome = "outro tipo com RESC_COMPL", .Tipo = "01", .Subtipo = 2, .Esperado = 0, .Origem = oRescisao},
+        {"rescisão complementar", {"05", 2, oRescisao}, 2, FEV28, MAR5},
+        {"rescisão complementar sem demissão", {"05", 2, oRescisao}, 2},
+        {"rescisão complementar, sem vínculo", {"05", 2, oRescisao}, 3, NUNCA, JUL18, "721"},
+        {"rescisão complementar anterior", {"05", 2, oRescisao}, 9, MAR31, MAR6},
+        {"outro tipo com RESC_COMPL", {"01", 2, oRescisao}, 0},
     };
     Codigo(7231, 1, "723.1");
     Empregado(1);
@@ -259,24 +137,25 @@ TEST_F(TTesteDatasDePagamento, CadaCalculoTemOSeuTipoDePagamento)
         for (const char* LTabela : {"CALCULO", "CALCCOMPL", "FP_CALCCOMPLEMPREG", "CALCCOMPLPER", "RESC_COMPL"})
             Executar(std::string("DELETE FROM ") + LTabela);
         Executar(
-            "UPDATE EMPREGADOS SET DATA_DEMISSAO = " + LCaso.Demissao.Texto() +
+            "UPDATE EMPREGADOS SET DATA_DEMISSAO = " +
+            (LCaso.Demissao.Vazia() ? "NULL" : TValorSql(LCaso.Demissao).Texto()) +
             ", IDCATEGORIAESOCIAL = (SELECT IDESOCIALTABELA FROM FP_ESOCIALTABELA WHERE TABELA = 1 AND CODIGO = '" +
             (LCaso.Categoria == nullptr ? "" : LCaso.Categoria) + "')");
         Executar("UPDATE FP_INFOGFIP650660 SET DATAOCORRENCIA = " + TValorSql(LCaso.Acordo).Texto());
-        if (LCaso.Origem == oComplementar || LCaso.Origem == oAcordo)
-            Complementar(LCaso.Origem == oAcordo ? 1 : 2, LCaso.Pagto,
-                         LCaso.Origem == oAcordo ? TValorSql(1) : TValorSql(nullptr));
-        if (LCaso.Origem == oRescisao || LCaso.Origem == oRescisaoAcordo)
+        if (LCaso.Folha.Origem == oComplementar || LCaso.Folha.Origem == oAcordo)
+            Complementar(LCaso.Folha.Origem == oAcordo ? 1 : 2, LCaso.Pagto,
+                         LCaso.Folha.Origem == oAcordo ? TValorSql(1) : TValorSql(nullptr));
+        if (LCaso.Folha.Origem == oRescisao || LCaso.Folha.Origem == oRescisaoAcordo)
             Inserir("RESC_COMPL",
                     {{"COD_EMPRESA", 1},
                      {"COD_EMPREGADO", 1001},
                      {"DATA_PGTO", LCaso.Pagto},
-                     {"IDINFOGFIP650660", LCaso.Origem == oRescisaoAcordo ? TValorSql(1) : TValorSql(nullptr)}});
+                     {"IDINFOGFIP650660", LCaso.Folha.Origem == oRescisaoAcordo ? TValorSql(1) : TValorSql(nullptr)}});
         Calculo({.Verba = vSalario,
-                 .Tipo = LCaso.Tipo,
-                 .Subtipo = LCaso.Subtipo,
-                 .Inicio = LCaso.Inicio,
-                 .Fim = LCaso.Fim,
+                 .Tipo = LCaso.Folha.Tipo,
+                 .Subtipo = LCaso.Folha.Subtipo,
+                 .Inicio = FEV1,
+                 .Fim = FEV28,
                  .Pagto = LCaso.Pagto});
 
         const auto LLinhas = OvraConnection().Consultar(SqlDasDatas(LCaso.Vigencia));
@@ -287,9 +166,39 @@ TEST_F(TTesteDatasDePagamento, CadaCalculoTemOSeuTipoDePagamento)
             };
             EXPECT_EQ(std::to_string(LCaso.Esperado), Coluna("TPPAGTO"));
             EXPECT_EQ("1", Coluna("LISTA"));
-            EXPECT_EQ(LCaso.Tipo, Coluna("TIPO"));
+            EXPECT_EQ(LCaso.Folha.Tipo, Coluna("TIPO"));
         }
     }
+}
+
+TEST_F(TTesteDatasDePagamento, SoAsCategoriasSemVinculoDaListaTerminam)
+{
+    Empregado(1, nullptr, FEV28);
+    Calculo({.Verba = vSalario, .Inicio = FEV1, .Fim = FEV28, .Pagto = MAR5});
+    Codigo(1, 1, "101");
+    Executar("UPDATE EMPREGADOS SET IDCATEGORIAESOCIAL = 1");
+    const auto LSql = SqlDasDatas(JUL18);
+    const auto TipoDaCategoria = [&](const std::string& ACategoria) {
+        Executar("UPDATE FP_ESOCIALTABELA SET CODIGO = '" + ACategoria + "' WHERE IDESOCIALTABELA = 1");
+        return Consultar("SELECT TPPAGTO FROM (" + LSql + ")");
+    };
+    for (const char* LCategoria : {"201", "202", "401", "410", "721", "158", "722", "723", "723.1", "731", "734", "738",
+                                   "761", "771", "781", "901", "902"})
+        EXPECT_EQ("3", TipoDaCategoria(LCategoria)) << LCategoria;
+    for (const char* LCategoria : {"101", "111", "301", "305", "411", "701", "711", "723.2", "741", "903"})
+        EXPECT_EQ("2", TipoDaCategoria(LCategoria)) << LCategoria;
+}
+
+TEST_F(TTesteDatasDePagamento, ListaQueNaoCabeFalha)
+{
+    for (int i = 10'001; i <= 10'017; ++i) {
+        Empregado(i);
+        Calculo({.Verba = vLiquido, .Empregado = i});
+        if (i == 10'016) {
+            EXPECT_EQ(1600.0L, Carregar().Pagamentos().at(0)->detPgtoFl.at(0)->vrLiq);
+        }
+    }
+    EXPECT_THROW(Carregar(), EDatabaseError);
 }
 
 TEST_F(TTesteDatasDePagamento, ContratosDoMesmoTipoDividemUmaLinhaEOsDeOutroTipoNao)
