@@ -7,9 +7,9 @@
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
 #include "imports/UnOvraConnection.h"
 #include "imports/UnOvraConversoes.h"
-#include "pagamento/UnTarvoESocialCamposS1210.h"
 #include "imports/UnOvraFormat.h"
 #include "imports/UnTarvoUtilsDb.h"
+#include "pagamento/UnTarvoESocialCamposS1210.h"
 #include "remuneracao/UnTarvoESocialCamposS1200.h"
 #include "sst/UnTarvoESocialCamposS2210.h"
 #include "sst/UnTarvoESocialCamposS2220.h"
@@ -18,20 +18,20 @@
 #include "sst/UnTarvoESocialCamposS2241.h"
 #include "sst/UnTarvoESocialCamposS2245.h"
 #include "tabelas/UnTarvoESocialCamposS1000.h"
+#include "tabelas/UnTarvoESocialCamposS1005.h"
 #include "tabelas/UnTarvoESocialCamposS1010.h"
+#include "tabelas/UnTarvoESocialCamposS1020.h"
+#include "tabelas/UnTarvoESocialCamposS1030.h"
+#include "tabelas/UnTarvoESocialCamposS1035.h"
+#include "tabelas/UnTarvoESocialCamposS1040.h"
 #include "tabelas/UnTarvoESocialCamposS1050.h"
+#include "tabelas/UnTarvoESocialCamposS1060.h"
+#include "tabelas/UnTarvoESocialCamposS1070.h"
 #include "trabalhador/s2100/UnTarvoESocialCamposS2100.h"
 #include "trabalhador/s2190/UnTarvoESocialCamposS2190.h"
 #include "trabalhador/s2200/UnTarvoESocialCamposS2200.h"
 #include "trabalhador/s2205/UnTarvoESocialCamposS2205.h"
 #include "trabalhador/s2206/UnTarvoESocialCamposS2206.h"
-#include "tabelas/UnTarvoESocialCamposS1005.h"
-#include "tabelas/UnTarvoESocialCamposS1020.h"
-#include "tabelas/UnTarvoESocialCamposS1030.h"
-#include "tabelas/UnTarvoESocialCamposS1035.h"
-#include "tabelas/UnTarvoESocialCamposS1040.h"
-#include "tabelas/UnTarvoESocialCamposS1060.h"
-#include "tabelas/UnTarvoESocialCamposS1070.h"
 
 namespace tarvo {
 
@@ -54,9 +54,7 @@ TEventoConstruido EventoS1210(const TArgumentosDeEvento& A)
     LInfoBind->DataInicio = A.Data("DataInicio");
     LInfoBind->DataFim = A.Data("DataFim");
     LInfoBind->DataInicioVigencia = A.Data("DataInicioVigencia");
-    LInfoBind->TipoTrabalhador = static_cast<TTipoTrabalhador>(A.Ordinal("TipoTrabalhador", 1));
-    // Taken as the remuneration takes it, so that one command line serves both; payments are the same either way.
-    A.Ordinal("IndApuracao", 1);
+    LInfoBind->TipoTrabalhador = static_cast<TTipoTrabalhador>(A.Inteiro("TipoTrabalhador"));
     auto LEvento = std::make_unique<pagamento::TTarvoESocialCamposS1210>(*LInfoBind);
     return {std::move(LInfoBind), std::move(LEvento)};
 }
@@ -133,16 +131,14 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          [](const TArgumentosDeEvento& A) {
              return Evento<tabelas::TTarvoESocialCamposS1000>(A.Id("AIDEmpresa"), A.Data("AData"));
          }},
-        {"S-1210",
-         "Pagamentos de rendimentos do trabalho",
-         {{"IdEmpresa", taId, "código interno da empresa"},
-          {"Cpf", taCpf, "CPF do beneficiário"},
-          {"DataInicio", taData, "primeiro dia do período"},
-          {"DataFim", taData, "último dia do período"},
-          {"IndApuracao", taInteiro, "0 mensal, 1 anual; não muda os pagamentos", false},
-          {"TipoTrabalhador", taInteiro, "0 empregado, 1 prestador de serviço", false},
-          {"DataInicioVigencia", taData, "início do leiaute: o que é anterior vai como pagamento anterior", false}},
-         EventoS1210},
+        {"S-1005",
+         "Estabelecimentos, obras ou unidades de órgãos públicos",
+         {{"AIDEstab", taId, "código interno do estabelecimento, 0 para informar o departamento"},
+          {"AIDDepto", taId, "código interno do departamento, 0 para informar o estabelecimento"},
+          {"AData", taData, "data de referência"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<tabelas::TTarvoESocialCamposS1005>(A.Id("AIDEstab"), A.Id("AIDDepto"), A.Data("AData"));
+         }},
         {"S-1010",
          "Tabela de rubricas",
          {{"AIdVerba", taId, "código interno da verba; 0 para uma rubrica de RPA"},
@@ -165,15 +161,88 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
              LEvento.Parametros = LCodigos;
              return LEvento;
          }},
+        {"S-1020",
+         "Lotações tributárias",
+         {{"AIDEstab", taId, "código interno do estabelecimento"},
+          {"AIDDepto", taId, "código interno do departamento, 0 para informar o estabelecimento"},
+          {"AData", taData, "data de referência"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<tabelas::TTarvoESocialCamposS1020>(A.Id("AIDEstab"), A.Id("AIDDepto"), A.Data("AData"));
+         }},
+        {"S-1030",
+         "Cargos e empregos públicos",
+         {{"AIDCargosDescr", taId, "código interno do cargo"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<tabelas::TTarvoESocialCamposS1030>(A.Id("AIDCargosDescr"));
+         }},
+        {"S-1035",
+         "Carreiras públicas",
+         {{"AIdCargoDescr", taId, "código interno da carreira", true, -1, "AIDCargosDescr"}},
+         [](const TArgumentosDeEvento& A) { return Evento<tabelas::TTarvoESocialCamposS1035>(A.Id("AIdCargoDescr")); }},
+        {"S-1040",
+         "Funções e cargos em comissão",
+         {{"AIDCargosDescr", taId, "código interno da função"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<tabelas::TTarvoESocialCamposS1040>(A.Id("AIDCargosDescr"));
+         }},
         {"S-1050",
          "Tabela de horários e turnos de trabalho",
          {{"AIdHorario", taId, "código interno do horário"},
           {"AIdHorarioDet", taId, "código interno do detalhe do horário; 0 para um dia da semana"},
-          {"ADiaSemana", taInteiro, "dia da semana, de 0 (domingo) a 6 (sábado)"}},
+          {"ADiaSemana", taInteiro, "dia da semana, de 0 (domingo) a 6 (sábado)", true, 6}},
          [](const TArgumentosDeEvento& A) {
              return Evento<tabelas::TTarvoESocialCamposS1050>(A.Id("AIdHorario"), A.Id("AIdHorarioDet"),
-                                                              static_cast<TDiaSemana>(A.Ordinal("ADiaSemana", 6)));
+                                                              static_cast<TDiaSemana>(A.Inteiro("ADiaSemana")));
          }},
+        {"S-1060",
+         "Ambientes de trabalho",
+         {{"AIdAmbiente", taId, "código interno do ambiente"}},
+         [](const TArgumentosDeEvento& A) { return Evento<tabelas::TTarvoESocialCamposS1060>(A.Id("AIdAmbiente")); }},
+        {"S-1070",
+         "Processos administrativos e judiciais",
+         {{"AIdProcesso", taId, "código interno do processo"}},
+         [](const TArgumentosDeEvento& A) { return Evento<tabelas::TTarvoESocialCamposS1070>(A.Id("AIdProcesso")); }},
+        {"S-1200",
+         "Remuneração de trabalhador vinculado ao RGPS",
+         {{"IdEmpresa", taId, "código interno da empresa"},
+          {"Cpf", taCpf, "CPF do trabalhador, como está no cadastro"},
+          {"DataInicio", taData, "primeiro dia do mês"},
+          {"DataFim", taData, "último dia do mês"},
+          {"IndApuracao", taInteiro, "0 mensal (padrão), 1 anual (13º salário)", false, 1}},
+         [](const TArgumentosDeEvento& A) {
+             auto LParametros = std::make_shared<remuneracao::TTarvoESocialCamposS1200IOP>();
+             LParametros->SetIdEmpresa(A.Id("IdEmpresa"));
+             LParametros->SetCpf(A.Texto("Cpf"));
+             LParametros->SetDataInicio(A.Data("DataInicio"));
+             LParametros->SetDataFim(A.Data("DataFim"));
+             LParametros->SetIndApuracao(static_cast<tpIndApuracao>(A.Inteiro("IndApuracao")));
+             auto LEvento = std::make_unique<remuneracao::TTarvoESocialCamposS1200>(*LParametros);
+             return TEventoConstruido{std::move(LParametros), std::move(LEvento)};
+         },
+         TLoteDoEvento{{{"IdEmpresa", taId, "código interno da empresa"},
+                        {"DataInicio", taData, "primeiro dia do mês"},
+                        {"DataFim", taData, "último dia do mês"},
+                        {"IndApuracao", taInteiro, "0 mensal (padrão), 1 anual (13º salário)", false, 1}},
+                       SqlDosCpfs}},
+        {"S-1210",
+         "Pagamentos de rendimentos do trabalho",
+         {{"IdEmpresa", taId, "código interno da empresa"},
+          {"Cpf", taCpf, "CPF do beneficiário"},
+          {"DataInicio", taData, "primeiro dia do período"},
+          {"DataFim", taData, "último dia do período"},
+          // Taken as the remuneration takes it, so that one command line serves both.
+          {"IndApuracao", taInteiro, "0 mensal, 1 anual; não muda os pagamentos", false, 1},
+          {"TipoTrabalhador", taInteiro, "0 empregado (padrão), 1 prestador de serviço", false, 1},
+          {"DataInicioVigencia", taData, "início do leiaute: o que é anterior vai como pagamento anterior", false}},
+         EventoS1210,
+         TLoteDoEvento{
+             {{"IdEmpresa", taId, "código interno da empresa"},
+              {"DataInicio", taData, "primeiro dia do período"},
+              {"DataFim", taData, "último dia do período"},
+              {"IndApuracao", taInteiro, "0 mensal, 1 anual; não muda os pagamentos", false, 1},
+              {"TipoTrabalhador", taInteiro, "0 empregado (padrão), 1 prestador de serviço", false, 1},
+              {"DataInicioVigencia", taData, "início do leiaute: o que é anterior vai como pagamento anterior", false}},
+             SqlDosCpfs}},
         {"S-2100",
          "Cadastramento inicial do vínculo",
          {{"AIDEmpregado", taId, "código interno do empregado"}, {"ADataGeracao", taData, "data de referência"}},
@@ -233,68 +302,6 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          "Treinamentos e capacitações",
          {{"AIdCursoEmpregado", taId, "código interno do curso do empregado"}},
          [](const TArgumentosDeEvento& A) { return Evento<sst::TTarvoESocialCamposS2245>(A.Id("AIdCursoEmpregado")); }},
-        {"S-1200",
-         "Remuneração de trabalhador vinculado ao RGPS",
-         {{"IdEmpresa", taId, "código interno da empresa"},
-          {"Cpf", taCpf, "CPF do trabalhador, como está no cadastro"},
-          {"DataInicio", taData, "primeiro dia do mês"},
-          {"DataFim", taData, "último dia do mês"},
-          {"IndApuracao", taInteiro, "0 mensal (padrão), 1 anual (13º salário)", false}},
-         [](const TArgumentosDeEvento& A) {
-             auto LParametros = std::make_shared<remuneracao::TTarvoESocialCamposS1200IOP>();
-             LParametros->SetIdEmpresa(A.Id("IdEmpresa"));
-             LParametros->SetCpf(A.Texto("Cpf"));
-             LParametros->SetDataInicio(A.Data("DataInicio"));
-             LParametros->SetDataFim(A.Data("DataFim"));
-             LParametros->SetIndApuracao(static_cast<tpIndApuracao>(A.Inteiro("IndApuracao")));
-             auto LEvento = std::make_unique<remuneracao::TTarvoESocialCamposS1200>(*LParametros);
-             return TEventoConstruido{std::move(LParametros), std::move(LEvento)};
-         },
-         TLoteDoEvento{{{"IdEmpresa", taId, "código interno da empresa"},
-                        {"DataInicio", taData, "primeiro dia do mês"},
-                        {"DataFim", taData, "último dia do mês"},
-                        {"IndApuracao", taInteiro, "0 mensal (padrão), 1 anual (13º salário)", false}},
-                       SqlDosCpfs}},
-        {"S-1005",
-         "Estabelecimentos, obras ou unidades de órgãos públicos",
-         {{"AIDEstab", taId, "código interno do estabelecimento, 0 para informar o departamento"},
-          {"AIDDepto", taId, "código interno do departamento, 0 para informar o estabelecimento"},
-          {"AData", taData, "data de referência"}},
-         [](const TArgumentosDeEvento& A) {
-             return Evento<tabelas::TTarvoESocialCamposS1005>(A.Id("AIDEstab"), A.Id("AIDDepto"), A.Data("AData"));
-         }},
-        {"S-1020",
-         "Lotações tributárias",
-         {{"AIDEstab", taId, "código interno do estabelecimento"},
-          {"AIDDepto", taId, "código interno do departamento, 0 para informar o estabelecimento"},
-          {"AData", taData, "data de referência"}},
-         [](const TArgumentosDeEvento& A) {
-             return Evento<tabelas::TTarvoESocialCamposS1020>(A.Id("AIDEstab"), A.Id("AIDDepto"), A.Data("AData"));
-         }},
-        {"S-1030",
-         "Cargos e empregos públicos",
-         {{"AIDCargosDescr", taId, "código interno do cargo"}},
-         [](const TArgumentosDeEvento& A) {
-             return Evento<tabelas::TTarvoESocialCamposS1030>(A.Id("AIDCargosDescr"));
-         }},
-        {"S-1035",
-         "Carreiras públicas",
-         {{"AIdCargoDescr", taId, "código interno da carreira", true, "AIDCargosDescr"}},
-         [](const TArgumentosDeEvento& A) { return Evento<tabelas::TTarvoESocialCamposS1035>(A.Id("AIdCargoDescr")); }},
-        {"S-1040",
-         "Funções e cargos em comissão",
-         {{"AIDCargosDescr", taId, "código interno da função"}},
-         [](const TArgumentosDeEvento& A) {
-             return Evento<tabelas::TTarvoESocialCamposS1040>(A.Id("AIDCargosDescr"));
-         }},
-        {"S-1060",
-         "Ambientes de trabalho",
-         {{"AIdAmbiente", taId, "código interno do ambiente"}},
-         [](const TArgumentosDeEvento& A) { return Evento<tabelas::TTarvoESocialCamposS1060>(A.Id("AIdAmbiente")); }},
-        {"S-1070",
-         "Processos administrativos e judiciais",
-         {{"AIdProcesso", taId, "código interno do processo"}},
-         [](const TArgumentosDeEvento& A) { return Evento<tabelas::TTarvoESocialCamposS1070>(A.Id("AIdProcesso")); }},
     };
     return LCatalogo;
 }
@@ -363,7 +370,8 @@ TArgumentosDeEvento::TArgumentosDeEvento(const std::vector<TArgumentoDeEvento>& 
         });
         if (LDefinicao == ADefinicoes.end())
             throw EArgumentoInvalido("Argumento desconhecido: --" + LNome);
-        const auto Recusar = [&, &LNomeDoArgumento = LDefinicao->Nome, &LValor = LTexto](const char* AMotivo) -> void {
+        const auto Recusar = [&, &LNomeDoArgumento = LDefinicao->Nome,
+                              &LValor = LTexto](const std::string& AMotivo) -> void {
             throw EArgumentoInvalido(std::string("Argumento --") + LNomeDoArgumento + ": '" + LValor + "' " + AMotivo);
         };
         TValor LLido;
@@ -379,6 +387,8 @@ TArgumentosDeEvento::TArgumentosDeEvento(const std::vector<TArgumentoDeEvento>& 
             if (LDefinicao->Tipo == taInteiro && (LLido.Inteiro < std::numeric_limits<std::int32_t>::min() ||
                                                   LLido.Inteiro > std::numeric_limits<std::int32_t>::max()))
                 Recusar("está fora da faixa");
+            if (LDefinicao->UltimoOrdinal >= 0 && (LLido.Inteiro < 0 || LLido.Inteiro > LDefinicao->UltimoOrdinal))
+                Recusar("não é um dos valores, de 0 a " + IntToStr(LDefinicao->UltimoOrdinal));
             break;
         case taData:
             LLido.Data = LerDataIso(LTexto);
@@ -421,15 +431,6 @@ std::int64_t TArgumentosDeEvento::Id(std::string_view ANome) const { return Busc
 std::int32_t TArgumentosDeEvento::Inteiro(std::string_view ANome) const
 {
     return static_cast<std::int32_t>(Buscar(ANome).Inteiro);
-}
-
-std::int32_t TArgumentosDeEvento::Ordinal(std::string_view ANome, std::int32_t AMaximo) const
-{
-    const auto LOrdinal = Inteiro(ANome);
-    if (LOrdinal < 0 || LOrdinal > AMaximo)
-        throw EArgumentoInvalido("Argumento --" + std::string(ANome) + ": " + std::to_string(LOrdinal) +
-                                 " não está entre 0 e " + std::to_string(AMaximo));
-    return LOrdinal;
 }
 
 TDateTime TArgumentosDeEvento::Data(std::string_view ANome) const { return Buscar(ANome).Data; }

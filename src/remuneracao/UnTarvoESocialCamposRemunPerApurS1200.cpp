@@ -51,16 +51,22 @@ void TTarvoESocialCamposRemunPerApurS1200::AtribuirValoresManualmente()
 void TTarvoESocialCamposRemunPerApurS1200::CarregarDados(const TListaCamposModificados* AListaCamposModificados)
 {
     TTarvoESocialCamposGrupoBase::CarregarDados(AListaCamposModificados);
-    TTarvoESocialCamposS1200DadosCalculo LDadosCalculo(FInfoBind, IdFilial, IdDepto, TTagOrigem::toRemunPerApur);
-    LDadosCalculo.CarregarListaDadosCalculo();
-    FListaIdCalculo = std::move(LDadosCalculo.ListaDadosCalculo);
-    GerarListaItensRemun(FInfoBind, FListaIdCalculo, AListaCamposModificados, itensRemun);
+    GerarListaItensRemunEmpregados(AListaCamposModificados);
     // A complementary run has no health plan.
     if (FInfoBind.SubTipoFolha() != 4)
         GerarListainfoSaudeColet(AListaCamposModificados);
     if (FInfoBind.TipoEmpregado() == TTipoTrabalhador::Empregado)
         infoAgNocivo.CarregarDados(AListaCamposModificados);
     CarregarDadosinfoTrabInterm();
+}
+
+void TTarvoESocialCamposRemunPerApurS1200::GerarListaItensRemunEmpregados(
+    const TListaCamposModificados* AListaCamposModificados)
+{
+    TTarvoESocialCamposS1200DadosCalculo LDadosCalculo(FInfoBind, IdFilial, IdDepto, TTagOrigem::toRemunPerApur);
+    LDadosCalculo.CarregarListaDadosCalculo();
+    FListaIdCalculo = std::move(LDadosCalculo.ListaDadosCalculo);
+    GerarListaItensRemun(FInfoBind, FListaIdCalculo, AListaCamposModificados, itensRemun);
 }
 
 void TTarvoESocialCamposRemunPerApurS1200::GerarListainfoSaudeColet(

@@ -38,6 +38,7 @@ protected:
     void AtribuirValoresManualmente() override;
 
 private:
+    void GerarListaItensRemunEmpregados(const TListaCamposModificados* AListaCamposModificados);
     void GerarListainfoSaudeColet(const TListaCamposModificados* AListaCamposModificados);
     void CarregarDadosinfoTrabInterm();
 

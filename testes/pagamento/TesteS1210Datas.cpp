@@ -173,14 +173,13 @@ TEST_F(TTesteDatasDePagamento, CadaCalculoTemOSeuTipoDePagamento)
 
 TEST_F(TTesteDatasDePagamento, SoAsCategoriasSemVinculoDaListaTerminam)
 {
-    Empregado(1, nullptr, FEV28);
-    Calculo({.Verba = vSalario, .Inicio = FEV1, .Fim = FEV28, .Pagto = MAR5});
     Codigo(1, 1, "101");
-    Executar("UPDATE EMPREGADOS SET IDCATEGORIAESOCIAL = 1");
+    Empregado(1, 1, FEV28);
+    Calculo({.Verba = vSalario, .Inicio = FEV1, .Fim = FEV28, .Pagto = MAR5});
     const auto LSql = SqlDasDatas(JUL18);
     const auto TipoDaCategoria = [&](const std::string& ACategoria) {
         Executar("UPDATE FP_ESOCIALTABELA SET CODIGO = '" + ACategoria + "' WHERE IDESOCIALTABELA = 1");
-        return Consultar("SELECT TPPAGTO FROM (" + LSql + ")");
+        return OvraConnection().Consultar(LSql).Texto(0, 2);
     };
     for (const char* LCategoria : {"201", "202", "401", "410", "721", "158", "722", "723", "723.1", "731", "734", "738",
                                    "761", "771", "781", "901", "902"})
