@@ -9,6 +9,7 @@
 #include "imports/UnOvraConversoes.h"
 #include "imports/UnOvraFormat.h"
 #include "imports/UnTarvoUtilsDb.h"
+#include "pagamento/UnTarvoESocialCamposS1210.h"
 #include "remuneracao/UnTarvoESocialCamposS1200.h"
 #include "sst/UnTarvoESocialCamposS2210.h"
 #include "sst/UnTarvoESocialCamposS2220.h"
@@ -43,6 +44,19 @@ template <class T, class... A>
 TEventoConstruido Evento(const A&... AArgumentos)
 {
     return {nullptr, std::make_unique<T>(AArgumentos...)};
+}
+
+TEventoConstruido EventoS1210(const TArgumentosDeEvento& A)
+{
+    auto LInfoBind = std::make_shared<pagamento::TTarvoESocialCamposS1210IOP>();
+    LInfoBind->IdEmpresa = A.Id("IdEmpresa");
+    LInfoBind->Cpf = A.Texto("Cpf");
+    LInfoBind->DataInicio = A.Data("DataInicio");
+    LInfoBind->DataFim = A.Data("DataFim");
+    LInfoBind->DataInicioVigencia = A.Data("DataInicioVigencia");
+    LInfoBind->TipoTrabalhador = static_cast<TTipoTrabalhador>(A.Inteiro("TipoTrabalhador"));
+    auto LEvento = std::make_unique<pagamento::TTarvoESocialCamposS1210>(*LInfoBind);
+    return {std::move(LInfoBind), std::move(LEvento)};
 }
 
 bool EhDigito(char AChar) { return AChar >= '0' && AChar <= '9'; }
@@ -175,10 +189,10 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          "Tabela de horários e turnos de trabalho",
          {{"AIdHorario", taId, "código interno do horário"},
           {"AIdHorarioDet", taId, "código interno do detalhe do horário; 0 para um dia da semana"},
-          {"ADiaSemana", taInteiro, "dia da semana, de 0 (domingo) a 6 (sábado)"}},
+          {"ADiaSemana", taInteiro, "dia da semana, de 0 (domingo) a 6 (sábado)", true, 6}},
          [](const TArgumentosDeEvento& A) {
              return Evento<tabelas::TTarvoESocialCamposS1050>(A.Id("AIdHorario"), A.Id("AIdHorarioDet"),
-                                                              static_cast<TDiaSemana>(A.Ordinal("ADiaSemana", 6)));
+                                                              static_cast<TDiaSemana>(A.Inteiro("ADiaSemana")));
          }},
         {"S-1060",
          "Ambientes de trabalho",
@@ -210,6 +224,25 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
                         {"DataFim", taData, "último dia do mês"},
                         {"IndApuracao", taInteiro, "0 mensal (padrão), 1 anual (13º salário)", false, 1}},
                        SqlDosCpfs}},
+        {"S-1210",
+         "Pagamentos de rendimentos do trabalho",
+         {{"IdEmpresa", taId, "código interno da empresa"},
+          {"Cpf", taCpf, "CPF do beneficiário"},
+          {"DataInicio", taData, "primeiro dia do período"},
+          {"DataFim", taData, "último dia do período"},
+          // Taken as the remuneration takes it, so that one command line serves both.
+          {"IndApuracao", taInteiro, "0 mensal, 1 anual; não muda os pagamentos", false, 1},
+          {"TipoTrabalhador", taInteiro, "0 empregado (padrão), 1 prestador de serviço", false, 1},
+          {"DataInicioVigencia", taData, "início do leiaute: o que é anterior vai como pagamento anterior", false}},
+         EventoS1210,
+         TLoteDoEvento{
+             {{"IdEmpresa", taId, "código interno da empresa"},
+              {"DataInicio", taData, "primeiro dia do período"},
+              {"DataFim", taData, "último dia do período"},
+              {"IndApuracao", taInteiro, "0 mensal, 1 anual; não muda os pagamentos", false, 1},
+              {"TipoTrabalhador", taInteiro, "0 empregado (padrão), 1 prestador de serviço", false, 1},
+              {"DataInicioVigencia", taData, "início do leiaute: o que é anterior vai como pagamento anterior", false}},
+             SqlDosCpfs}},
         {"S-2100",
          "Cadastramento inicial do vínculo",
          {{"AIDEmpregado", taId, "código interno do empregado"}, {"ADataGeracao", taData, "data de referência"}},
@@ -398,15 +431,6 @@ std::int64_t TArgumentosDeEvento::Id(std::string_view ANome) const { return Busc
 std::int32_t TArgumentosDeEvento::Inteiro(std::string_view ANome) const
 {
     return static_cast<std::int32_t>(Buscar(ANome).Inteiro);
-}
-
-std::int32_t TArgumentosDeEvento::Ordinal(std::string_view ANome, std::int32_t AMaximo) const
-{
-    const auto LOrdinal = Inteiro(ANome);
-    if (LOrdinal < 0 || LOrdinal > AMaximo)
-        throw EArgumentoInvalido("Argumento --" + std::string(ANome) + ": " + std::to_string(LOrdinal) +
-                                 " não está entre 0 e " + std::to_string(AMaximo));
-    return LOrdinal;
 }
 
 TDateTime TArgumentosDeEvento::Data(std::string_view ANome) const { return Buscar(ANome).Data; }
