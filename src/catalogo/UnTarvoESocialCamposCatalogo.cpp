@@ -17,6 +17,13 @@
 #include "trabalhador/s2200/UnTarvoESocialCamposS2200.h"
 #include "trabalhador/s2205/UnTarvoESocialCamposS2205.h"
 #include "trabalhador/s2206/UnTarvoESocialCamposS2206.h"
+#include "tabelas/UnTarvoESocialCamposS1005.h"
+#include "tabelas/UnTarvoESocialCamposS1020.h"
+#include "tabelas/UnTarvoESocialCamposS1030.h"
+#include "tabelas/UnTarvoESocialCamposS1035.h"
+#include "tabelas/UnTarvoESocialCamposS1040.h"
+#include "tabelas/UnTarvoESocialCamposS1060.h"
+#include "tabelas/UnTarvoESocialCamposS1070.h"
 
 namespace tarvo {
 
@@ -120,6 +127,46 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          "Treinamentos e capacitações",
          {{"AIdCursoEmpregado", taId, "código interno do curso do empregado"}},
          [](const TArgumentosDeEvento& A) { return Evento<sst::TTarvoESocialCamposS2245>(A.Id("AIdCursoEmpregado")); }},
+        {"S-1005",
+         "Estabelecimentos, obras ou unidades de órgãos públicos",
+         {{"AIDEstab", taId, "código interno do estabelecimento, 0 para informar o departamento"},
+          {"AIDDepto", taId, "código interno do departamento, 0 para informar o estabelecimento"},
+          {"AData", taData, "data de referência"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<tabelas::TTarvoESocialCamposS1005>(A.Id("AIDEstab"), A.Id("AIDDepto"), A.Data("AData"));
+         }},
+        {"S-1020",
+         "Lotações tributárias",
+         {{"AIDEstab", taId, "código interno do estabelecimento"},
+          {"AIDDepto", taId, "código interno do departamento, 0 para informar o estabelecimento"},
+          {"AData", taData, "data de referência"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<tabelas::TTarvoESocialCamposS1020>(A.Id("AIDEstab"), A.Id("AIDDepto"), A.Data("AData"));
+         }},
+        {"S-1030",
+         "Cargos e empregos públicos",
+         {{"AIDCargosDescr", taId, "código interno do cargo"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<tabelas::TTarvoESocialCamposS1030>(A.Id("AIDCargosDescr"));
+         }},
+        {"S-1035",
+         "Carreiras públicas",
+         {{"AIdCargoDescr", taId, "código interno da carreira", true, "AIDCargosDescr"}},
+         [](const TArgumentosDeEvento& A) { return Evento<tabelas::TTarvoESocialCamposS1035>(A.Id("AIdCargoDescr")); }},
+        {"S-1040",
+         "Funções e cargos em comissão",
+         {{"AIDCargosDescr", taId, "código interno da função"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<tabelas::TTarvoESocialCamposS1040>(A.Id("AIDCargosDescr"));
+         }},
+        {"S-1060",
+         "Ambientes de trabalho",
+         {{"AIdAmbiente", taId, "código interno do ambiente"}},
+         [](const TArgumentosDeEvento& A) { return Evento<tabelas::TTarvoESocialCamposS1060>(A.Id("AIdAmbiente")); }},
+        {"S-1070",
+         "Processos administrativos e judiciais",
+         {{"AIdProcesso", taId, "código interno do processo"}},
+         [](const TArgumentosDeEvento& A) { return Evento<tabelas::TTarvoESocialCamposS1070>(A.Id("AIdProcesso")); }},
     };
     return LCatalogo;
 }
@@ -144,8 +191,9 @@ TArgumentosDeEvento::TArgumentosDeEvento(const std::vector<TArgumentoDeEvento>& 
                                          const std::map<std::string, std::string>& ATextos)
 {
     for (const auto& [LNome, LTexto] : ATextos) {
-        const auto LDefinicao = std::find_if(ADefinicoes.begin(), ADefinicoes.end(),
-                                             [&](const auto& AItem) { return MesmoTexto(AItem.Nome, LNome); });
+        const auto LDefinicao = std::find_if(ADefinicoes.begin(), ADefinicoes.end(), [&](const auto& AItem) {
+            return MesmoTexto(AItem.Nome, LNome) || (AItem.OutroNome && MesmoTexto(AItem.OutroNome, LNome));
+        });
         if (LDefinicao == ADefinicoes.end())
             throw EArgumentoInvalido("Argumento desconhecido: --" + LNome);
         const auto Recusar = [&, &LNomeDoArgumento = LDefinicao->Nome, &LValor = LTexto](const char* AMotivo) -> void {

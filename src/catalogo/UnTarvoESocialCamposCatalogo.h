@@ -38,6 +38,8 @@ struct TArgumentoDeEvento {
     /// What it is, for a payroll person.
     const char* Descricao;
     bool Obrigatorio = true;
+    /// Another name that is taken too, where the events of a family spell one argument differently.
+    const char* OutroNome = nullptr;
 };
 
 /// The values of an event's arguments, checked against their kinds. An optional argument that was not given reads
