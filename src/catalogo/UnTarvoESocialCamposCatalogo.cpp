@@ -12,6 +12,8 @@
 #include "sst/UnTarvoESocialCamposS2241.h"
 #include "sst/UnTarvoESocialCamposS2245.h"
 #include "tabelas/UnTarvoESocialCamposS1000.h"
+#include "tabelas/UnTarvoESocialCamposS1010.h"
+#include "tabelas/UnTarvoESocialCamposS1050.h"
 #include "trabalhador/s2100/UnTarvoESocialCamposS2100.h"
 #include "trabalhador/s2190/UnTarvoESocialCamposS2190.h"
 #include "trabalhador/s2200/UnTarvoESocialCamposS2200.h"
@@ -67,6 +69,37 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          {{"AIDEmpresa", taId, "código interno da empresa"}, {"AData", taData, "data de referência"}},
          [](const TArgumentosDeEvento& A) {
              return Evento<tabelas::TTarvoESocialCamposS1000>(A.Id("AIDEmpresa"), A.Data("AData"));
+         }},
+        {"S-1010",
+         "Tabela de rubricas",
+         {{"AIdVerba", taId, "código interno da verba; 0 para uma rubrica de RPA"},
+          {"AidEmpresa", taId, "código interno da empresa"},
+          {"AIdRubricaRpa", taId, "código interno da relação da rubrica de RPA; 0 para uma verba"},
+          {"ADataGeracao", taData, "data de referência"},
+          {"codIncCP", taInteiro, "incidência para a previdência social", false},
+          {"codIncIRRF", taInteiro, "incidência para o imposto de renda", false},
+          {"codIncFGTS", taInteiro, "incidência para o FGTS", false},
+          {"codIncSIND", taInteiro, "incidência para a contribuição sindical", false}},
+         [](const TArgumentosDeEvento& A) {
+             // Without any of the codes the event gets none at all, and leaves them empty.
+             std::shared_ptr<tabelas::TCodigosIncidenciaVerba> LCodigos;
+             if (A.Informado("codIncCP") || A.Informado("codIncIRRF") || A.Informado("codIncFGTS") ||
+                 A.Informado("codIncSIND"))
+                 LCodigos = std::make_shared<tabelas::TCodigosIncidenciaVerba>(tabelas::TCodigosIncidenciaVerba{
+                     A.Inteiro("codIncCP"), A.Inteiro("codIncIRRF"), A.Inteiro("codIncFGTS"), A.Inteiro("codIncSIND")});
+             auto LEvento = Evento<tabelas::TTarvoESocialCamposS1010>(
+                 A.Id("AIdVerba"), A.Id("AidEmpresa"), A.Id("AIdRubricaRpa"), A.Data("ADataGeracao"), LCodigos.get());
+             LEvento.Parametros = LCodigos;
+             return LEvento;
+         }},
+        {"S-1050",
+         "Tabela de horários e turnos de trabalho",
+         {{"AIdHorario", taId, "código interno do horário"},
+          {"AIdHorarioDet", taId, "código interno do detalhe do horário; 0 para um dia da semana"},
+          {"ADiaSemana", taInteiro, "dia da semana, de 0 (domingo) a 6 (sábado)"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<tabelas::TTarvoESocialCamposS1050>(A.Id("AIdHorario"), A.Id("AIdHorarioDet"),
+                                                              static_cast<TDiaSemana>(A.Ordinal("ADiaSemana", 6)));
          }},
         {"S-2100",
          "Cadastramento inicial do vínculo",
@@ -254,6 +287,15 @@ std::int64_t TArgumentosDeEvento::Id(std::string_view ANome) const { return Busc
 std::int32_t TArgumentosDeEvento::Inteiro(std::string_view ANome) const
 {
     return static_cast<std::int32_t>(Buscar(ANome).Inteiro);
+}
+
+std::int32_t TArgumentosDeEvento::Ordinal(std::string_view ANome, std::int32_t AMaximo) const
+{
+    const auto LOrdinal = Inteiro(ANome);
+    if (LOrdinal < 0 || LOrdinal > AMaximo)
+        throw EArgumentoInvalido("Argumento --" + std::string(ANome) + ": " + std::to_string(LOrdinal) +
+                                 " não está entre 0 e " + std::to_string(AMaximo));
+    return LOrdinal;
 }
 
 TDateTime TArgumentosDeEvento::Data(std::string_view ANome) const { return Buscar(ANome).Data; }

@@ -54,6 +54,8 @@ public:
     bool Informado(std::string_view ANome) const;
     std::int64_t Id(std::string_view ANome) const;
     std::int32_t Inteiro(std::string_view ANome) const;
+    /// The ordinal of an enumeration; EArgumentoInvalido when it isn't one of 0 to AMaximo.
+    std::int32_t Ordinal(std::string_view ANome, std::int32_t AMaximo) const;
     TDateTime Data(std::string_view ANome) const;
     /// A text or a CPF, as it was given.
     std::string Texto(std::string_view ANome) const;
