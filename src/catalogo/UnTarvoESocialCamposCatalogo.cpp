@@ -12,20 +12,27 @@
 #include "sst/UnTarvoESocialCamposS2241.h"
 #include "sst/UnTarvoESocialCamposS2245.h"
 #include "tabelas/UnTarvoESocialCamposS1000.h"
+#include "tabelas/UnTarvoESocialCamposS1005.h"
 #include "tabelas/UnTarvoESocialCamposS1010.h"
+#include "tabelas/UnTarvoESocialCamposS1020.h"
+#include "tabelas/UnTarvoESocialCamposS1030.h"
+#include "tabelas/UnTarvoESocialCamposS1035.h"
+#include "tabelas/UnTarvoESocialCamposS1040.h"
 #include "tabelas/UnTarvoESocialCamposS1050.h"
+#include "tabelas/UnTarvoESocialCamposS1060.h"
+#include "tabelas/UnTarvoESocialCamposS1070.h"
 #include "trabalhador/s2100/UnTarvoESocialCamposS2100.h"
 #include "trabalhador/s2190/UnTarvoESocialCamposS2190.h"
 #include "trabalhador/s2200/UnTarvoESocialCamposS2200.h"
 #include "trabalhador/s2205/UnTarvoESocialCamposS2205.h"
 #include "trabalhador/s2206/UnTarvoESocialCamposS2206.h"
-#include "tabelas/UnTarvoESocialCamposS1005.h"
-#include "tabelas/UnTarvoESocialCamposS1020.h"
-#include "tabelas/UnTarvoESocialCamposS1030.h"
-#include "tabelas/UnTarvoESocialCamposS1035.h"
-#include "tabelas/UnTarvoESocialCamposS1040.h"
-#include "tabelas/UnTarvoESocialCamposS1060.h"
-#include "tabelas/UnTarvoESocialCamposS1070.h"
+#include "trabalhador/s2230/UnTarvoESocialCamposS2230.h"
+#include "trabalhador/s2250/UnTarvoESocialCamposS2250.h"
+#include "trabalhador/s2260/UnTarvoESocialCamposS2260.h"
+#include "trabalhador/s2298/UnTarvoESocialCamposS2298.h"
+#include "trabalhador/s2300/UnTarvoESocialCamposS2300.h"
+#include "trabalhador/s2306/UnTarvoESocialCamposS2306.h"
+#include "trabalhador/s3000/UnTarvoESocialCamposS3000.h"
 
 namespace tarvo {
 
@@ -148,6 +155,14 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          [](const TArgumentosDeEvento& A) {
              return Evento<sst::TTarvoESocialCamposS2221>(A.Id("AIdExameToxicologico"));
          }},
+        {"S-2230",
+         "Afastamento temporário",
+         {{"AIdSituacao", taId, "código interno da situação"},
+          {"ATipoEvento", taInteiro, "1 início do afastamento, 2 término"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<trabalhador::TTarvoESocialCamposS2230>(
+                 A.Id("AIdSituacao"), static_cast<TTipoEventoS2230>(A.Ordinal("ATipoEvento", 2)));
+         }},
         {"S-2240",
          "Condições ambientais do trabalho: fatores de risco",
          {{"AIdFatRisco", taId, "código interno do fator de risco"}},
@@ -200,6 +215,40 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          "Processos administrativos e judiciais",
          {{"AIdProcesso", taId, "código interno do processo"}},
          [](const TArgumentosDeEvento& A) { return Evento<tabelas::TTarvoESocialCamposS1070>(A.Id("AIdProcesso")); }},
+        {"S-2250",
+         "Aviso prévio",
+         {{"AIdAvisoPrevio", taId, "código interno do aviso prévio"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<trabalhador::TTarvoESocialCamposS2250>(A.Id("AIdAvisoPrevio"));
+         }},
+        {"S-2260",
+         "Convocação para trabalho intermitente",
+         {{"AIdEmpregado", taId, "código interno do empregado"}, {"ADataInicio", taData, "data da convocação"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<trabalhador::TTarvoESocialCamposS2260>(A.Id("AIdEmpregado"), A.Data("ADataInicio"));
+         }},
+        {"S-2298",
+         "Reintegração",
+         {{"AIdEmpregado", taId, "código interno do empregado"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<trabalhador::TTarvoESocialCamposS2298>(A.Id("AIdEmpregado"));
+         }},
+        {"S-2300",
+         "Trabalhador sem vínculo de emprego, início",
+         {{"AIdEmpregado", taId, "código interno do empregado"}, {"ADataGeracao", taData, "data de referência"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<trabalhador::TTarvoESocialCamposS2300>(A.Id("AIdEmpregado"), A.Data("ADataGeracao"));
+         }},
+        {"S-2306",
+         "Trabalhador sem vínculo de emprego, alteração",
+         {{"AIdEmpregado", taId, "código interno do empregado"}, {"AData", taData, "data de referência"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<trabalhador::TTarvoESocialCamposS2306>(A.Id("AIdEmpregado"), A.Data("AData"));
+         }},
+        {"S-3000",
+         "Exclusão de evento",
+         {{"AIdEvento", taId, "código interno do evento enviado"}},
+         [](const TArgumentosDeEvento& A) { return Evento<trabalhador::TTarvoESocialCamposS3000>(A.Id("AIdEvento")); }},
     };
     return LCatalogo;
 }
