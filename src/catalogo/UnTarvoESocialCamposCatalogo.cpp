@@ -32,6 +32,13 @@
 #include "trabalhador/s2200/UnTarvoESocialCamposS2200.h"
 #include "trabalhador/s2205/UnTarvoESocialCamposS2205.h"
 #include "trabalhador/s2206/UnTarvoESocialCamposS2206.h"
+#include "trabalhador/s2230/UnTarvoESocialCamposS2230.h"
+#include "trabalhador/s2250/UnTarvoESocialCamposS2250.h"
+#include "trabalhador/s2260/UnTarvoESocialCamposS2260.h"
+#include "trabalhador/s2298/UnTarvoESocialCamposS2298.h"
+#include "trabalhador/s2300/UnTarvoESocialCamposS2300.h"
+#include "trabalhador/s2306/UnTarvoESocialCamposS2306.h"
+#include "trabalhador/s3000/UnTarvoESocialCamposS3000.h"
 
 namespace tarvo {
 
@@ -290,6 +297,14 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          [](const TArgumentosDeEvento& A) {
              return Evento<sst::TTarvoESocialCamposS2221>(A.Id("AIdExameToxicologico"));
          }},
+        {"S-2230",
+         "Afastamento temporário",
+         {{"AIdSituacao", taId, "código interno da situação"},
+          {"ATipoEvento", taInteiro, "1 início do afastamento, 2 término"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<trabalhador::TTarvoESocialCamposS2230>(
+                 A.Id("AIdSituacao"), static_cast<TTipoEventoS2230>(A.Ordinal("ATipoEvento", 2)));
+         }},
         {"S-2240",
          "Condições ambientais do trabalho: fatores de risco",
          {{"AIdFatRisco", taId, "código interno do fator de risco"}},
@@ -302,6 +317,80 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          "Treinamentos e capacitações",
          {{"AIdCursoEmpregado", taId, "código interno do curso do empregado"}},
          [](const TArgumentosDeEvento& A) { return Evento<sst::TTarvoESocialCamposS2245>(A.Id("AIdCursoEmpregado")); }},
+        {"S-1005",
+         "Estabelecimentos, obras ou unidades de órgãos públicos",
+         {{"AIDEstab", taId, "código interno do estabelecimento, 0 para informar o departamento"},
+          {"AIDDepto", taId, "código interno do departamento, 0 para informar o estabelecimento"},
+          {"AData", taData, "data de referência"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<tabelas::TTarvoESocialCamposS1005>(A.Id("AIDEstab"), A.Id("AIDDepto"), A.Data("AData"));
+         }},
+        {"S-1020",
+         "Lotações tributárias",
+         {{"AIDEstab", taId, "código interno do estabelecimento"},
+          {"AIDDepto", taId, "código interno do departamento, 0 para informar o estabelecimento"},
+          {"AData", taData, "data de referência"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<tabelas::TTarvoESocialCamposS1020>(A.Id("AIDEstab"), A.Id("AIDDepto"), A.Data("AData"));
+         }},
+        {"S-1030",
+         "Cargos e empregos públicos",
+         {{"AIDCargosDescr", taId, "código interno do cargo"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<tabelas::TTarvoESocialCamposS1030>(A.Id("AIDCargosDescr"));
+         }},
+        {"S-1035",
+         "Carreiras públicas",
+         {{"AIdCargoDescr", taId, "código interno da carreira", true, "AIDCargosDescr"}},
+         [](const TArgumentosDeEvento& A) { return Evento<tabelas::TTarvoESocialCamposS1035>(A.Id("AIdCargoDescr")); }},
+        {"S-1040",
+         "Funções e cargos em comissão",
+         {{"AIDCargosDescr", taId, "código interno da função"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<tabelas::TTarvoESocialCamposS1040>(A.Id("AIDCargosDescr"));
+         }},
+        {"S-1060",
+         "Ambientes de trabalho",
+         {{"AIdAmbiente", taId, "código interno do ambiente"}},
+         [](const TArgumentosDeEvento& A) { return Evento<tabelas::TTarvoESocialCamposS1060>(A.Id("AIdAmbiente")); }},
+        {"S-1070",
+         "Processos administrativos e judiciais",
+         {{"AIdProcesso", taId, "código interno do processo"}},
+         [](const TArgumentosDeEvento& A) { return Evento<tabelas::TTarvoESocialCamposS1070>(A.Id("AIdProcesso")); }},
+        {"S-2250",
+         "Aviso prévio",
+         {{"AIdAvisoPrevio", taId, "código interno do aviso prévio"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<trabalhador::TTarvoESocialCamposS2250>(A.Id("AIdAvisoPrevio"));
+         }},
+        {"S-2260",
+         "Convocação para trabalho intermitente",
+         {{"AIdEmpregado", taId, "código interno do empregado"}, {"ADataInicio", taData, "data da convocação"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<trabalhador::TTarvoESocialCamposS2260>(A.Id("AIdEmpregado"), A.Data("ADataInicio"));
+         }},
+        {"S-2298",
+         "Reintegração",
+         {{"AIdEmpregado", taId, "código interno do empregado"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<trabalhador::TTarvoESocialCamposS2298>(A.Id("AIdEmpregado"));
+         }},
+        {"S-2300",
+         "Trabalhador sem vínculo de emprego, início",
+         {{"AIdEmpregado", taId, "código interno do empregado"}, {"ADataGeracao", taData, "data de referência"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<trabalhador::TTarvoESocialCamposS2300>(A.Id("AIdEmpregado"), A.Data("ADataGeracao"));
+         }},
+        {"S-2306",
+         "Trabalhador sem vínculo de emprego, alteração",
+         {{"AIdEmpregado", taId, "código interno do empregado"}, {"AData", taData, "data de referência"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<trabalhador::TTarvoESocialCamposS2306>(A.Id("AIdEmpregado"), A.Data("AData"));
+         }},
+        {"S-3000",
+         "Exclusão de evento",
+         {{"AIdEvento", taId, "código interno do evento enviado"}},
+         [](const TArgumentosDeEvento& A) { return Evento<trabalhador::TTarvoESocialCamposS3000>(A.Id("AIdEvento")); }},
     };
     return LCatalogo;
 }
