@@ -11,6 +11,10 @@
 #include "imports/UnTarvoUtilsDb.h"
 #include "pagamento/UnTarvoESocialCamposS1210.h"
 #include "remuneracao/UnTarvoESocialCamposS1200.h"
+#include "rural/UnTarvoESocialCamposS1280.h"
+#include "rural/UnTarvoESocialCamposS1295.h"
+#include "rural/UnTarvoESocialCamposS1298.h"
+#include "rural/UnTarvoESocialCamposS1299.h"
 #include "sst/UnTarvoESocialCamposS2210.h"
 #include "sst/UnTarvoESocialCamposS2220.h"
 #include "sst/UnTarvoESocialCamposS2221.h"
@@ -255,6 +259,30 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          {{"AIDEmpregado", taId, "código interno do empregado"}, {"ADataGeracao", taData, "data de referência"}},
          [](const TArgumentosDeEvento& A) {
              return Evento<trabalhador::TTarvoESocialCamposS2100>(A.Id("AIDEmpregado"), A.Data("ADataGeracao"));
+        {"S-1280",
+         "Informações complementares aos eventos periódicos",
+         {{"AIdEmpresa", taId, "código interno da empresa"}, {"ACompetencia", taData, "primeiro dia da competência"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<rural::TTarvoESocialCamposS1280>(A.Id("AIdEmpresa"), A.Data("ACompetencia"));
+         }},
+        {"S-1295",
+         "Solicitação de totalização para pagamento em contingência",
+         {},
+         [](const TArgumentosDeEvento&) { return Evento<rural::TTarvoESocialCamposS1295>(); }},
+        {"S-1298",
+         "Reabertura dos eventos periódicos",
+         {{"AIDEmpresa", taId, "código interno da empresa"}},
+         [](const TArgumentosDeEvento& A) { return Evento<rural::TTarvoESocialCamposS1298>(A.Id("AIDEmpresa")); }},
+        {"S-1299",
+         "Fechamento dos eventos periódicos",
+         {{"AIdEmpresa", taInteiro, "código interno da empresa"},
+          {"ADataInicio", taData, "primeiro dia do período"},
+          {"ADataFim", taData, "último dia do período"},
+          {"AIndApur", taInteiro, "0 mensal, 1 décimo terceiro"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<rural::TTarvoESocialCamposS1299>(A.Inteiro("AIdEmpresa"), A.Data("ADataInicio"),
+                                                            A.Data("ADataFim"),
+                                                            static_cast<tpIndApuracao>(A.Inteiro("AIndApur")));
          }},
         {"S-2190",
          "Admissão de trabalhador, registro preliminar",
