@@ -254,11 +254,6 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
               {"TipoTrabalhador", taInteiro, "0 empregado (padrão), 1 prestador de serviço", false, 1},
               {"DataInicioVigencia", taData, "início do leiaute: o que é anterior vai como pagamento anterior", false}},
              SqlDosCpfs}},
-        {"S-2100",
-         "Cadastramento inicial do vínculo",
-         {{"AIDEmpregado", taId, "código interno do empregado"}, {"ADataGeracao", taData, "data de referência"}},
-         [](const TArgumentosDeEvento& A) {
-             return Evento<trabalhador::TTarvoESocialCamposS2100>(A.Id("AIDEmpregado"), A.Data("ADataGeracao"));
         {"S-1280",
          "Informações complementares aos eventos periódicos",
          {{"AIdEmpresa", taId, "código interno da empresa"}, {"ACompetencia", taData, "primeiro dia da competência"}},
@@ -284,6 +279,11 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
                                                             A.Data("ADataFim"),
                                                             static_cast<tpIndApuracao>(A.Inteiro("AIndApur")));
          }},
+        {"S-2100",
+         "Cadastramento inicial do vínculo",
+         {{"AIDEmpregado", taId, "código interno do empregado"}, {"ADataGeracao", taData, "data de referência"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<trabalhador::TTarvoESocialCamposS2100>(A.Id("AIDEmpregado"), A.Data("ADataGeracao"));
         {"S-2190",
          "Admissão de trabalhador, registro preliminar",
          {{"AIDEmpregado", taId, "código interno do empregado"}},
