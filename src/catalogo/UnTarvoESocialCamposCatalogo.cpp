@@ -188,7 +188,7 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          }},
         {"S-1035",
          "Carreiras públicas",
-         {{"AIdCargoDescr", taId, "código interno da carreira", true, "AIDCargosDescr"}},
+         {{"AIdCargoDescr", taId, "código interno da carreira", true, -1, "AIDCargosDescr"}},
          [](const TArgumentosDeEvento& A) { return Evento<tabelas::TTarvoESocialCamposS1035>(A.Id("AIdCargoDescr")); }},
         {"S-1040",
          "Funções e cargos em comissão",
@@ -273,7 +273,7 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          {{"AIdEmpresa", taInteiro, "código interno da empresa"},
           {"ADataInicio", taData, "primeiro dia do período"},
           {"ADataFim", taData, "último dia do período"},
-          {"AIndApur", taInteiro, "0 mensal, 1 décimo terceiro"}},
+          {"AIndApur", taInteiro, "0 mensal, 1 décimo terceiro", true, 1}},
          [](const TArgumentosDeEvento& A) {
              return Evento<rural::TTarvoESocialCamposS1299>(A.Inteiro("AIdEmpresa"), A.Data("ADataInicio"),
                                                             A.Data("ADataFim"),
@@ -284,6 +284,7 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          {{"AIDEmpregado", taId, "código interno do empregado"}, {"ADataGeracao", taData, "data de referência"}},
          [](const TArgumentosDeEvento& A) {
              return Evento<trabalhador::TTarvoESocialCamposS2100>(A.Id("AIDEmpregado"), A.Data("ADataGeracao"));
+         }},
         {"S-2190",
          "Admissão de trabalhador, registro preliminar",
          {{"AIDEmpregado", taId, "código interno do empregado"}},
@@ -328,10 +329,10 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
         {"S-2230",
          "Afastamento temporário",
          {{"AIdSituacao", taId, "código interno da situação"},
-          {"ATipoEvento", taInteiro, "1 início do afastamento, 2 término"}},
+          {"ATipoEvento", taInteiro, "1 início do afastamento, 2 término", true, 2}},
          [](const TArgumentosDeEvento& A) {
              return Evento<trabalhador::TTarvoESocialCamposS2230>(
-                 A.Id("AIdSituacao"), static_cast<TTipoEventoS2230>(A.Ordinal("ATipoEvento", 2)));
+                 A.Id("AIdSituacao"), static_cast<TTipoEventoS2230>(A.Inteiro("ATipoEvento")));
          }},
         {"S-2240",
          "Condições ambientais do trabalho: fatores de risco",
