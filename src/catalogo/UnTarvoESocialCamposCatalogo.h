@@ -41,6 +41,8 @@ struct TArgumentoDeEvento {
     bool Obrigatorio = true;
     /// Of a taInteiro that is an enumeration, its last ordinal; the first is 0.
     std::int32_t UltimoOrdinal = -1;
+    /// Another name that is taken too, where the events of a family spell one argument differently.
+    const char* OutroNome = nullptr;
 };
 
 /// The values of an event's arguments, checked against their kinds. An optional argument that was not given reads

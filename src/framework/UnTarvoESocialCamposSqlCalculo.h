@@ -34,6 +34,12 @@ INNER JOIN CALCCOMPLPER ON (CALCCOMPLPER.IDCALCCOMPL = CALCCOMPL.IDCALCCOMPL
 inline constexpr std::string_view JUNCAO_ACORDO =
     "INNER JOIN FP_INFOGFIP650660 ON (FP_INFOGFIP650660.IDINFOGFIP650660 = CALCCOMPL.IDINFOGFIP650660)";
 
+/// The complementary dismissal of a calculated row; the JOIN or LEFT JOIN stands before it.
+inline constexpr std::string_view RESC_COMPL_DO_CALCULO =
+    R"(RESC_COMPL ON (RESC_COMPL.COD_EMPRESA = CALCULO.COD_EMPRESA
+  AND RESC_COMPL.COD_EMPREGADO = CALCULO.COD_EMPREGADO
+  AND RESC_COMPL.DATA_PGTO = CALCULO.DATA_PAGTO))";
+
 /// The complementary vacation amounts of a contract in a run: IDVERBA, BASE, REFERENCIA, VALOR. ATipoFolha is the text
 /// of CALCULO.TIPO.
 std::string SqlFeriasComplementares(std::int64_t AIdEmpregado, std::string_view ATipoFolha, TDateTime ADataInicio,

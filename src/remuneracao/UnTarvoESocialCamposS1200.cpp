@@ -81,11 +81,8 @@ std::string SqlDasFolhas(tpIndApuracao AIndApuracao)
          "  AND CALCCOMPL.TIPOCALCULO = 1\n  AND CALCULO.COD_EMPRESA = %3:d"},
         // Complementary dismissal by agreement, paid in the month.
         {6, "CALCULO.DATA_PAGTO", "CALCULO.SUBTIPO", "0", "RESC_COMPL.IDINFOGFIP650660", "0",
-         "CALCULO\n"
-         "INNER JOIN RESC_COMPL ON (RESC_COMPL.COD_EMPRESA = CALCULO.COD_EMPRESA\n"
-         "                      AND RESC_COMPL.COD_EMPREGADO = CALCULO.COD_EMPREGADO\n"
-         "                      AND RESC_COMPL.DATA_PGTO = CALCULO.DATA_PAGTO)\n"
-         "JOIN TAB_VERBAS ON (CALCULO.COD_VERBA = TAB_VERBAS.CODIGO)",
+         "CALCULO\nINNER JOIN " + std::string(RESC_COMPL_DO_CALCULO) +
+             "\nJOIN TAB_VERBAS ON (CALCULO.COD_VERBA = TAB_VERBAS.CODIGO)",
          "CALCULO.TIPO = '05'\n  AND CALCULO.SUBTIPO = 2\n  AND RESC_COMPL.IDINFOGFIP650660 IS NOT NULL\n"
          "  AND CALCULO.DATA_PAGTO BETWEEN %1:s AND %2:s"},
     };

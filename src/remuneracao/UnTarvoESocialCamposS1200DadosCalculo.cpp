@@ -8,6 +8,7 @@
 #include "imports/UnTarvoUtilsDatas.h"
 #include "imports/UnTarvoUtilsDb.h"
 #include "imports/UnTarvoUtilsMatematica.h"
+#include "tabelas/UnTarvoESocialCamposSqlRubricaRpa.h"
 
 namespace tarvo::remuneracao {
 
@@ -273,18 +274,7 @@ TDataset TTarvoESocialCamposS1200DadosCalculo::BuscarDadosRpa() const
   || 'RPA' COD_VERBA,
   RPATPVALOR.SEQUENCIA,
   RPAVALOR.VALOR
-FROM FP_RUBRICARELACRPA
-JOIN FP_ESOCIALTABELA ON (FP_RUBRICARELACRPA.IDESOCIALTABELA = FP_ESOCIALTABELA.IDESOCIALTABELA
-                      AND FP_ESOCIALTABELA.TABELA = 3)
-JOIN FP_ESOCIALTABELA FP_ESOCIALTABELACP ON (FP_RUBRICARELACRPA.IDESOCIALTABELACP = FP_ESOCIALTABELACP.IDESOCIALTABELA
-                                         AND FP_ESOCIALTABELACP.TABELA = 9997)
-JOIN FP_ESOCIALTABELA FP_ESOCIALTABELAIRRF ON (FP_RUBRICARELACRPA.IDESOCIALTABELAIRRF = FP_ESOCIALTABELAIRRF.IDESOCIALTABELA
-                                           AND FP_ESOCIALTABELAIRRF.TABELA = 9998)
-JOIN FP_ESOCIALTABELA FP_ESOCIALTABELAFGTS ON (FP_RUBRICARELACRPA.IDESOCIALTABELAFGTS = FP_ESOCIALTABELAFGTS.IDESOCIALTABELA
-                                           AND FP_ESOCIALTABELAFGTS.TABELA = 9996)
-JOIN FP_ESOCIALTABELA FP_ESOCIALTABELACS ON (FP_RUBRICARELACRPA.IDESOCIALTABELACS = FP_ESOCIALTABELACS.IDESOCIALTABELA
-                                         AND FP_ESOCIALTABELACS.TABELA = 9995)
-JOIN RPATPVALOR ON (FP_RUBRICARELACRPA.IDRPATPVALOR = RPATPVALOR.IDRPATPVALOR)
+%4:s
 JOIN RPAVALOR ON (RPATPVALOR.IDRPATPVALOR = RPAVALOR.IDRPATPVALOR)
 JOIN RPA ON (RPAVALOR.IDRPA = RPA.IDRPA)
 WHERE FP_ESOCIALTABELA.CODIGO NOT IN ('9203')
@@ -294,8 +284,9 @@ WHERE FP_ESOCIALTABELA.CODIGO NOT IN ('9203')
   AND RPA.%2:S = %3:D
   AND RPA.%2:S = %3:D
 ORDER BY RPATPVALOR.SEQUENCIA )";
-    return TTarvoConsultasGeral::BuscarRegistrosSomenteLeitura(
-        Format(SQL, FInfoBind.IdEmpregado(), FInfoBind.NrReciboRpa, ColunaDaLotacao(), IdDaLotacao()));
+    return TTarvoConsultasGeral::BuscarRegistrosSomenteLeitura(Format(SQL, FInfoBind.IdEmpregado(),
+                                                                      FInfoBind.NrReciboRpa, ColunaDaLotacao(),
+                                                                      IdDaLotacao(), tabelas::ORIGEM_DA_RUBRICA_RPA));
 }
 
 TDataset TTarvoESocialCamposS1200DadosCalculo::BuscarPorTipoDeQuebra() const

@@ -1,5 +1,6 @@
 #include "sst/UnTarvoESocialCamposCat.h"
 
+#include "framework/UnTarvoESocialCamposListaDeGrupos.h"
 #include "imports/UnOvraFormat.h"
 #include "imports/UnTarvoConsultasGeral.h"
 
@@ -74,13 +75,9 @@ void TTarvoESocialCamposCat::CarregarDadosParteAtingida()
 FROM FP_CATPARTEATINGIDA
 WHERE FP_CATPARTEATINGIDA.IDTABCAT = %0:d)";
     parteAtingida.clear();
-    const auto LCds = TTarvoConsultasGeral::BuscarRegistrosSomenteLeitura(Format(SQL, FIdTabCat));
-    for (; !LCds->Eof(); LCds->Next()) {
-        auto LParte =
-            std::make_unique<TTarvoESocialCamposparteAtingida>(LCds->FieldByName("IDCATPARTEATINGIDA").AsInteger());
-        LParte->CarregarDados();
-        parteAtingida.push_back(std::move(LParte));
-    }
+    AcrescentarUmPorLinha<&TField::AsInteger>(
+        parteAtingida, TTarvoConsultasGeral::BuscarRegistrosSomenteLeitura(Format(SQL, FIdTabCat)),
+        "IDCATPARTEATINGIDA");
 }
 
 void TTarvoESocialCamposCat::CarregarAgenteCausador()

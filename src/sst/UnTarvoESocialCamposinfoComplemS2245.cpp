@@ -1,5 +1,6 @@
 #include "sst/UnTarvoESocialCamposinfoComplemS2245.h"
 
+#include "framework/UnTarvoESocialCamposListaDeGrupos.h"
 #include "imports/UnOvraFormat.h"
 #include "imports/UnTarvoConsultasGeral.h"
 
@@ -49,13 +50,9 @@ void TTarvoESocialCamposinfoComplemS2245::CarregarProfissionais(const TListaCamp
 FROM FP_CURSOEMPREGADODET
 WHERE FP_CURSOEMPREGADODET.IDCURSOEMPREGADO = %0:d)";
     // The list isn't emptied first: a second load doubles it; meant.
-    const auto LCds = TTarvoConsultasGeral::BuscarRegistrosSomenteLeitura(Format(SQL, FIdCursoEmpregado));
-    for (; !LCds->Eof(); LCds->Next()) {
-        auto LProfissional =
-            std::make_unique<TTarvoESocialCamposideProfResp>(LCds->FieldByName("IDCURSOEMPREGADODET").AsLargeInt());
-        LProfissional->CarregarDados(AListaCamposModificados);
-        ideProfResp.push_back(std::move(LProfissional));
-    }
+    AcrescentarUmPorLinha(ideProfResp,
+                          TTarvoConsultasGeral::BuscarRegistrosSomenteLeitura(Format(SQL, FIdCursoEmpregado)),
+                          "IDCURSOEMPREGADODET", AListaCamposModificados);
 }
 
 } // namespace tarvo::sst

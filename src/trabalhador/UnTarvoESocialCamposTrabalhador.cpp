@@ -1,5 +1,6 @@
 #include "trabalhador/UnTarvoESocialCamposTrabalhador.h"
 
+#include "framework/UnTarvoESocialCamposListaDeGrupos.h"
 #include "imports/UnOvraFormat.h"
 #include "imports/UnTarvoConsultasGeral.h"
 
@@ -9,8 +10,7 @@ TTarvoESocialCamposTrabalhador::TTarvoESocialCamposTrabalhador(std::int64_t AIDE
     : TTarvoESocialCamposGrupoBase("{36756A42-CD30-44CE-8661-02396AFC2FC2}"), Nascimento(AIDEmpregado),
       Documentos(AIDEmpregado), Endereco(AIDEmpregado), TrabEstrangeiro(AIDEmpregado), InfoDeficiencia(AIDEmpregado),
       Aposentadoria(AIDEmpregado), Contato(AIDEmpregado), FIDEmpregado(AIDEmpregado)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposTrabalhador::Propriedades() const
 {
@@ -104,13 +104,8 @@ void TTarvoESocialCamposTrabalhador::CarregarDadosDependentes()
 FROM DEPENDENTES
 INNER JOIN EMPREGADOS ON (DEPENDENTES.COD_EMPRESA = EMPREGADOS.COD_EMPRESA AND DEPENDENTES.COD_EMPREGADO = EMPREGADOS.COD_EMPREGADO)
 WHERE EMPREGADOS.IDEMPREGADO = %0:d)";
-    const auto LCds = TTarvoConsultasGeral::BuscarRegistros(Format(SQL, FIDEmpregado));
-    for (; !LCds->Eof(); LCds->Next()) {
-        auto LDependente =
-            std::make_unique<TTarvoESocialCamposDependente>(LCds->FieldByName("IDDEPENDENTE").AsInteger());
-        LDependente->CarregarDados();
-        Dependentes.push_back(std::move(LDependente));
-    }
+    AcrescentarUmPorLinha<&TField::AsInteger>(
+        Dependentes, TTarvoConsultasGeral::BuscarRegistros(Format(SQL, FIDEmpregado)), "IDDEPENDENTE");
 }
 
 void TTarvoESocialCamposTrabalhador::CriarDependenteUnico()

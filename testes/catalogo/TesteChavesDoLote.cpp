@@ -60,6 +60,27 @@ TEST_F(TTesteChavesDoLote, EmpregadosAntesDosPrestadoresCadaCpfUmaVez)
     EXPECT_EQ(R"("444.444.444-44" "77777777777")", Chaves(2));
 }
 
+TEST_F(TTesteChavesDoLote, PagamentosVaoPelosMesmosCpfsComOsSeusArgumentos)
+{
+    Empregado("333.333.333-33");
+    Recibo(1, "00011122233", D(2021, 3, 31));
+    const auto LChaves = BuscarChavesDoLote("S-1210", {{"IdEmpresa", "1"},
+                                                       {"DataInicio", "2021-03-01"},
+                                                       {"DataFim", "2021-03-31"},
+                                                       {"DataInicioVigencia", "2018-07-01"},
+                                                       {"TipoTrabalhador", "1"}});
+    ASSERT_EQ(2u, LChaves.size());
+    EXPECT_EQ(R"("333.333.333-33")", LChaves[0].Json);
+    EXPECT_EQ(R"("00011122233")", LChaves[1].Json);
+    EXPECT_EQ("2018-07-01", LChaves[1].Argumentos.at("DataInicioVigencia"));
+    EXPECT_NO_THROW(ConstruirEvento("S-1210", LChaves[1].Argumentos));
+    EXPECT_THROW(
+        BuscarChavesDoLote(
+            "S-1210",
+            {{"IdEmpresa", "1"}, {"DataInicio", "2021-03-01"}, {"DataFim", "2021-03-31"}, {"TipoTrabalhador", "2"}}),
+        EArgumentoInvalido);
+}
+
 TEST_F(TTesteChavesDoLote, ArgumentoErradoOuEventoSemLote)
 {
     EXPECT_THROW(BuscarChavesDoLote("S-1000", {}), EArgumentoInvalido);

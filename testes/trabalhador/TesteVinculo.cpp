@@ -186,6 +186,14 @@ TEST_F(TTesteVinculo, TrabalhoTemporario)
         EXPECT_EQ("111", LGrupo.IdeTrabSubstituido.Cpf);
         EXPECT_EQ("Prorrogado", LGrupo.justprorr);
     }
+    Configurar(38, 9, D(2021, 3, 2), D(2021, 3, 5), "1", "222", "2");
+    Configurar(38, 9, D(2021, 3, 4), nullptr, "2", "222", "2");
+    for (const auto& [LData, LMotivo] : {std::pair{D(2021, 3, 3), "1"}, {D(2021, 3, 4), "2"}, {D(2021, 3, 6), "2"}}) {
+        TTarvoESocialCamposTrabTemporario LGrupo(ID, LData);
+        LGrupo.CarregarDados();
+        EXPECT_EQ(LMotivo, LGrupo.MotivoContratoCod);
+    }
+    Executar("DELETE FROM SC00_EMPREGADOCFG WHERE DATAINICIO >= '02.03.2021'");
     TTarvoESocialCamposTrabTemporario LDepois(ID, D(2021, 3, 2));
     LDepois.CarregarDados();
     EXPECT_EQ("", LDepois.MotivoContratoCod + LDepois.IdeTrabSubstituido.Cpf);
