@@ -64,6 +64,7 @@ TEST_F(TTesteItensRemun, LinhasSeguidasDaMesmaVerbaSeJuntam)
         // After an item that was left out the next row starts anew.
         {{Dados(1, 0), Dados(1, 30), Dados(1, 5)}, "00001=35"},
         {{Dados(1, -1), Dados(1, 0)}, ""},
+        {{Dados(1, 10), Dados(2, 0), Dados(1, 5)}, "00001=10 00001=5"},
         {{}, ""},
     };
     for (const auto& LCaso : LCasos)

@@ -91,6 +91,53 @@ TEST_F(TTesteS1200, CadaFolhaDoMesEhUmDemonstrativo)
     EXPECT_EQ(1, Info.IdEmpregado());
 }
 
+TEST_F(TTesteS1200, PeriodoQueCadaFolhaPrecisaTer)
+{
+    const struct {
+        TDateTime Inicio;
+        TDateTime Fim;
+        bool Normal;
+        bool Complementar;
+    } LCasos[] = {
+        {D(2021, 3, 1), D(2021, 3, 31), true, true},   {D(2021, 3, 10), D(2021, 3, 20), true, true},
+        {D(2021, 2, 28), D(2021, 3, 31), false, true}, {D(2021, 3, 1), D(2021, 4, 1), false, true},
+        {D(2021, 2, 15), D(2021, 3, 1), false, true},  {D(2021, 3, 31), D(2021, 4, 30), false, true},
+        {D(2021, 2, 1), D(2021, 2, 28), false, false}, {D(2021, 4, 1), D(2021, 4, 30), false, false},
+    };
+    for (const auto& LCaso : LCasos) {
+        for (const auto& [LSubTipo, LEsperado] : {std::pair{0, LCaso.Normal}, {4, LCaso.Complementar}}) {
+            for (const char* LTabela : {"CALCULO", "CALCCOMPL", "FP_CALCCOMPLEMPREG", "CALCCOMPLPER"})
+                Executar(std::string("DELETE FROM ") + LTabela);
+            Complementar(1, 2, LCaso.Inicio, LCaso.Fim, D(2021, 3, 31));
+            Calculo(1, 10, {.SubTipo = LSubTipo, .Inicio = LCaso.Inicio, .Fim = LCaso.Fim});
+            EXPECT_EQ(LEsperado, !Identificadores().empty()) << LSubTipo << " " << DateTimeToStr(LCaso.Inicio);
+        }
+    }
+    // A complementary row has no part in the list of normal payrolls, not even with its period.
+    Executar("DELETE FROM CALCCOMPL");
+    Calculo(1, 10, {.Fim = D(2021, 3, 10)});
+    for (const int LSubTipo : {2, 4})
+        Calculo(1, 20, {.SubTipo = LSubTipo, .Fim = D(2021, 3, 15)});
+    EXPECT_EQ("01_000_0_03_2021", Identificadores());
+}
+
+TEST_F(TTesteS1200, ComplementarDeAcordoNadaTemNoPeriodoAtual)
+{
+    Complementar(1, 2, D(2021, 3, 1), D(2021, 3, 31), D(2021, 3, 31));
+    Calculo(1, 10, {.SubTipo = 4});
+    Calculo(1, 10, {.Tipo = "03", .SubTipo = 4});
+    Info.SetListaIdsEmpregado({1});
+    Info.SetSubTipoFolha(4);
+    for (const int LTipo : {1, 3})
+        for (const auto& [LCompl, LQuantidade] : {std::pair{1, 0u}, {2, 1u}}) {
+            Info.SetTipoFolha(LTipo);
+            Info.SetTipoFolhaCompl(LCompl);
+            remuneracao::TTarvoESocialCamposInfoPerApurS1200 LGrupo(Info);
+            LGrupo.CarregarDados();
+            EXPECT_EQ(LQuantidade, LGrupo.ideEstabLot.size()) << LTipo << "/" << LCompl;
+        }
+}
+
 TEST_F(TTesteS1200, EventoAnualSoTemODecimoTerceiro)
 {
     Calculo(1, 100);
