@@ -15,6 +15,8 @@ struct TEventoDeTabela {
     std::map<std::string, std::string> Argumentos;
     /// Groups of the tree, those that lists make at construction included.
     std::size_t Grupos;
+    /// Statements that run whatever the list says.
+    std::size_t SempreLidos = 0;
 };
 
 void PrintTo(const TEventoDeTabela& AEvento, std::ostream* ASaida) { *ASaida << AEvento.Codigo; }
@@ -58,6 +60,7 @@ TEST_P(TTesteCargaDasTabelas, AListaAlcancaCadaGrupoNaOrdemDaCarga)
 
     const TListaCamposModificados LNenhum{"{nenhum}"};
     const auto LSempre = Carregar(LEvento, &LNenhum);
+    EXPECT_EQ(LCaso.SempreLidos, LSempre.size());
     const auto SemOsDeSempre = [&](TTextos ATextos) {
         std::erase_if(ATextos, [&](const auto& ATexto) { return std::ranges::count(LSempre, ATexto) > 0; });
         return ATextos;
@@ -101,7 +104,7 @@ const TEventoDeTabela EVENTOS[] = {
     {"S-1035", {{"aidcargosdescr", "8"}}, 4},
     {"S-1040", {{"AIDCargosDescr", "8"}}, 4},
     {"S-1060", {{"AIdAmbiente", "1"}}, 4},
-    {"S-1070", {{"AIdProcesso", "1"}}, 6},
+    {"S-1070", {{"AIdProcesso", "1"}}, 6, 1},
 };
 
 INSTANTIATE_TEST_SUITE_P(Tabelas, TTesteCargaDasTabelas, ::testing::ValuesIn(EVENTOS));
