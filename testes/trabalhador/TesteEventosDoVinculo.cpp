@@ -35,23 +35,12 @@ protected:
                               {"COD_REC_FGTS", ACodRecFgts},
                               {"TIPOACIDENTE", 2}});
     }
-
-    void Detalhe(int AEspecie, int ATp, TValorSql A1, TValorSql A2, TValorSql A3, TValorSql A4 = nullptr)
-    {
-        Inserir("FP_EMPREGADOSDET", {{"IDEMPREGADO", ID},
-                                     {"ESPECIE", AEspecie},
-                                     {"TP", ATp},
-                                     {"INFORMACAO1", A1},
-                                     {"INFORMACAO2", A2},
-                                     {"INFORMACAO3", A3},
-                                     {"INFORMACAO4", A4}});
-    }
 };
 
 TEST_F(TTesteAfastamentoTemporario, InicioOuTerminoERetificacaoNosDois)
 {
     Situacao(1, 1801, "09", D(2021, 3, 31));
-    Detalhe(5, 1, "1", "2", "1", "60");
+    Detalhe(5, 1, {"1", "2", "1", "60"});
     Inserir("ES02_SPPROC", {{"IDSPPROC", 60}, {"NUMERO", "PROC-60"}});
     // Any other ordinal is the end.
     for (const int LTipo : {0, 1, 2, 9}) {
@@ -139,17 +128,17 @@ TEST_F(TTesteAfastamentoTemporario, CessaoEMandatoPelaSituacaoEmTexto)
 {
     Situacao(1, 1815);
     // Texts that are no number, and rows of the other kind, belong to no situation.
-    Detalhe(3, 1, "um", "texto", "9");
-    Detalhe(3, 1, nullptr, "nulo", "9");
-    Detalhe(3, 1, " 1 ", "551", "1");
-    Detalhe(3, 2, "01", "612", "2");
+    Detalhe(3, 1, {"um", "texto", "9"});
+    Detalhe(3, 1, {nullptr, "nulo", "9"});
+    Detalhe(3, 1, {" 1 ", "551", "1"});
+    Detalhe(3, 2, {"01", "612", "2"});
     TTarvoESocialCamposiniAfastamento LGrupo(1);
     LGrupo.CarregarDados();
     EXPECT_EQ("551/612", LGrupo.infoCessao.cnpjCess + "/" + LGrupo.infoMandSind.cnpjSind);
     EXPECT_EQ(1, LGrupo.infoCessao.infOnus);
     EXPECT_EQ(2, LGrupo.infoMandSind.infOnusRemun);
     // The correction compares the text itself.
-    Detalhe(5, 1, "01", "1", "2");
+    Detalhe(5, 1, {"01", "1", "2"});
     TTarvoESocialCamposinfoRetif LRetificacao(1);
     LRetificacao.CarregarDados();
     EXPECT_EQ("", LRetificacao.origRetif);
@@ -272,11 +261,9 @@ TEST(TesteConversorCodHorario, NumeroEmSeteDigitosEOutroTextoComoVeio)
 TEST_F(TTesteEventosDoVinculo, ConvocacaoDoDiaELocalSoComTipoDeLogradouro)
 {
     Inserir("CA06_CODLOGRAD", {{"IDCODLOGRAD", 1}, {"ABREVESOCIAL", "AV"}});
-    Inserir("PREST_SERVICO", {{"IDPRESTSERVICO", 3},
-                              {"IDCODLOGRAD", 1},
-                              {"ENDERECO", "Avenida Saúde"},
-                              {"CEP", "13000-400"},
-                              {"UF", "SP"}});
+    Inserir(
+        "PREST_SERVICO",
+        {{"IDPRESTSERVICO", 3}, {"IDCODLOGRAD", 1}, {"ENDERECO", "Avenida Saúde"}, {"CEP", "13000-400"}, {"UF", "SP"}});
     Inserir("PREST_SERVICO", {{"IDPRESTSERVICO", 4}, {"ENDERECO", "Rua Sem Tipo"}});
     Convocar(D(2021, 3, 10), nullptr, 3, 3);
     Convocar(D(2021, 3, 11), nullptr, 3, 4);

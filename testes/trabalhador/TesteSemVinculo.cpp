@@ -10,24 +10,8 @@ using namespace trabalhador;
 
 class TTesteSemVinculo : public TTesteComTrabalhador {
 protected:
-    void Detalhe(int ATp, TValorSql A1, TValorSql A2, TValorSql A3, TValorSql A4, TValorSql A5 = nullptr,
-                 TValorSql A6 = nullptr, TValorSql A7 = nullptr)
-    {
-        Inserir("FP_EMPREGADOSDET", {{"IDEMPREGADO", ID},
-                                     {"ESPECIE", 1},
-                                     {"TP", ATp},
-                                     {"INFORMACAO1", A1},
-                                     {"INFORMACAO2", A2},
-                                     {"INFORMACAO3", A3},
-                                     {"INFORMACAO4", A4},
-                                     {"INFORMACAO5", A5},
-                                     {"INFORMACAO6", A6},
-                                     {"INFORMACAO7", A7}});
-    }
-
     void Salario(TDateTime AInicio, double AValor)
     {
-        Inserir("FP_NIVEL", {{"DESCRICAO", "Nível"}});
         Inserir("SALARIO",
                 {{"IDEMPREGADO", ID}, {"INICIOVIGENCIA", AInicio}, {"VALOR", AValor}, {"SALARIOMENSAL", AValor}});
     }
@@ -107,11 +91,11 @@ TEST_F(TTesteSemVinculo, CargoEhOMaisNovoAteAData)
 
 TEST_F(TTesteSemVinculo, DirigenteSindicalComOrigemQueNaoEhDataFalha)
 {
-    Detalhe(4, "outro", "01/01/2000", "outro", nullptr);
+    Detalhe(1, 4, {"outro", "01/01/2000", "outro", nullptr});
     TTarvoESocialCamposInfoDirigenteSindical LGrupo(ID);
     LGrupo.CarregarDados();
     EXPECT_EQ("", LGrupo.cnpjOrigem);
-    Detalhe(5, "61234567000117", "10/01/05", "SIND-33", "12");
+    Detalhe(1, 5, {"61234567000117", "10/01/05", "SIND-33", "12"});
     LGrupo.CarregarDados();
     EXPECT_EQ("61234567000117/SIND-33/", LGrupo.cnpjOrigem + "/" + LGrupo.matricOrig + "/" + LGrupo.categOrig);
     EXPECT_EQ(D(2005, 1, 10), LGrupo.dtAdmOrigem);
@@ -138,7 +122,7 @@ TEST_F(TTesteSemVinculo, CedidoPrecisaDaAdmissaoDoDetalheEDoRegime)
                LGrupo.tpRegPrev;
     };
     Empregado("TIPOADMISSAO = 4");
-    Detalhe(2, "991", "MAT-8", "02/03/2012", "3");
+    Detalhe(1, 2, {"991", "MAT-8", "02/03/2012", "3"});
     Configurar(38, 6, D(2021, 2, 1), nullptr, "x", "x", "x");
     EXPECT_EQ("////", Carregar());
     // Neither expired nor yet to begin: the validity isn't looked at.
@@ -173,7 +157,7 @@ TEST_F(TTesteSemVinculo, EstagioSemDetalheMantemABolsaESemSalarioNaoTemNada)
     };
     EXPECT_EQ("812,4/180/1////", Resumo(D(2021, 2, 28)));
     Empregado("C_EXP_PRAZO_INICIO = NULL, C_EXP_PRAZO_FIM = 90");
-    Detalhe(4, "1", "4", "Direito", "AP-1", "5", "6", "8");
+    Detalhe(1, 4, {"1", "4", "Direito", "AP-1", "5", "6", "8"});
     EXPECT_EQ("900/90/1/14/Faculdade/Agente/Supervisora", Resumo(D(2021, 3, 1)));
     // The children don't look at the date.
     EXPECT_EQ("/0/0//Faculdade/Agente/Supervisora", Resumo(D(2021, 1, 31)));
@@ -184,7 +168,7 @@ TEST_F(TTesteSemVinculo, EstagioSemDetalheMantemABolsaESemSalarioNaoTemNada)
 TEST_F(TTesteSemVinculo, TextosDoEstagio)
 {
     Salario(D(2021, 2, 1), 900.0);
-    Detalhe(4, nullptr, nullptr, nullptr, nullptr);
+    Detalhe(1, 4, {});
     for (const auto& [LNatureza, LNivel, LEsperado] : {std::tuple{"1", "1", "1-Obrigatório|1-Fundamental"},
                                                        {"2", "2", "2-Não obrigatório|2-Médio"},
                                                        {"3", "3", "|3-Formação profissional"},
