@@ -107,8 +107,8 @@ TEST_F(TTesteInfoContrato, RecargaComSalarioNuloGuardaOValorAnterior)
 
 TEST_F(TTesteInfoContrato, DuracaoDizOTipoDoContrato)
 {
-    Inserir("FP_EMPREGADOSDET", {{"IDEMPREGADO", ID}, {"ESPECIE", 5}, {"TP", 2}, {"INFORMACAO10", "outro"}});
-    Inserir("FP_EMPREGADOSDET", {{"IDEMPREGADO", ID}, {"ESPECIE", 5}, {"TP", 1}, {"INFORMACAO10", "Safra"}});
+    Detalhe(5, 2, {}, "outro");
+    Detalhe(5, 1, {}, "Safra");
     TTarvoESocialCamposDuracao LGrupo(ID, D(2021, 3, 1));
     LGrupo.CarregarDados();
     EXPECT_EQ("", LGrupo.TipoContratoDesc);

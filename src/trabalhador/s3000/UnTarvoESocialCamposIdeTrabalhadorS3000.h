@@ -14,7 +14,7 @@ public:
 
     std::string cpfTrab;
     std::string nisTrab;
-    /// 0 for the pay and the payments of a month.
+    /// 0 for the pay and the payments of a month, and for a category whose code is no whole number (723.1).
     std::int32_t CodCateg = 0;
 
 protected:
