@@ -50,7 +50,10 @@ void AdicionarEventos(CLI::App& AComando, TEventoDaLinha& AEvento,
         for (const auto& LArgumento : LEvento.Argumentos) {
             if (LOmitido == LArgumento.Nome)
                 continue;
-            LApp.add_option(std::string("--") + LArgumento.Nome, LValores[LArgumento.Nome], LArgumento.Descricao)
+            std::string LNomes = std::string("--") + LArgumento.Nome;
+            if (LArgumento.OutroNome != nullptr)
+                LNomes += std::string(",--") + LArgumento.OutroNome;
+            LApp.add_option(LNomes, LValores[LArgumento.Nome], LArgumento.Descricao)
                 ->ignore_case()
                 ->type_name(ExemploDoTipo(static_cast<int>(LArgumento.Tipo)));
         }

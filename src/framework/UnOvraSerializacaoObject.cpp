@@ -133,6 +133,14 @@ std::string ISuperObject::AsJSON(bool AIdentado) const
     return {LBuffer.GetString(), LBuffer.GetSize()};
 }
 
+std::string TextoJson(std::string_view ATexto)
+{
+    rapidjson::StringBuffer LBuffer;
+    TEscritor LEscritor(LBuffer);
+    EscreverTexto(LEscritor, ParaUtf8(ATexto));
+    return {LBuffer.GetString(), LBuffer.GetSize()};
+}
+
 ISuperObject TSuperObjectHelper::ToJson(const TTarvoESocialCamposGrupoBase& AGrupo, TSuperRttiContext*)
 {
     rapidjson::StringBuffer LBuffer;

@@ -212,6 +212,8 @@ std::string Minusculas(std::string_view AValor)
     return LTexto;
 }
 
+std::optional<std::int64_t> TryStrToInt64(std::string_view AValor) { return LerInteiro(AValor); }
+
 std::int64_t StrToInt64Def(std::string_view AValor, std::int64_t APadrao)
 {
     return LerInteiro(AValor).value_or(APadrao);

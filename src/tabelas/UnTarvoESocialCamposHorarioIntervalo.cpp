@@ -2,7 +2,7 @@
 
 #include "imports/UnOvraConversoes.h"
 #include "imports/UnOvraFormat.h"
-#include "tabelas/UnTarvoESocialCamposColunasDoDia.h"
+#include "tabelas/UnTarvoESocialCamposPrefixoDoDia.h"
 
 namespace tarvo::tabelas {
 
@@ -11,8 +11,7 @@ TTarvoESocialCamposHorarioIntervalo::TTarvoESocialCamposHorarioIntervalo(std::in
                                                                          TDiaSemana ADiaSemana)
     : TTarvoESocialCamposGrupoBase("{8A212C51-D97A-4E48-A558-AC44DDF00147}"), DiaSemana(ADiaSemana),
       FIdHorario(AIdHorario), FIdHorarioDet(AIdHorarioDet)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposHorarioIntervalo::Propriedades() const
 {
@@ -29,24 +28,25 @@ const TPropriedades& TTarvoESocialCamposHorarioIntervalo::Propriedades() const
 
 std::string TTarvoESocialCamposHorarioIntervalo::BuscarSQLDados()
 {
-    if (FIdHorarioDet != 0)
-        return R"(SELECT
-  TAB_HORARIOS.TIPOINTERVALO,
-  TAB_HORARIOSDET.DURINTERV INTERVALO,
-  TAB_HORARIOSDET.INT_E ENTRADA,
-  TAB_HORARIOSDET.INT_S SAIDA
+    static constexpr std::string_view SQL = R"(SELECT TAB_HORARIOS.TIPOINTERVALO,
+       TAB_HORARIOSDET.DURINTERV INTERVALO,
+       TAB_HORARIOSDET.INT_E ENTRADA,
+       TAB_HORARIOSDET.INT_S SAIDA
 FROM TAB_HORARIOSDET
 JOIN TAB_HORARIOS ON (TAB_HORARIOSDET.IDHORARIO = TAB_HORARIOS.IDHORARIO)
-WHERE TAB_HORARIOSDET.IDHORARIODET = )" +
-               IntToStr(FIdHorarioDet);
-    static constexpr std::string_view SQL = R"(SELECT
-  tab_horarios.TIPOINTERVALO,
-  TAB_HORARIOS.%0:s_INT_E AS ENTRADA,
-  TAB_HORARIOS.%0:s_INT_S AS SAIDA,
-  TAB_HORARIOS.DURINTERV%0:s AS INTERVALO
+WHERE TAB_HORARIOSDET.IDHORARIODET = )";
+    return FIdHorarioDet != 0 ? std::string(SQL) + IntToStr(FIdHorarioDet) : BuscarSqlConformeODia();
+}
+
+std::string TTarvoESocialCamposHorarioIntervalo::BuscarSqlConformeODia() const
+{
+    static constexpr std::string_view SQL = R"(SELECT tab_horarios.TIPOINTERVALO,
+       TAB_HORARIOS.%0:s_INT_E AS ENTRADA,
+       TAB_HORARIOS.%0:s_INT_S AS SAIDA,
+       TAB_HORARIOS.DURINTERV%0:s AS INTERVALO
 FROM TAB_HORARIOS
 WHERE TAB_HORARIOS.IDHORARIO = %1:d )";
-    return Format(SQL, ColunaDoDia(DiaSemana), FIdHorario);
+    return Format(SQL, PrefixoDoDia(DiaSemana), FIdHorario);
 }
 
 } // namespace tarvo::tabelas

@@ -5,17 +5,17 @@
 
 namespace tarvo::tabelas {
 
-/// S-1050 horarioIntervalo: the break of a working day. Source: TAB_HORARIOSDET of a detail, else the columns of the
-/// weekday in TAB_HORARIOS.
+/// horarioIntervalo: kind, duration, start and end of the interval of a schedule on one weekday (TAB_HORARIOS) or of one
+/// detail (TAB_HORARIOSDET).
 class TTarvoESocialCamposHorarioIntervalo : public TTarvoESocialCamposGrupoBase {
 public:
     TTarvoESocialCamposHorarioIntervalo(std::int64_t AIdHorario, std::int64_t AIdHorarioDet, TDiaSemana ADiaSemana);
 
     std::string tpInterv;
-    /// Minutes.
     std::string durInterv;
     std::string iniInterv;
     std::string termInterv;
+    /// Kept for the caller; the weekday form reads its columns by it.
     TDiaSemana DiaSemana;
 
 protected:
@@ -23,6 +23,8 @@ protected:
     std::string BuscarSQLDados() override;
 
 private:
+    std::string BuscarSqlConformeODia() const;
+
     std::int64_t FIdHorario;
     std::int64_t FIdHorarioDet;
 };

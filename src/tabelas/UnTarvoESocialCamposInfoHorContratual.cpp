@@ -7,8 +7,7 @@ TTarvoESocialCamposInfoHorContratual::TTarvoESocialCamposInfoHorContratual(std::
                                                                            TDiaSemana ADiaSemana)
     : TTarvoESocialCamposGrupoBase("{7E1BE90F-D600-402D-AA62-0041DEBD79DC}"),
       ideHorContratual(AIdHorario, AIdHorarioDet), dadosHorContratual(AIdHorario, AIdHorarioDet, ADiaSemana)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposInfoHorContratual::Propriedades() const
 {

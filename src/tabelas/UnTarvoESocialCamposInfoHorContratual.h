@@ -1,12 +1,11 @@
 #pragma once
 
-#include "framework/UnTarvoESocialCamposGrupoBase.h"
 #include "tabelas/UnTarvoESocialCamposdadosHorContratual.h"
 #include "tabelas/UnTarvoESocialCamposideHorContratual.h"
 
 namespace tarvo::tabelas {
 
-/// S-1050 infoHorContratual: one detail of a schedule (AIdHorarioDet other than 0), or one weekday of it.
+/// infoHorContratual of S-1050 and of a worker's contract: code and times of one detail or one weekday of a schedule.
 class TTarvoESocialCamposInfoHorContratual : public TTarvoESocialCamposGrupoBase {
 public:
     TTarvoESocialCamposInfoHorContratual(std::int64_t AIdHorario, std::int64_t AIdHorarioDet, TDiaSemana ADiaSemana);

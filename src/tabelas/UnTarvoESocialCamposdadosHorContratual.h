@@ -1,19 +1,17 @@
 #pragma once
 
-#include "framework/UnTarvoESocialCamposGrupoBase.h"
 #include "tabelas/UnTarvoESocialCamposHorarioIntervalo.h"
 
 namespace tarvo::tabelas {
 
-/// S-1050 dadosHorContratual: entry, exit and length of a working day. Source: TAB_HORARIOSDET of a detail, else the
-/// columns of the weekday in TAB_HORARIOS.
+/// dadosHorContratual: start, end, duration and flexibility of a schedule on one weekday (TAB_HORARIOS) or of one detail
+/// (TAB_HORARIOSDET).
 class TTarvoESocialCamposdadosHorContratual : public TTarvoESocialCamposGrupoBase {
 public:
     TTarvoESocialCamposdadosHorContratual(std::int64_t AIdHorario, std::int64_t AIdHorarioDet, TDiaSemana ADiaSemana);
 
     std::string hrEntr;
     std::string hrSaida;
-    /// Minutes.
     std::string durJornada;
     std::string perHorFlexivel;
     TTarvoESocialCamposHorarioIntervalo HorarioIntervalo;
@@ -25,6 +23,8 @@ protected:
     std::string BuscarSQLDados() override;
 
 private:
+    std::string BuscarSqlConformeoDia() const;
+
     std::int64_t FIdHorario;
     std::int64_t FIdHorarioDet;
     TDiaSemana FDiaSemana;

@@ -8,8 +8,7 @@ TTarvoESocialCamposideHorContratual::TTarvoESocialCamposideHorContratual(std::in
                                                                          std::int64_t AIdHorarioDet)
     : TTarvoESocialCamposGrupoBase("{151007F3-F3C2-4CEF-8A77-532D805485CA}"), FIdHorario(AIdHorario),
       FIdHorarioDet(AIdHorarioDet)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposideHorContratual::Propriedades() const
 {

@@ -4,13 +4,13 @@
 
 namespace tarvo::tabelas {
 
-/// S-1050 ideHorContratual: code of a schedule. Source: TAB_HORARIOSDET of a detail, else TAB_HORARIOS.
+/// ideHorContratual: code of a schedule (TAB_HORARIOS.CODIGO) or of one of its details
+/// (TAB_HORARIOSDET.CODIGOESOCIAL). The caller sets the validity.
 class TTarvoESocialCamposideHorContratual : public TTarvoESocialCamposGrupoBase {
 public:
     TTarvoESocialCamposideHorContratual(std::int64_t AIdHorario, std::int64_t AIdHorarioDet);
 
     std::string codHorContrat;
-    /// Set by the caller.
     std::string iniValid;
     std::string fimValid;
 

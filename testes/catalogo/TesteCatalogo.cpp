@@ -17,7 +17,7 @@ TEST(TesteCatalogo, CadaEventoUmaVezNaOrdemDosLeiautes)
 
 TEST(TesteCatalogo, OutroNomeDeUmArgumentoEhOMesmoArgumento)
 {
-    const std::vector<TArgumentoDeEvento> LDefinicoes{{"AIdCargoDescr", TTipoArgumento::taId, "", true, "AOutro"}};
+    const std::vector<TArgumentoDeEvento> LDefinicoes{{"AIdCargoDescr", TTipoArgumento::taId, "", true, -1, "AOutro"}};
     for (const char* LNome : {"AIdCargoDescr", "aidcargodescr", "AOutro", "AOUTRO"})
         EXPECT_EQ(7, TArgumentosDeEvento(LDefinicoes, {{LNome, "7"}}).Id("AIdCargoDescr")) << LNome;
     EXPECT_THROW(TArgumentosDeEvento(LDefinicoes, {{"AOutro", "7"}, {"AIdCargoDescr", "7"}}), EArgumentoInvalido);

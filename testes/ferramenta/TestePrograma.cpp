@@ -167,6 +167,63 @@ TEST(TTestePrograma, ReverteEmTudoOuNada)
     EXPECT_EQ(std::string::npos, Rodar(S1000()).Padrao.find("Roxo"));
 }
 
+TEST(TTestePrograma, ReverteOCargoEGravaNoBanco)
+{
+    const auto S1030 = [](const char* AComando, const char* ACargo, std::vector<std::string> AMais) {
+        AMais.insert(AMais.begin(), {AComando, "S-1030", "--banco", Banco(), "--AIDCargosDescr", ACargo});
+        return Rodar(AMais);
+    };
+    // A position, a public one by law without a date, a public one.
+    for (const auto& [LCargo, LComandos] : {std::pair{"1", 1}, {"7201", 2}, {"8", 3}}) {
+        const auto LSaida = S1030("reverter", LCargo, {});
+        EXPECT_EQ(0, LSaida.Codigo) << LSaida.Erros;
+        EXPECT_EQ(LComandos, std::count(LSaida.Padrao.begin(), LSaida.Padrao.end(), '\n')) << LSaida.Padrao;
+    }
+    const auto LAntes = S1030("carregar", "8", {}).Padrao;
+    const std::vector<std::string> LCorrecoes{"--definir", "InfoCargo.DadosCargo.nmCargo=Analista pleno", "--definir",
+                                              "InfoCargo.DadosCargo.cargoPublico.leicargo.dtLei=1/6/2011"};
+    const std::string LEsperado =
+        "UPDATE FP_CARGOSDESCR SET FP_CARGOSDESCR.DESCRICAO = 'Analista pleno', FP_CARGOSDESCR.IDCBO2002 = 8 WHERE "
+        "FP_CARGOSDESCR.IDCARGOSDESCR = 8\n"
+        "UPDATE FP_CARGOSPUBLICO SET FP_CARGOSPUBLICO.ACUMULOCARGOS = 1, FP_CARGOSPUBLICO.CONTAGEMTEMPO = 1, "
+        "FP_CARGOSPUBLICO.DEDICACAOEXCL = 0 WHERE FP_CARGOSPUBLICO.IDCARGOSDESCR = 8\n"
+        "UPDATE FP_CARGOSPUBLICO SET FP_CARGOSPUBLICO.NUMEROLEI = 1234, FP_CARGOSPUBLICO.DATALEI = '01.06.2011', "
+        "FP_CARGOSPUBLICO.SITUACAOLEI = 1 WHERE FP_CARGOSPUBLICO.IDCARGOSDESCR = 8\n";
+    EXPECT_EQ(LEsperado, S1030("reverter", "8", LCorrecoes).Padrao);
+    EXPECT_EQ(LAntes, S1030("carregar", "8", {}).Padrao);
+
+    // A quote breaks the first of the three, and none of them stays.
+    auto LQuebradas = LCorrecoes;
+    LQuebradas[1] += " d'água";
+    LQuebradas.emplace_back("--executar");
+    const auto LRecusado = S1030("reverter", "8", LQuebradas);
+    EXPECT_EQ(1, LRecusado.Codigo);
+    EXPECT_NE(std::string::npos, LRecusado.Erros.find("1 de 3 comandos recusados")) << LRecusado.Erros;
+    EXPECT_EQ(LAntes, S1030("carregar", "8", {}).Padrao);
+
+    auto LBoas = LCorrecoes;
+    LBoas.emplace_back("--executar");
+    const auto LGravado = S1030("reverter", "8", LBoas);
+    EXPECT_EQ(0, LGravado.Codigo) << LGravado.Erros;
+    EXPECT_EQ(LEsperado, LGravado.Padrao);
+    const auto LDepois = S1030("carregar", "8", {}).Padrao;
+    EXPECT_NE(std::string::npos, LDepois.find("\"nmCargo\": \"Analista pleno\"")) << LDepois;
+    EXPECT_NE(std::string::npos, LDepois.find("\"dtLei\": \"01/06/2011\""));
+
+    const auto LFixa = S1030("reverter", "8", {"--definir", "InfoCargo.NovaValidade.IniValid=2021-01"});
+    EXPECT_EQ(2, LFixa.Codigo);
+    EXPECT_NE(std::string::npos, LFixa.Erros.find("não pode ser alterada")) << LFixa.Erros;
+}
+
+TEST(TTestePrograma, OArgumentoDoS1035AtendePelosDoisNomes)
+{
+    for (const char* LNome : {"--AIdCargoDescr", "--AIDCargosDescr"}) {
+        const auto LSaida = Rodar({"carregar", "S-1035", "--banco", Banco(), LNome, "9"});
+        EXPECT_EQ(0, LSaida.Codigo) << LSaida.Erros;
+        EXPECT_NE(std::string::npos, LSaida.Padrao.find("Assessor público em comissão"));
+    }
+}
+
 TEST(TTestePrograma, AjudaEEventosEmPortugues)
 {
     for (const auto& LArgumentos : {std::vector<std::string>{"--ajuda"},

@@ -107,8 +107,8 @@ TEST_F(TTesteInfoContrato, RecargaComSalarioNuloGuardaOValorAnterior)
 
 TEST_F(TTesteInfoContrato, DuracaoDizOTipoDoContrato)
 {
-    Inserir("FP_EMPREGADOSDET", {{"IDEMPREGADO", ID}, {"ESPECIE", 5}, {"TP", 2}, {"INFORMACAO10", "outro"}});
-    Inserir("FP_EMPREGADOSDET", {{"IDEMPREGADO", ID}, {"ESPECIE", 5}, {"TP", 1}, {"INFORMACAO10", "Safra"}});
+    Detalhe(5, 2, {}, "outro");
+    Detalhe(5, 1, {}, "Safra");
     TTarvoESocialCamposDuracao LGrupo(ID, D(2021, 3, 1));
     LGrupo.CarregarDados();
     EXPECT_EQ("", LGrupo.TipoContratoDesc);
@@ -164,6 +164,10 @@ TEST_F(TTesteInfoContrato, TransferenciaDefinitivaPosteriorTambemDaOLocal)
     Transferir(D(2021, 7, 1), "TRANSFERENCIA DEFINITIVA", 303);
     EXPECT_EQ(233, Depto(D(2021, 1, 31)));
     EXPECT_EQ(233, Depto(D(2021, 7, 1)));
+    // Of two movements of one day the later entered is the place, and the transfer isn't later than the day.
+    Transferir(D(2021, 8, 1), "TRANSFERENCIA DEFINITIVA", 302);
+    Transferir(D(2021, 8, 1), "TRANSFERENCIA", 303);
+    EXPECT_EQ(233, Depto(D(2021, 8, 1)));
 }
 
 TEST_F(TTesteInfoContrato, LocalDoDomesticoEhOEnderecoDoEstabelecimento)
@@ -293,9 +297,10 @@ TEST_F(TTesteInfoContrato, CargoECategoriaNaData)
     Inserir("FP_CARGOSDESCR", {{"IDCARGOSDESCR", 1}, {"CODIGOESOCIAL", "C1"}, {"DESCRICAO", "Analista"}});
     Inserir("FP_CARGOSDESCR", {{"IDCARGOSDESCR", 2}, {"CODIGOESOCIAL", "C2"}, {"DESCRICAO", "Chefe"}});
     Inserir("FP_CARGOSPUBLICO", {{"IDCARGOSDESCR", 2}, {"TPCARGOPUBLICO", 3}, {"DATALEI", D(2010, 5, 15)}});
+    Inserir("EMPREGADOS", {{"IDEMPREGADO", ID - 1}});
+    Inserir("CARGOS", {{"IDEMPREGADO", ID - 1}, {"DATA", D(2021, 1, 1)}, {"IDCARGOSDESCR", 2}, {"MOTIVO", "8"}});
     Inserir("CARGOS", {{"IDEMPREGADO", ID}, {"DATA", D(2021, 2, 1)}, {"IDCARGOSDESCR", 1}, {"MOTIVO", "1"}});
     Inserir("CARGOS", {{"IDEMPREGADO", ID}, {"DATA", D(2021, 3, 1)}, {"IDCARGOSDESCR", 2}, {"MOTIVO", "4"}});
-    Inserir("CARGOS", {{"IDEMPREGADO", ID + 1}, {"DATA", D(2021, 2, 1)}, {"IDCARGOSDESCR", 2}, {"MOTIVO", "8"}});
     Inserir("FP_ESOCIALTABELA", {{"IDESOCIALTABELA", 101}, {"TABELA", 3}, {"CODIGO", "701"}});
     Empregado("IDCATEGORIAESOCIAL = 101");
     for (const auto& [LData, LEsperado, LMotivo] : {std::tuple{D(2021, 1, 31), "//0//701", ""},

@@ -20,18 +20,6 @@ protected:
         return LGrupo.TipoRegTrabCodigo + "/" + LGrupo.TipoRegTrabalhista + "/" + LGrupo.TipoRegPrevCodigo + "/" +
                LGrupo.TipoRegPrevidenciario;
     }
-
-    void Detalhe(int AEspecie, int ATp, TValorSql A1, TValorSql A2, TValorSql A3, TValorSql A4, TValorSql A10)
-    {
-        Inserir("FP_EMPREGADOSDET", {{"IDEMPREGADO", ID},
-                                     {"ESPECIE", AEspecie},
-                                     {"TP", ATp},
-                                     {"INFORMACAO1", A1},
-                                     {"INFORMACAO2", A2},
-                                     {"INFORMACAO3", A3},
-                                     {"INFORMACAO4", A4},
-                                     {"INFORMACAO10", A10}});
-    }
 };
 
 TEST_F(TTesteVinculo, RegimesDaLinhaMaisNovaVigente)
@@ -166,8 +154,8 @@ TEST_F(TTesteVinculo, EstatutarioCarregaEmQualquerRegimeEDataInvalidaFalha)
 
 TEST_F(TTesteVinculo, TrabalhoTemporario)
 {
-    Detalhe(1, 6, "x", "x", "x", "x", "Prorrogado");
-    Detalhe(1, 5, "x", "x", "x", "x", "outro");
+    Detalhe(1, 6, {"x", "x", "x", "x"}, "Prorrogado");
+    Detalhe(1, 5, {"x", "x", "x", "x"}, "outro");
     for (const auto& [LMotivo, LTem, LTexto] :
          {std::tuple{"1", true, "1-Necessidade de substituição transitória de pessoal permanente"},
           {"2", true, "2-Demanda complementar de serviços"},
@@ -186,6 +174,14 @@ TEST_F(TTesteVinculo, TrabalhoTemporario)
         EXPECT_EQ("111", LGrupo.IdeTrabSubstituido.Cpf);
         EXPECT_EQ("Prorrogado", LGrupo.justprorr);
     }
+    Configurar(38, 9, D(2021, 3, 2), D(2021, 3, 5), "1", "222", "2");
+    Configurar(38, 9, D(2021, 3, 4), nullptr, "2", "222", "2");
+    for (const auto& [LData, LMotivo] : {std::pair{D(2021, 3, 3), "1"}, {D(2021, 3, 4), "2"}, {D(2021, 3, 6), "2"}}) {
+        TTarvoESocialCamposTrabTemporario LGrupo(ID, LData);
+        LGrupo.CarregarDados();
+        EXPECT_EQ(LMotivo, LGrupo.MotivoContratoCod);
+    }
+    Executar("DELETE FROM SC00_EMPREGADOCFG WHERE DATAINICIO >= '02.03.2021'");
     TTarvoESocialCamposTrabTemporario LDepois(ID, D(2021, 3, 2));
     LDepois.CarregarDados();
     EXPECT_EQ("", LDepois.MotivoContratoCod + LDepois.IdeTrabSubstituido.Cpf);
@@ -289,8 +285,8 @@ TEST_F(TTesteVinculo, SucessaoETransferenciaLeemAMesmaLinha)
     EXPECT_EQ(D(2021, 2, 1), LSucessao.DataAdmissaoEmpreg);
     EXPECT_EQ("", LSucessao.CnpjEmpregadorAnterior);
 
-    Detalhe(1, 2, "outro", "outro", "01/01/2000", "9", "outro");
-    Detalhe(1, 3, "22113344000140", "771", "15/03/2014", "1", "Sucessão");
+    Detalhe(1, 2, {"outro", "outro", "01/01/2000", "9"}, "outro");
+    Detalhe(1, 3, {"22113344000140", "771", "15/03/2014", "1"}, "Sucessão");
     Empregado("TIPOADMISSAO = 1");
     LSucessao.CarregarDados();
     TTarvoESocialCampostransfDom LTransferencia(ID);

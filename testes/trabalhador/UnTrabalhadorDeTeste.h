@@ -63,6 +63,23 @@ protected:
                                       {"INFORMACAO4", A4}});
     }
 
+    /// Detail row of the worker: INFORMACAO1 to INFORMACAO7 in order, those left out null, and INFORMACAO10.
+    void Detalhe(int AEspecie, int ATp, std::vector<TValorSql> AInformacoes, TValorSql A10 = nullptr)
+    {
+        AInformacoes.resize(7, nullptr);
+        Inserir("FP_EMPREGADOSDET", {{"IDEMPREGADO", ID},
+                                     {"ESPECIE", AEspecie},
+                                     {"TP", ATp},
+                                     {"INFORMACAO1", AInformacoes[0]},
+                                     {"INFORMACAO2", AInformacoes[1]},
+                                     {"INFORMACAO3", AInformacoes[2]},
+                                     {"INFORMACAO4", AInformacoes[3]},
+                                     {"INFORMACAO5", AInformacoes[4]},
+                                     {"INFORMACAO6", AInformacoes[5]},
+                                     {"INFORMACAO7", AInformacoes[6]},
+                                     {"INFORMACAO10", A10}});
+    }
+
     void Empregado(const std::string& AAtribuicao)
     {
         Executar("UPDATE EMPREGADOS SET " + AAtribuicao + " WHERE IDEMPREGADO = " + std::to_string(ID));
