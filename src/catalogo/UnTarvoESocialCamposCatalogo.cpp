@@ -3,9 +3,46 @@
 #include <algorithm>
 #include <limits>
 
+#include "framework/UnOvraSerializacaoObject.h"
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
+#include "imports/UnOvraConnection.h"
 #include "imports/UnOvraConversoes.h"
+#include "imports/UnOvraFormat.h"
+#include "imports/UnTarvoUtilsDb.h"
+#include "pagamento/UnTarvoESocialCamposS1210.h"
+#include "remuneracao/UnTarvoESocialCamposS1200.h"
+#include "rural/UnTarvoESocialCamposS1280.h"
+#include "rural/UnTarvoESocialCamposS1295.h"
+#include "rural/UnTarvoESocialCamposS1298.h"
+#include "rural/UnTarvoESocialCamposS1299.h"
+#include "sst/UnTarvoESocialCamposS2210.h"
+#include "sst/UnTarvoESocialCamposS2220.h"
+#include "sst/UnTarvoESocialCamposS2221.h"
+#include "sst/UnTarvoESocialCamposS2240.h"
+#include "sst/UnTarvoESocialCamposS2241.h"
+#include "sst/UnTarvoESocialCamposS2245.h"
 #include "tabelas/UnTarvoESocialCamposS1000.h"
+#include "tabelas/UnTarvoESocialCamposS1005.h"
+#include "tabelas/UnTarvoESocialCamposS1010.h"
+#include "tabelas/UnTarvoESocialCamposS1020.h"
+#include "tabelas/UnTarvoESocialCamposS1030.h"
+#include "tabelas/UnTarvoESocialCamposS1035.h"
+#include "tabelas/UnTarvoESocialCamposS1040.h"
+#include "tabelas/UnTarvoESocialCamposS1050.h"
+#include "tabelas/UnTarvoESocialCamposS1060.h"
+#include "tabelas/UnTarvoESocialCamposS1070.h"
+#include "trabalhador/s2100/UnTarvoESocialCamposS2100.h"
+#include "trabalhador/s2190/UnTarvoESocialCamposS2190.h"
+#include "trabalhador/s2200/UnTarvoESocialCamposS2200.h"
+#include "trabalhador/s2205/UnTarvoESocialCamposS2205.h"
+#include "trabalhador/s2206/UnTarvoESocialCamposS2206.h"
+#include "trabalhador/s2230/UnTarvoESocialCamposS2230.h"
+#include "trabalhador/s2250/UnTarvoESocialCamposS2250.h"
+#include "trabalhador/s2260/UnTarvoESocialCamposS2260.h"
+#include "trabalhador/s2298/UnTarvoESocialCamposS2298.h"
+#include "trabalhador/s2300/UnTarvoESocialCamposS2300.h"
+#include "trabalhador/s2306/UnTarvoESocialCamposS2306.h"
+#include "trabalhador/s3000/UnTarvoESocialCamposS3000.h"
 
 namespace tarvo {
 
@@ -18,6 +55,19 @@ template <class T, class... A>
 TEventoConstruido Evento(const A&... AArgumentos)
 {
     return {nullptr, std::make_unique<T>(AArgumentos...)};
+}
+
+TEventoConstruido EventoS1210(const TArgumentosDeEvento& A)
+{
+    auto LInfoBind = std::make_shared<pagamento::TTarvoESocialCamposS1210IOP>();
+    LInfoBind->IdEmpresa = A.Id("IdEmpresa");
+    LInfoBind->Cpf = A.Texto("Cpf");
+    LInfoBind->DataInicio = A.Data("DataInicio");
+    LInfoBind->DataFim = A.Data("DataFim");
+    LInfoBind->DataInicioVigencia = A.Data("DataInicioVigencia");
+    LInfoBind->TipoTrabalhador = static_cast<TTipoTrabalhador>(A.Inteiro("TipoTrabalhador"));
+    auto LEvento = std::make_unique<pagamento::TTarvoESocialCamposS1210>(*LInfoBind);
+    return {std::move(LInfoBind), std::move(LEvento)};
 }
 
 bool EhDigito(char AChar) { return AChar >= '0' && AChar <= '9'; }
@@ -37,6 +87,48 @@ TDateTime LerDataIso(std::string_view ATexto)
     return DataValida(LAno, LMes, LDia) ? EncodeDate(LAno, LMes, LDia) : TDateTime();
 }
 
+/// Everybody of a company by CPF: its employees, then the providers with a receipt of the company in the period who
+/// aren't among them. A CPF is taken as it is stored, and compared by its digits.
+std::string SqlDosCpfs(const TArgumentosDeEvento& AArgumentos)
+{
+    static constexpr std::string_view SQL = R"(SELECT CHAVES.CPF
+FROM (
+  SELECT PESSOAS.ORDEM, PESSOAS.CPF, MIN(PESSOAS.ORDEM) OVER (PARTITION BY PESSOAS.DIGITOS) AS PRIMEIRA
+  FROM (
+    SELECT 1 AS ORDEM, TRIM(EMPREGADOS.CPF) AS CPF,
+           REPLACE(REPLACE(REPLACE(EMPREGADOS.CPF,'.',''),'-',''),' ','') AS DIGITOS
+    FROM EMPREGADOS
+    WHERE EMPREGADOS.IDEMPRESA = %0:d
+    UNION
+    SELECT 2 AS ORDEM, MIN(TRIM(PREST_SERVICO.CPF)) AS CPF,
+           REPLACE(REPLACE(REPLACE(PREST_SERVICO.CPF,'.',''),'-',''),' ','') AS DIGITOS
+    FROM RPA
+    JOIN PREST_SERVICO ON (PREST_SERVICO.IDPRESTSERVICO = RPA.IDPRESTSERVICO)
+    JOIN SC00_FILIAL ON (SC00_FILIAL.IDFILIAL = RPA.IDFILIAL)
+    WHERE SC00_FILIAL.IDEMPRESA = %0:d
+      AND RPA.DATAPAGTO BETWEEN %1:s AND %2:s
+    GROUP BY 3
+  ) AS PESSOAS
+  WHERE PESSOAS.DIGITOS <> ''
+) AS CHAVES
+WHERE CHAVES.ORDEM = CHAVES.PRIMEIRA
+ORDER BY CHAVES.ORDEM, CHAVES.CPF)";
+    return Format(SQL, AArgumentos.Id("IdEmpresa"), FormatarDataDB(AArgumentos.Data("DataInicio"), true),
+                  FormatarDataDB(AArgumentos.Data("DataFim"), true));
+}
+
+/// A value of a key as text of an argument, and as JSON.
+std::pair<std::string, std::string> LerChave(const TConjuntoDeLinhas& ALinhas, std::size_t ALinha, std::size_t AColuna)
+{
+    const auto LTipo = ALinhas.Colunas()[AColuna].Tipo;
+    if (LTipo == TTipoColuna::Data || LTipo == TTipoColuna::DataHora) {
+        const auto LTexto = FormatDateTime("yyyy-mm-dd", ALinhas.Data(ALinha, AColuna));
+        return {LTexto, "\"" + LTexto + "\""};
+    }
+    const auto LTexto = ALinhas.Texto(ALinha, AColuna);
+    return {LTexto, LTipo == TTipoColuna::Inteiro ? LTexto : TextoJson(LTexto)};
+}
+
 } // namespace
 
 // One entry an event, in layout order. The names of the arguments are the constructor's, or those of the parameter
@@ -50,6 +142,244 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          [](const TArgumentosDeEvento& A) {
              return Evento<tabelas::TTarvoESocialCamposS1000>(A.Id("AIDEmpresa"), A.Data("AData"));
          }},
+        {"S-1005",
+         "Estabelecimentos, obras ou unidades de órgãos públicos",
+         {{"AIDEstab", taId, "código interno do estabelecimento, 0 para informar o departamento"},
+          {"AIDDepto", taId, "código interno do departamento, 0 para informar o estabelecimento"},
+          {"AData", taData, "data de referência"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<tabelas::TTarvoESocialCamposS1005>(A.Id("AIDEstab"), A.Id("AIDDepto"), A.Data("AData"));
+         }},
+        {"S-1010",
+         "Tabela de rubricas",
+         {{"AIdVerba", taId, "código interno da verba; 0 para uma rubrica de RPA"},
+          {"AidEmpresa", taId, "código interno da empresa"},
+          {"AIdRubricaRpa", taId, "código interno da relação da rubrica de RPA; 0 para uma verba"},
+          {"ADataGeracao", taData, "data de referência"},
+          {"codIncCP", taInteiro, "incidência para a previdência social", false},
+          {"codIncIRRF", taInteiro, "incidência para o imposto de renda", false},
+          {"codIncFGTS", taInteiro, "incidência para o FGTS", false},
+          {"codIncSIND", taInteiro, "incidência para a contribuição sindical", false}},
+         [](const TArgumentosDeEvento& A) {
+             // Without any of the codes the event gets none at all, and leaves them empty.
+             std::shared_ptr<tabelas::TCodigosIncidenciaVerba> LCodigos;
+             if (A.Informado("codIncCP") || A.Informado("codIncIRRF") || A.Informado("codIncFGTS") ||
+                 A.Informado("codIncSIND"))
+                 LCodigos = std::make_shared<tabelas::TCodigosIncidenciaVerba>(tabelas::TCodigosIncidenciaVerba{
+                     A.Inteiro("codIncCP"), A.Inteiro("codIncIRRF"), A.Inteiro("codIncFGTS"), A.Inteiro("codIncSIND")});
+             auto LEvento = Evento<tabelas::TTarvoESocialCamposS1010>(
+                 A.Id("AIdVerba"), A.Id("AidEmpresa"), A.Id("AIdRubricaRpa"), A.Data("ADataGeracao"), LCodigos.get());
+             LEvento.Parametros = LCodigos;
+             return LEvento;
+         }},
+        {"S-1020",
+         "Lotações tributárias",
+         {{"AIDEstab", taId, "código interno do estabelecimento"},
+          {"AIDDepto", taId, "código interno do departamento, 0 para informar o estabelecimento"},
+          {"AData", taData, "data de referência"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<tabelas::TTarvoESocialCamposS1020>(A.Id("AIDEstab"), A.Id("AIDDepto"), A.Data("AData"));
+         }},
+        {"S-1030",
+         "Cargos e empregos públicos",
+         {{"AIDCargosDescr", taId, "código interno do cargo"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<tabelas::TTarvoESocialCamposS1030>(A.Id("AIDCargosDescr"));
+         }},
+        {"S-1035",
+         "Carreiras públicas",
+         {{"AIdCargoDescr", taId, "código interno da carreira", true, -1, "AIDCargosDescr"}},
+         [](const TArgumentosDeEvento& A) { return Evento<tabelas::TTarvoESocialCamposS1035>(A.Id("AIdCargoDescr")); }},
+        {"S-1040",
+         "Funções e cargos em comissão",
+         {{"AIDCargosDescr", taId, "código interno da função"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<tabelas::TTarvoESocialCamposS1040>(A.Id("AIDCargosDescr"));
+         }},
+        {"S-1050",
+         "Tabela de horários e turnos de trabalho",
+         {{"AIdHorario", taId, "código interno do horário"},
+          {"AIdHorarioDet", taId, "código interno do detalhe do horário; 0 para um dia da semana"},
+          {"ADiaSemana", taInteiro, "dia da semana, de 0 (domingo) a 6 (sábado)", true, 6}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<tabelas::TTarvoESocialCamposS1050>(A.Id("AIdHorario"), A.Id("AIdHorarioDet"),
+                                                              static_cast<TDiaSemana>(A.Inteiro("ADiaSemana")));
+         }},
+        {"S-1060",
+         "Ambientes de trabalho",
+         {{"AIdAmbiente", taId, "código interno do ambiente"}},
+         [](const TArgumentosDeEvento& A) { return Evento<tabelas::TTarvoESocialCamposS1060>(A.Id("AIdAmbiente")); }},
+        {"S-1070",
+         "Processos administrativos e judiciais",
+         {{"AIdProcesso", taId, "código interno do processo"}},
+         [](const TArgumentosDeEvento& A) { return Evento<tabelas::TTarvoESocialCamposS1070>(A.Id("AIdProcesso")); }},
+        {"S-1200",
+         "Remuneração de trabalhador vinculado ao RGPS",
+         {{"IdEmpresa", taId, "código interno da empresa"},
+          {"Cpf", taCpf, "CPF do trabalhador, como está no cadastro"},
+          {"DataInicio", taData, "primeiro dia do mês"},
+          {"DataFim", taData, "último dia do mês"},
+          {"IndApuracao", taInteiro, "0 mensal (padrão), 1 anual (13º salário)", false, 1}},
+         [](const TArgumentosDeEvento& A) {
+             auto LParametros = std::make_shared<remuneracao::TTarvoESocialCamposS1200IOP>();
+             LParametros->SetIdEmpresa(A.Id("IdEmpresa"));
+             LParametros->SetCpf(A.Texto("Cpf"));
+             LParametros->SetDataInicio(A.Data("DataInicio"));
+             LParametros->SetDataFim(A.Data("DataFim"));
+             LParametros->SetIndApuracao(static_cast<tpIndApuracao>(A.Inteiro("IndApuracao")));
+             auto LEvento = std::make_unique<remuneracao::TTarvoESocialCamposS1200>(*LParametros);
+             return TEventoConstruido{std::move(LParametros), std::move(LEvento)};
+         },
+         TLoteDoEvento{{{"IdEmpresa", taId, "código interno da empresa"},
+                        {"DataInicio", taData, "primeiro dia do mês"},
+                        {"DataFim", taData, "último dia do mês"},
+                        {"IndApuracao", taInteiro, "0 mensal (padrão), 1 anual (13º salário)", false, 1}},
+                       SqlDosCpfs}},
+        {"S-1210",
+         "Pagamentos de rendimentos do trabalho",
+         {{"IdEmpresa", taId, "código interno da empresa"},
+          {"Cpf", taCpf, "CPF do beneficiário"},
+          {"DataInicio", taData, "primeiro dia do período"},
+          {"DataFim", taData, "último dia do período"},
+          // Taken as the remuneration takes it, so that one command line serves both.
+          {"IndApuracao", taInteiro, "0 mensal, 1 anual; não muda os pagamentos", false, 1},
+          {"TipoTrabalhador", taInteiro, "0 empregado (padrão), 1 prestador de serviço", false, 1},
+          {"DataInicioVigencia", taData, "início do leiaute: o que é anterior vai como pagamento anterior", false}},
+         EventoS1210,
+         TLoteDoEvento{
+             {{"IdEmpresa", taId, "código interno da empresa"},
+              {"DataInicio", taData, "primeiro dia do período"},
+              {"DataFim", taData, "último dia do período"},
+              {"IndApuracao", taInteiro, "0 mensal, 1 anual; não muda os pagamentos", false, 1},
+              {"TipoTrabalhador", taInteiro, "0 empregado (padrão), 1 prestador de serviço", false, 1},
+              {"DataInicioVigencia", taData, "início do leiaute: o que é anterior vai como pagamento anterior", false}},
+             SqlDosCpfs}},
+        {"S-1280",
+         "Informações complementares aos eventos periódicos",
+         {{"AIdEmpresa", taId, "código interno da empresa"}, {"ACompetencia", taData, "primeiro dia da competência"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<rural::TTarvoESocialCamposS1280>(A.Id("AIdEmpresa"), A.Data("ACompetencia"));
+         }},
+        {"S-1295",
+         "Solicitação de totalização para pagamento em contingência",
+         {},
+         [](const TArgumentosDeEvento&) { return Evento<rural::TTarvoESocialCamposS1295>(); }},
+        {"S-1298",
+         "Reabertura dos eventos periódicos",
+         {{"AIDEmpresa", taId, "código interno da empresa"}},
+         [](const TArgumentosDeEvento& A) { return Evento<rural::TTarvoESocialCamposS1298>(A.Id("AIDEmpresa")); }},
+        {"S-1299",
+         "Fechamento dos eventos periódicos",
+         {{"AIdEmpresa", taInteiro, "código interno da empresa"},
+          {"ADataInicio", taData, "primeiro dia do período"},
+          {"ADataFim", taData, "último dia do período"},
+          {"AIndApur", taInteiro, "0 mensal, 1 décimo terceiro", true, 1}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<rural::TTarvoESocialCamposS1299>(A.Inteiro("AIdEmpresa"), A.Data("ADataInicio"),
+                                                            A.Data("ADataFim"),
+                                                            static_cast<tpIndApuracao>(A.Inteiro("AIndApur")));
+         }},
+        {"S-2100",
+         "Cadastramento inicial do vínculo",
+         {{"AIDEmpregado", taId, "código interno do empregado"}, {"ADataGeracao", taData, "data de referência"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<trabalhador::TTarvoESocialCamposS2100>(A.Id("AIDEmpregado"), A.Data("ADataGeracao"));
+         }},
+        {"S-2190",
+         "Admissão de trabalhador, registro preliminar",
+         {{"AIDEmpregado", taId, "código interno do empregado"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<trabalhador::TTarvoESocialCamposS2190>(A.Id("AIDEmpregado"));
+         }},
+        {"S-2200",
+         "Admissão de trabalhador",
+         {{"AIDEmpresa", taId, "código interno da empresa"},
+          {"AIDEmpregado", taId, "código interno do empregado"},
+          {"ADataGeracao", taData, "data de referência"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<trabalhador::TTarvoESocialCamposS2200>(A.Id("AIDEmpresa"), A.Id("AIDEmpregado"),
+                                                                  A.Data("ADataGeracao"));
+         }},
+        {"S-2205",
+         "Alteração de dados cadastrais do trabalhador",
+         {{"AIDEmpregado", taId, "código interno do empregado"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<trabalhador::TTarvoESocialCamposS2205>(A.Id("AIDEmpregado"));
+         }},
+        {"S-2206",
+         "Alteração de contrato de trabalho",
+         {{"AIDEmpregado", taId, "código interno do empregado"}, {"AData", taData, "data de referência"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<trabalhador::TTarvoESocialCamposS2206>(A.Id("AIDEmpregado"), A.Data("AData"));
+         }},
+        {"S-2210",
+         "Comunicação de acidente de trabalho",
+         {{"AIdTabCat", taId, "código interno da CAT"}},
+         [](const TArgumentosDeEvento& A) { return Evento<sst::TTarvoESocialCamposS2210>(A.Id("AIdTabCat")); }},
+        {"S-2220",
+         "Monitoramento da saúde do trabalhador",
+         {{"AIDEmpregado", taId, "código interno do empregado"}},
+         [](const TArgumentosDeEvento& A) { return Evento<sst::TTarvoESocialCamposS2220>(A.Id("AIDEmpregado")); }},
+        {"S-2221",
+         "Exame toxicológico do motorista profissional",
+         {{"AIdExameToxicologico", taId, "código interno do exame"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<sst::TTarvoESocialCamposS2221>(A.Id("AIdExameToxicologico"));
+         }},
+        {"S-2230",
+         "Afastamento temporário",
+         {{"AIdSituacao", taId, "código interno da situação"},
+          {"ATipoEvento", taInteiro, "1 início do afastamento, 2 término", true, 2}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<trabalhador::TTarvoESocialCamposS2230>(
+                 A.Id("AIdSituacao"), static_cast<TTipoEventoS2230>(A.Inteiro("ATipoEvento")));
+         }},
+        {"S-2240",
+         "Condições ambientais do trabalho: fatores de risco",
+         {{"AIdFatRisco", taId, "código interno do fator de risco"}},
+         [](const TArgumentosDeEvento& A) { return Evento<sst::TTarvoESocialCamposS2240>(A.Id("AIdFatRisco")); }},
+        {"S-2241",
+         "Insalubridade, periculosidade e aposentadoria especial",
+         {{"AIdInsalPeric", taId, "código interno da condição"}},
+         [](const TArgumentosDeEvento& A) { return Evento<sst::TTarvoESocialCamposS2241>(A.Id("AIdInsalPeric")); }},
+        {"S-2245",
+         "Treinamentos e capacitações",
+         {{"AIdCursoEmpregado", taId, "código interno do curso do empregado"}},
+         [](const TArgumentosDeEvento& A) { return Evento<sst::TTarvoESocialCamposS2245>(A.Id("AIdCursoEmpregado")); }},
+        {"S-2250",
+         "Aviso prévio",
+         {{"AIdAvisoPrevio", taId, "código interno do aviso prévio"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<trabalhador::TTarvoESocialCamposS2250>(A.Id("AIdAvisoPrevio"));
+         }},
+        {"S-2260",
+         "Convocação para trabalho intermitente",
+         {{"AIdEmpregado", taId, "código interno do empregado"}, {"ADataInicio", taData, "data da convocação"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<trabalhador::TTarvoESocialCamposS2260>(A.Id("AIdEmpregado"), A.Data("ADataInicio"));
+         }},
+        {"S-2298",
+         "Reintegração",
+         {{"AIdEmpregado", taId, "código interno do empregado"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<trabalhador::TTarvoESocialCamposS2298>(A.Id("AIdEmpregado"));
+         }},
+        {"S-2300",
+         "Trabalhador sem vínculo de emprego, início",
+         {{"AIdEmpregado", taId, "código interno do empregado"}, {"ADataGeracao", taData, "data de referência"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<trabalhador::TTarvoESocialCamposS2300>(A.Id("AIdEmpregado"), A.Data("ADataGeracao"));
+         }},
+        {"S-2306",
+         "Trabalhador sem vínculo de emprego, alteração",
+         {{"AIdEmpregado", taId, "código interno do empregado"}, {"AData", taData, "data de referência"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<trabalhador::TTarvoESocialCamposS2306>(A.Id("AIdEmpregado"), A.Data("AData"));
+         }},
+        {"S-3000",
+         "Exclusão de evento",
+         {{"AIdEvento", taId, "código interno do evento enviado"}},
+         [](const TArgumentosDeEvento& A) { return Evento<trabalhador::TTarvoESocialCamposS3000>(A.Id("AIdEvento")); }},
     };
     return LCatalogo;
 }
@@ -70,15 +400,56 @@ TEventoConstruido ConstruirEvento(std::string_view ACodigo, const std::map<std::
     return LEvento.Construir(TArgumentosDeEvento(LEvento.Argumentos, AArgumentos));
 }
 
+std::vector<TChaveDoLote> BuscarChavesDoLote(std::string_view ACodigo,
+                                             const std::map<std::string, std::string>& AArgumentos)
+{
+    const auto& LEvento = BuscarEventoDoCatalogo(ACodigo);
+    if (!LEvento.Lote)
+        throw EArgumentoInvalido("O evento " + std::string(LEvento.Codigo) + " não é carregado em lote");
+    const auto LLinhas = OvraConnection().Consultar(
+        LEvento.Lote->SqlDasChaves(TArgumentosDeEvento(LEvento.Lote->Argumentos, AArgumentos)));
+
+    // What the batch alone needs, such as the company, is no argument of the event.
+    std::map<std::string, std::string> LComuns;
+    for (const auto& [LNome, LTexto] : AArgumentos)
+        if (std::any_of(LEvento.Argumentos.begin(), LEvento.Argumentos.end(),
+                        [&](const auto& AArgumento) { return MesmoTexto(AArgumento.Nome, LNome); }))
+            LComuns.emplace(LNome, LTexto);
+
+    const auto& LColunas = LLinhas.Colunas();
+    std::vector<TChaveDoLote> LChaves;
+    LChaves.reserve(LLinhas.QuantidadeDeLinhas());
+    for (std::size_t LLinha = 0; LLinha < LLinhas.QuantidadeDeLinhas(); ++LLinha) {
+        TChaveDoLote LChave{LComuns, {}};
+        for (std::size_t LColuna = 0; LColuna < LColunas.size(); ++LColuna) {
+            const auto LArgumento =
+                std::find_if(LEvento.Argumentos.begin(), LEvento.Argumentos.end(), [&](const auto& AArgumento) {
+                    return MesmoTexto(AArgumento.Nome, LColunas[LColuna].Nome);
+                });
+            const std::string LNome =
+                LArgumento == LEvento.Argumentos.end() ? LColunas[LColuna].Nome : LArgumento->Nome;
+            auto [LTexto, LJson] = LerChave(LLinhas, LLinha, LColuna);
+            LChave.Argumentos.insert_or_assign(LNome, std::move(LTexto));
+            LChave.Json += (LColuna == 0 ? "" : ",") + (LColunas.size() == 1 ? LJson : TextoJson(LNome) + ":" + LJson);
+        }
+        if (LColunas.size() > 1)
+            LChave.Json = "{" + LChave.Json + "}";
+        LChaves.push_back(std::move(LChave));
+    }
+    return LChaves;
+}
+
 TArgumentosDeEvento::TArgumentosDeEvento(const std::vector<TArgumentoDeEvento>& ADefinicoes,
                                          const std::map<std::string, std::string>& ATextos)
 {
     for (const auto& [LNome, LTexto] : ATextos) {
-        const auto LDefinicao = std::find_if(ADefinicoes.begin(), ADefinicoes.end(),
-                                             [&](const auto& AItem) { return MesmoTexto(AItem.Nome, LNome); });
+        const auto LDefinicao = std::find_if(ADefinicoes.begin(), ADefinicoes.end(), [&](const auto& AItem) {
+            return MesmoTexto(AItem.Nome, LNome) || (AItem.OutroNome && MesmoTexto(AItem.OutroNome, LNome));
+        });
         if (LDefinicao == ADefinicoes.end())
             throw EArgumentoInvalido("Argumento desconhecido: --" + LNome);
-        const auto Recusar = [&, &LNomeDoArgumento = LDefinicao->Nome, &LValor = LTexto](const char* AMotivo) -> void {
+        const auto Recusar = [&, &LNomeDoArgumento = LDefinicao->Nome,
+                              &LValor = LTexto](const std::string& AMotivo) -> void {
             throw EArgumentoInvalido(std::string("Argumento --") + LNomeDoArgumento + ": '" + LValor + "' " + AMotivo);
         };
         TValor LLido;
@@ -92,8 +463,10 @@ TArgumentosDeEvento::TArgumentosDeEvento(const std::vector<TArgumentoDeEvento>& 
                 Recusar("não é um número inteiro");
             }
             if (LDefinicao->Tipo == taInteiro && (LLido.Inteiro < std::numeric_limits<std::int32_t>::min() ||
-                                                LLido.Inteiro > std::numeric_limits<std::int32_t>::max()))
+                                                  LLido.Inteiro > std::numeric_limits<std::int32_t>::max()))
                 Recusar("está fora da faixa");
+            if (LDefinicao->UltimoOrdinal >= 0 && (LLido.Inteiro < 0 || LLido.Inteiro > LDefinicao->UltimoOrdinal))
+                Recusar("não é um dos valores, de 0 a " + IntToStr(LDefinicao->UltimoOrdinal));
             break;
         case taData:
             LLido.Data = LerDataIso(LTexto);

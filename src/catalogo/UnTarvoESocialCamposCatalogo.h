@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -38,6 +39,10 @@ struct TArgumentoDeEvento {
     /// What it is, for a payroll person.
     const char* Descricao;
     bool Obrigatorio = true;
+    /// Of a taInteiro that is an enumeration, its last ordinal; the first is 0.
+    std::int32_t UltimoOrdinal = -1;
+    /// Another name that is taken too, where the events of a family spell one argument differently.
+    const char* OutroNome = nullptr;
 };
 
 /// The values of an event's arguments, checked against their kinds. An optional argument that was not given reads
@@ -46,7 +51,8 @@ class TArgumentosDeEvento {
 public:
     /// EArgumentoInvalido for an unknown or missing name, or a text that is no value of its kind. Names match without
     /// regard to case.
-    TArgumentosDeEvento(const std::vector<TArgumentoDeEvento>& ADefinicoes, const std::map<std::string, std::string>& ATextos);
+    TArgumentosDeEvento(const std::vector<TArgumentoDeEvento>& ADefinicoes,
+                        const std::map<std::string, std::string>& ATextos);
 
     bool Informado(std::string_view ANome) const;
     std::int64_t Id(std::string_view ANome) const;
@@ -71,6 +77,22 @@ struct TEventoConstruido {
     std::unique_ptr<TTarvoESocialCamposGrupoBase> Evento;
 };
 
+/// How an event is loaded for everybody of a company.
+struct TLoteDoEvento {
+    /// What the caller gives: the company, and the arguments of the event that aren't part of a key.
+    std::vector<TArgumentoDeEvento> Argumentos;
+    /// Statement of the keys, in the order of the load. Each column is the argument of the event of that name.
+    std::string (*SqlDasChaves)(const TArgumentosDeEvento& AArgumentos);
+};
+
+/// One load of a batch.
+struct TChaveDoLote {
+    /// Every argument of the event, as ConstruirEvento takes them.
+    std::map<std::string, std::string> Argumentos;
+    /// The key as JSON: its value, or an object where it has several parts.
+    std::string Json;
+};
+
 struct TEventoDoCatalogo {
     /// "S-1000".
     const char* Codigo;
@@ -78,6 +100,8 @@ struct TEventoDoCatalogo {
     const char* Titulo;
     std::vector<TArgumentoDeEvento> Argumentos;
     TEventoConstruido (*Construir)(const TArgumentosDeEvento& AArgumentos);
+    /// Nothing for an event that isn't loaded in a batch.
+    std::optional<TLoteDoEvento> Lote = std::nullopt;
 };
 
 /// Every event in layout order.
@@ -86,5 +110,9 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos();
 const TEventoDoCatalogo& BuscarEventoDoCatalogo(std::string_view ACodigo);
 /// Constructs an event from the texts of its arguments. Some constructors read the database already.
 TEventoConstruido ConstruirEvento(std::string_view ACodigo, const std::map<std::string, std::string>& AArgumentos);
+/// The keys of an event's batch, read from the database. EArgumentoInvalido for an event that has none, and for the
+/// arguments of the batch as ConstruirEvento for the event's.
+std::vector<TChaveDoLote> BuscarChavesDoLote(std::string_view ACodigo,
+                                             const std::map<std::string, std::string>& AArgumentos);
 
 } // namespace tarvo

@@ -69,7 +69,8 @@ void EscreverValor(TEscritor& AEscritor, const TValorPropriedade& AValor)
     std::visit(TVisitante{AEscritor}, AValor);
 }
 
-void EscreverPropriedade(TEscritor& AEscritor, const TPropriedade& APropriedade, const TTarvoESocialCamposGrupoBase& AGrupo)
+void EscreverPropriedade(TEscritor& AEscritor, const TPropriedade& APropriedade,
+                         const TTarvoESocialCamposGrupoBase& AGrupo)
 {
     switch (APropriedade.Tipo()) {
     case TTipoPropriedade::Grupo:
@@ -129,6 +130,14 @@ std::string ISuperObject::AsJSON(bool AIdentado) const
     rapidjson::StringStream LTexto(FTexto.c_str());
     rapidjson::Reader LLeitor;
     LLeitor.Parse<rapidjson::kParseNumbersAsStringsFlag>(LTexto, LEscritor);
+    return {LBuffer.GetString(), LBuffer.GetSize()};
+}
+
+std::string TextoJson(std::string_view ATexto)
+{
+    rapidjson::StringBuffer LBuffer;
+    TEscritor LEscritor(LBuffer);
+    EscreverTexto(LEscritor, ParaUtf8(ATexto));
     return {LBuffer.GetString(), LBuffer.GetSize()};
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 namespace tarvo {
 
@@ -20,6 +21,9 @@ public:
 private:
     std::string FTexto;
 };
+
+/// A text as a JSON string, with its quotes. Bytes that are no UTF-8 are read as Windows-1252.
+std::string TextoJson(std::string_view ATexto);
 
 class TSuperObjectHelper {
 public:

@@ -10,7 +10,8 @@ const TPropriedade* TPropriedades::Buscar(std::string_view ANome) const
 {
     auto LItem = std::find_if(FItens.begin(), FItens.end(), [&](const auto& AItem) { return AItem.Nome() == ANome; });
     if (LItem == FItens.end())
-        LItem = std::find_if(FItens.begin(), FItens.end(), [&](const auto& AItem) { return MesmoTexto(AItem.Nome(), ANome); });
+        LItem = std::find_if(FItens.begin(), FItens.end(),
+                             [&](const auto& AItem) { return MesmoTexto(AItem.Nome(), ANome); });
     return LItem == FItens.end() ? nullptr : &*LItem;
 }
 

@@ -31,12 +31,10 @@ public:
     explicit TFieldRelacionado(std::string ACampo, std::string AValorDefault = "")
         : TFieldRelacionado(std::move(ACampo), std::move(AValorDefault),
                             tarvo::ClasseConversor<TTarvoESocialCamposConversorPadrao>())
-    {
-    }
+    {}
     TFieldRelacionado(std::string ACampo, std::string AValorDefault, TClasseConversor AConversor)
         : FCampo(std::move(ACampo)), FValorDefault(std::move(AValorDefault)), FClasseConversor(AConversor)
-    {
-    }
+    {}
 
     const std::string& Campo() const { return FCampo; }
     const std::string& ValorDefault() const { return FValorDefault; }
@@ -67,7 +65,8 @@ enum class TTipoPropriedade : std::uint8_t {
 
 /// A simple value on its way into or out of a property: integers and enumerations, floating numbers, money, flags,
 /// dates and texts. An absent value (a null child) is monostate.
-using TValorPropriedade = std::variant<std::monostate, std::int64_t, long double, Currency, bool, TDateTime, std::string>;
+using TValorPropriedade =
+    std::variant<std::monostate, std::int64_t, long double, Currency, bool, TDateTime, std::string>;
 
 /// One property of a group: its name, its kind, its binding if it has one, and the way to reach it. The table of a
 /// class is built once; the binding of a row and the JSON both walk it.
@@ -75,14 +74,14 @@ class TPropriedade {
 public:
     /// A data member: a value, a child by value, a child that may be null, or a list.
     template <class C, class T>
-        requires(!std::is_function_v<T>)
-    TPropriedade(const char* ANome, T C::*AMembro) : TPropriedade(ANome, TTipo<T>(), AMembro)
+    requires(!std::is_function_v<T>) TPropriedade(const char* ANome, T C::*AMembro)
+        : TPropriedade(ANome, TTipo<T>(), AMembro)
     {
         AlcancarMembro<C, T>();
     }
     template <class C, class T>
-        requires(!std::is_function_v<T>)
-    TPropriedade(const char* ANome, T C::*AMembro, TFieldRelacionado AField) : TPropriedade(ANome, AMembro)
+    requires(!std::is_function_v<T>) TPropriedade(const char* ANome, T C::*AMembro, TFieldRelacionado AField)
+        : TPropriedade(ANome, AMembro)
     {
         FField = std::make_shared<const TFieldRelacionado>(std::move(AField));
     }
@@ -255,17 +254,20 @@ private:
         return ParaValor<T>(Membro<C, T>(AMembro, AGrupo));
     }
     template <class C, class T>
-    static void EscreverMembro(const TMembro& AMembro, TTarvoESocialCamposGrupoBase& AGrupo, const TValorPropriedade& AValor)
+    static void EscreverMembro(const TMembro& AMembro, TTarvoESocialCamposGrupoBase& AGrupo,
+                               const TValorPropriedade& AValor)
     {
         static_cast<C&>(AGrupo).*Ponteiro<T C::*>(AMembro) = DeValor<T>(AValor);
     }
     template <class C, class R>
     static TValorPropriedade LerFuncao(const TMembro& AMembro, const TTarvoESocialCamposGrupoBase& AGrupo)
     {
-        return ParaValor<std::remove_cvref_t<R>>((static_cast<const C&>(AGrupo).*Ponteiro<R (C::*)() const>(AMembro))());
+        return ParaValor<std::remove_cvref_t<R>>(
+            (static_cast<const C&>(AGrupo).*Ponteiro<R (C::*)() const>(AMembro))());
     }
     template <class C, class A>
-    static void EscreverFuncao(const TMembro& AMembro, TTarvoESocialCamposGrupoBase& AGrupo, const TValorPropriedade& AValor)
+    static void EscreverFuncao(const TMembro& AMembro, TTarvoESocialCamposGrupoBase& AGrupo,
+                               const TValorPropriedade& AValor)
     {
         (static_cast<C&>(AGrupo).*Ponteiro<void (C::*)(A)>(AMembro))(DeValor<std::remove_cvref_t<A>>(AValor));
     }
@@ -285,7 +287,8 @@ private:
     }
     template <class C, class T>
     static const TTarvoESocialCamposGrupoBase* ItemDoMembro(const TMembro& AMembro,
-                                                            const TTarvoESocialCamposGrupoBase& AGrupo, std::size_t AIndice)
+                                                            const TTarvoESocialCamposGrupoBase& AGrupo,
+                                                            std::size_t AIndice)
     {
         return std::to_address(Membro<C, T>(AMembro, AGrupo)[AIndice]);
     }
@@ -304,7 +307,8 @@ private:
     TValorPropriedade (*FLer)(const TMembro&, const TTarvoESocialCamposGrupoBase&) = nullptr;
     void (*FEscrever)(const TMembro&, TTarvoESocialCamposGrupoBase&, const TValorPropriedade&) = nullptr;
     std::size_t (*FQuantidade)(const TMembro&, const TTarvoESocialCamposGrupoBase&) = nullptr;
-    const TTarvoESocialCamposGrupoBase* (*FItem)(const TMembro&, const TTarvoESocialCamposGrupoBase&, std::size_t) = nullptr;
+    const TTarvoESocialCamposGrupoBase* (*FItem)(const TMembro&, const TTarvoESocialCamposGrupoBase&,
+                                                 std::size_t) = nullptr;
     TValorPropriedade (*FValor)(const TMembro&, const TTarvoESocialCamposGrupoBase&, std::size_t) = nullptr;
 };
 
@@ -320,7 +324,7 @@ public:
     auto begin() const { return FItens.begin(); }
     auto end() const { return FItens.end(); }
     std::size_t size() const { return FItens.size(); }
-    /// By name, exact before without regard to case (the layouts tell no two tags of a group apart by case alone).
+    /// By name, exact before without regard to case: two tags of a group may differ by case alone (ServPubl, servPubl).
     const TPropriedade* Buscar(std::string_view ANome) const;
 
 private:

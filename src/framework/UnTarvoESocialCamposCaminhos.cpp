@@ -14,7 +14,8 @@ const TPropriedade& BuscarPropriedade(const TTarvoESocialCamposGrupoBase& AGrupo
 {
     if (const auto* LPropriedade = AGrupo.PropriedadesDaClasse().Buscar(ANome))
         return *LPropriedade;
-    throw ECaminhoInvalido("Caminho desconhecido: '" + std::string(ACaminho) + "' (não existe '" + std::string(ANome) + "')");
+    throw ECaminhoInvalido("Caminho desconhecido: '" + std::string(ACaminho) + "' (não existe '" + std::string(ANome) +
+                           "')");
 }
 
 const TTarvoESocialCamposGrupoBase& BuscarFilho(const TTarvoESocialCamposGrupoBase& AGrupo, std::string_view APasso,
@@ -28,11 +29,11 @@ const TTarvoESocialCamposGrupoBase& BuscarFilho(const TTarvoESocialCamposGrupoBa
             throw ECaminhoInvalido("'" + std::string(APasso) + "' não é um grupo em '" + std::string(ACaminho) + "'");
         LFilho = LPropriedade.Filho(AGrupo);
     } else {
-        const auto LIndice = APasso.ends_with(']')
-                                 ? StrToInt64Def(APasso.substr(LColchete + 1, APasso.size() - LColchete - 2), -1)
-                                 : -1;
+        const auto LIndice =
+            APasso.ends_with(']') ? StrToInt64Def(APasso.substr(LColchete + 1, APasso.size() - LColchete - 2), -1) : -1;
         if (LPropriedade.Tipo() != TTipoPropriedade::ListaDeGrupos || LIndice < 0)
-            throw ECaminhoInvalido("'" + std::string(APasso) + "' não é item de lista em '" + std::string(ACaminho) + "'");
+            throw ECaminhoInvalido("'" + std::string(APasso) + "' não é item de lista em '" + std::string(ACaminho) +
+                                   "'");
         if (static_cast<std::size_t>(LIndice) < LPropriedade.Quantidade(AGrupo))
             LFilho = LPropriedade.Item(AGrupo, static_cast<std::size_t>(LIndice));
     }
@@ -107,7 +108,8 @@ TTarvoESocialCamposGrupoBase& BuscarGrupoPeloCaminho(TTarvoESocialCamposGrupoBas
     return const_cast<TTarvoESocialCamposGrupoBase&>(*LGrupo);
 }
 
-void DefinirPropriedadePeloCaminho(TTarvoESocialCamposGrupoBase& ARaiz, std::string_view ACaminho, const std::string& ATexto)
+void DefinirPropriedadePeloCaminho(TTarvoESocialCamposGrupoBase& ARaiz, std::string_view ACaminho,
+                                   const std::string& ATexto)
 {
     const auto LPonto = ACaminho.rfind('.');
     auto& LGrupo = BuscarGrupoPeloCaminho(ARaiz, LPonto == std::string_view::npos ? "" : ACaminho.substr(0, LPonto));

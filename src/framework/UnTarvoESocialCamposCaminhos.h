@@ -23,6 +23,7 @@ TTarvoESocialCamposGrupoBase& BuscarGrupoPeloCaminho(TTarvoESocialCamposGrupoBas
 /// Sets the simple property at a path from a text: numbers with a decimal comma, dates as dd/mm/yyyy or yyyy-mm-dd
 /// (empty unsets), flags as true or false. ECaminhoInvalido for an unknown path or a read-only property,
 /// EConvertError for a text that doesn't fit.
-void DefinirPropriedadePeloCaminho(TTarvoESocialCamposGrupoBase& ARaiz, std::string_view ACaminho, const std::string& ATexto);
+void DefinirPropriedadePeloCaminho(TTarvoESocialCamposGrupoBase& ARaiz, std::string_view ACaminho,
+                                   const std::string& ATexto);
 
 } // namespace tarvo

@@ -49,8 +49,7 @@ TValorPropriedade ConverterTexto(const TPropriedade& APropriedade, std::string A
 
 TTarvoESocialCamposGrupoBase::TTarvoESocialCamposGrupoBase(std::string_view AGuid)
     : DataGeracao(Now()), FCarregarDadosDoGrupo(true), FCdsDados(CriarOvraClientDataset()), FGuidClasse(AGuid)
-{
-}
+{}
 
 TTarvoESocialCamposGrupoBase::TTarvoESocialCamposGrupoBase(TSemConstrucaoDaBase) {}
 
@@ -81,7 +80,10 @@ void TTarvoESocialCamposGrupoBase::CarregarDados(const TListaCamposModificados* 
     AtribuirValoresManualmente();
 }
 
-TOvraClientDataSetWithConnection& TTarvoESocialCamposGrupoBase::CdsDados() { return Existente(FCdsDados.get(), "FCdsDados"); }
+TOvraClientDataSetWithConnection& TTarvoESocialCamposGrupoBase::CdsDados()
+{
+    return Existente(FCdsDados.get(), "FCdsDados");
+}
 
 void TTarvoESocialCamposGrupoBase::AtualizarCdsDados(const std::string& ASql)
 {
@@ -136,6 +138,9 @@ void TTarvoESocialCamposGrupoBase::RegistrarConversor(TClasseConversor AClasse)
     RegistrarConversor(AClasse, AClasse->Criar());
 }
 
-ISuperObject TTarvoESocialCamposGrupoBase::ToJson(TSuperRttiContext* ctx) const { return TSuperObjectHelper::ToJson(*this, ctx); }
+ISuperObject TTarvoESocialCamposGrupoBase::ToJson(TSuperRttiContext* ctx) const
+{
+    return TSuperObjectHelper::ToJson(*this, ctx);
+}
 
 } // namespace tarvo

@@ -5,9 +5,9 @@
 #include <string_view>
 #include <vector>
 
+#include "framework/UnOvraSerializacaoObject.h"
 #include "framework/UnTarvoESocialCamposAtributosProp.h"
 #include "framework/UnTarvoESocialCamposConversoresAtributo.h"
-#include "framework/UnOvraSerializacaoObject.h"
 #include "imports/UnOvraClientDataSet.h"
 
 namespace tarvo {

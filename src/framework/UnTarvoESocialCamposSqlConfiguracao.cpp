@@ -5,16 +5,28 @@
 
 namespace tarvo {
 
+std::string CondicaoDaChave(TTabelaDeConfiguracao ATabela, TChaveDeConfiguracao AChave)
+{
+    return Format("%0:s.ORIGEM = %1:d AND %0:s.ESPECIE = %2:d AND %0:s.TP = %3:d", ATabela.Nome, AChave.Origem,
+                  AChave.Especie, AChave.Tp);
+}
+
 std::string CondicaoDaChave(TTabelaDeConfiguracao ATabela, std::int64_t AIdDono, TChaveDeConfiguracao AChave)
 {
-    return Format("%0:s.%1:s = %2:d AND %0:s.ORIGEM = %3:d AND %0:s.ESPECIE = %4:d AND %0:s.TP = %5:d", ATabela.Nome,
-                  ATabela.ColunaDoDono, AIdDono, AChave.Origem, AChave.Especie, AChave.Tp);
+    return Format("%0:s.%1:s = %2:d AND %3:s", ATabela.Nome, ATabela.ColunaDoDono, AIdDono,
+                  CondicaoDaChave(ATabela, AChave));
 }
 
 std::string CondicaoDaValidade(TTabelaDeConfiguracao ATabela, TDateTime AData, TFimDaValidade AFim)
 {
     return Format("%0:s.DATAINICIO <= %1:s AND (%0:s.DATAFIM %2:s %1:s OR %0:s.DATAFIM IS NULL)", ATabela.Nome,
                   FormatarDataDB(AData, true), AFim == TFimDaValidade::Inclusive ? ">=" : ">");
+}
+
+std::string CondicaoVigente(TTabelaDeConfiguracao ATabela, TChaveDeConfiguracao AChave, TDateTime AData,
+                            TFimDaValidade AFim)
+{
+    return CondicaoDaChave(ATabela, AChave) + " AND " + CondicaoDaValidade(ATabela, AData, AFim);
 }
 
 std::string SqlConfiguracaoVigente(std::string_view AColunas, TTabelaDeConfiguracao ATabela, std::int64_t AIdDono,

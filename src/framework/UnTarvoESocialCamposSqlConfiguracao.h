@@ -36,9 +36,14 @@ enum class TFimDaValidade {
 
 /// `TABLE.OWNER = id AND TABLE.ORIGEM = o AND TABLE.ESPECIE = e AND TABLE.TP = t`.
 std::string CondicaoDaChave(TTabelaDeConfiguracao ATabela, std::int64_t AIdDono, TChaveDeConfiguracao AChave);
+/// The same without the owner, for a join that brings its own keys.
+std::string CondicaoDaChave(TTabelaDeConfiguracao ATabela, TChaveDeConfiguracao AChave);
 /// `TABLE.DATAINICIO <= date AND (TABLE.DATAFIM >= date OR TABLE.DATAFIM IS NULL)`.
 std::string CondicaoDaValidade(TTabelaDeConfiguracao ATabela, TDateTime AData,
                                TFimDaValidade AFim = TFimDaValidade::Inclusive);
+/// CondicaoDaChave without the owner AND CondicaoDaValidade: the conditions of a join to the rows in force.
+std::string CondicaoVigente(TTabelaDeConfiguracao ATabela, TChaveDeConfiguracao AChave, TDateTime AData,
+                            TFimDaValidade AFim = TFimDaValidade::Inclusive);
 /// The row in force at a date, the newest start first: `SELECT FIRST 1 columns FROM TABLE WHERE ... ORDER BY
 /// TABLE.DATAINICIO DESC`. AColunas is the select list as it stands.
 std::string SqlConfiguracaoVigente(std::string_view AColunas, TTabelaDeConfiguracao ATabela, std::int64_t AIdDono,

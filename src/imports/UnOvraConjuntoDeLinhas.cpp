@@ -38,7 +38,9 @@ std::int64_t Truncar(double AValor)
 
 } // namespace
 
-TConjuntoDeLinhas::TConjuntoDeLinhas(std::shared_ptr<const std::vector<TColuna>> AColunas) : FColunas(std::move(AColunas)) {}
+TConjuntoDeLinhas::TConjuntoDeLinhas(std::shared_ptr<const std::vector<TColuna>> AColunas)
+    : FColunas(std::move(AColunas))
+{}
 
 const std::vector<TColuna>& TConjuntoDeLinhas::Colunas() const
 {

@@ -390,7 +390,8 @@ bool TParametrosConexao::EhServidor() const
         return true;
     // "C:\..." and "C:/..." are drives, not hosts.
     const auto LDoisPontos = BancoDeDados.find(':');
-    return LDoisPontos != std::string::npos && LDoisPontos > 1 && BancoDeDados.find('/') != 0;
+    return LDoisPontos != std::string::npos && LDoisPontos > 1 && BancoDeDados.front() != '/' &&
+           BancoDeDados.front() != '.';
 }
 
 struct TOvraConnection::TImplementacao {
@@ -426,8 +427,8 @@ struct TOvraConnection::TImplementacao {
         auto LResultado = AOperacao();
         if (Observador) {
             const auto LTempo = std::chrono::steady_clock::now() - LInicio;
-            Observador({ASql, AContagem(LResultado),
-                        std::chrono::duration_cast<std::chrono::microseconds>(LTempo).count()});
+            Observador(
+                {ASql, AContagem(LResultado), std::chrono::duration_cast<std::chrono::microseconds>(LTempo).count()});
         }
         return LResultado;
     }
@@ -464,8 +465,8 @@ TReferencia<IStatement> TOvraConnection::TImplementacao::Preparar(std::string_vi
 {
     ITransaction* LTransacao = TransacaoCorrente();
     TStatus LStatus;
-    TReferencia<IStatement> LComando(Anexo->prepare(&LStatus, LTransacao, static_cast<unsigned>(ASql.size()), ASql.data(),
-                                                    DIALETO, IStatement::PREPARE_PREFETCH_METADATA));
+    TReferencia<IStatement> LComando(Anexo->prepare(&LStatus, LTransacao, static_cast<unsigned>(ASql.size()),
+                                                    ASql.data(), DIALETO, IStatement::PREPARE_PREFETCH_METADATA));
     LStatus.Verificar();
     return LComando;
 }
@@ -514,7 +515,8 @@ void TOvraConnection::TImplementacao::LerLinha(TConjuntoDeLinhas& ALinhas, const
             break;
         }
         case SQL_VARYING:
-            AcrescentarTexto({reinterpret_cast<const char*>(LValor) + sizeof(ISC_USHORT), LerDaMensagem<ISC_USHORT>(LValor)});
+            AcrescentarTexto(
+                {reinterpret_cast<const char*>(LValor) + sizeof(ISC_USHORT), LerDaMensagem<ISC_USHORT>(LValor)});
             break;
         case SQL_BLOB:
             ALinhas.AcrescentarTexto(LerBlob(LerDaMensagem<ISC_QUAD>(LValor), LColuna.SubTipo == isc_blob_text));
@@ -546,9 +548,9 @@ void TOvraConnection::TImplementacao::LerLinha(TConjuntoDeLinhas& ALinhas, const
             break;
         case SQL_TIMESTAMP: {
             const auto LMomento = LerDaMensagem<ISC_TIMESTAMP>(LValor);
-            ALinhas.AcrescentarNumero(JuntarDataHora(TDateTime(DiaDoMotor(LMomento.timestamp_date)),
-                                                     LMomento.timestamp_time / FRACOES_DO_DIA)
-                                          .Valor());
+            ALinhas.AcrescentarNumero(
+                JuntarDataHora(TDateTime(DiaDoMotor(LMomento.timestamp_date)), LMomento.timestamp_time / FRACOES_DO_DIA)
+                    .Valor());
             break;
         }
         }
@@ -848,8 +850,8 @@ std::string TOvraConnection::GetDataBaseLineFull() const { return FImplementacao
 int TOvraConnection::VersaoMaiorDoServidor()
 {
     if (FImplementacao->VersaoMaior == 0) {
-        const auto LLinhas = FImplementacao->Consultar(
-            "SELECT RDB$GET_CONTEXT('SYSTEM', 'ENGINE_VERSION') AS VERSAO FROM RDB$DATABASE");
+        const auto LLinhas =
+            FImplementacao->Consultar("SELECT RDB$GET_CONTEXT('SYSTEM', 'ENGINE_VERSION') AS VERSAO FROM RDB$DATABASE");
         const auto LVersao = LLinhas.Texto(0, 0);
         FImplementacao->VersaoMaior = static_cast<int>(StrToInt64Def(LVersao.substr(0, LVersao.find('.')), 0));
     }

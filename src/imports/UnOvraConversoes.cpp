@@ -147,9 +147,9 @@ std::string TextoDoFlutuante(T AValor)
     std::array<char, 64> LBuffer{};
     const T LModulo = std::fabs(AValor);
     const bool LPlano = LModulo == 0 || (LModulo >= static_cast<T>(1e-7) && LModulo < static_cast<T>(1e21));
-    const auto LFim = LPlano
-                          ? std::to_chars(LBuffer.data(), LBuffer.data() + LBuffer.size(), AValor, std::chars_format::fixed)
-                          : std::to_chars(LBuffer.data(), LBuffer.data() + LBuffer.size(), AValor);
+    const auto LFim =
+        LPlano ? std::to_chars(LBuffer.data(), LBuffer.data() + LBuffer.size(), AValor, std::chars_format::fixed)
+               : std::to_chars(LBuffer.data(), LBuffer.data() + LBuffer.size(), AValor);
     std::string LTexto(LBuffer.data(), LFim.ptr);
     if (LTexto == "-0")
         return "0";
@@ -173,9 +173,10 @@ void AcrescentarUtf8(std::string& ATexto, unsigned ACodigo)
 }
 
 /// Windows-1252, 0x80 to 0x9F; the five bytes that it leaves open stand for themselves.
-constexpr std::array<unsigned, 32> WIN1252{
-    0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x8D, 0x017D, 0x8F,
-    0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D, 0x017E, 0x0178};
+constexpr std::array<unsigned, 32> WIN1252{0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                           0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x8D,   0x017D, 0x8F,
+                                           0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                           0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178};
 
 } // namespace
 
@@ -211,7 +212,12 @@ std::string Minusculas(std::string_view AValor)
     return LTexto;
 }
 
-std::int64_t StrToInt64Def(std::string_view AValor, std::int64_t APadrao) { return LerInteiro(AValor).value_or(APadrao); }
+std::optional<std::int64_t> TryStrToInt64(std::string_view AValor) { return LerInteiro(AValor); }
+
+std::int64_t StrToInt64Def(std::string_view AValor, std::int64_t APadrao)
+{
+    return LerInteiro(AValor).value_or(APadrao);
+}
 
 std::int64_t StrToInt64(std::string_view AValor)
 {

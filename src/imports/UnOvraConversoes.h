@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -20,6 +21,8 @@ std::string Minusculas(std::string_view AValor);
 
 /// Surrounding blanks, one sign, decimal digits, in the range of int64; anything else is the default.
 std::int64_t StrToInt64Def(std::string_view AValor, std::int64_t APadrao);
+/// The same; nothing instead of a default.
+std::optional<std::int64_t> TryStrToInt64(std::string_view AValor);
 /// The same; EConvertError with the text instead of a default.
 std::int64_t StrToInt64(std::string_view AValor);
 /// As an integer, with one optional decimal comma and exponent; "10.5" is therefore the default.

@@ -1,6 +1,7 @@
 #include "imports/UnOvraCurrency.h"
 
 #include <cmath>
+#include <limits>
 
 #include "imports/UnOvraExcecoes.h"
 
@@ -8,11 +9,17 @@ namespace tarvo {
 
 namespace {
 
-// The product is made in the type of the value, so that a decimal half such as 1.00005 is met as a half.
+// A decimal half such as 1.00005 has no exact binary form: a product within a few units of its last place of a half is
+// met as that half. Where the type itself is coarser than that, the number is taken as it is.
 template <class T>
 std::int64_t Escalar(T AValor)
 {
-    const T LEscalado = std::nearbyint(AValor * static_cast<T>(Currency::ESCALA));
+    T LProduto = AValor * static_cast<T>(Currency::ESCALA);
+    const T LMetade = std::trunc(LProduto) + std::copysign(static_cast<T>(0.5), LProduto);
+    const T LFolga = 4 * std::numeric_limits<T>::epsilon() * std::fabs(LProduto);
+    if (LFolga < static_cast<T>(1e-3) && std::fabs(LProduto - LMetade) <= LFolga)
+        LProduto = LMetade;
+    const T LEscalado = std::nearbyint(LProduto);
     if (!(LEscalado >= static_cast<T>(-9.2233720368547758e18) && LEscalado < static_cast<T>(9.2233720368547758e18)))
         throw EIntOverflow("Valor fora da faixa do tipo Currency");
     return static_cast<std::int64_t>(LEscalado);

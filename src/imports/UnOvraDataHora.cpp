@@ -33,10 +33,7 @@ TDiaEHora Separar(TDateTime AData)
     return LResultado;
 }
 
-year_month_day Calendario(TDateTime AData)
-{
-    return year_month_day{DIA_ZERO + days{Separar(AData).Dia}};
-}
+year_month_day Calendario(TDateTime AData) { return year_month_day{DIA_ZERO + days{Separar(AData).Dia}}; }
 
 } // namespace
 
@@ -118,8 +115,9 @@ TDateTime Now()
     std::tm LLocal{};
     localtime_r(&LSegundos, &LLocal);
     const auto LMili = duration_cast<milliseconds>(LAgora.time_since_epoch()).count() % 1000;
-    return JuntarDataHora(EncodeDate(LLocal.tm_year + 1900, LLocal.tm_mon + 1, LLocal.tm_mday),
-                          EncodeTime(LLocal.tm_hour, LLocal.tm_min, std::min(LLocal.tm_sec, 59), static_cast<int>(LMili)));
+    return JuntarDataHora(
+        EncodeDate(LLocal.tm_year + 1900, LLocal.tm_mon + 1, LLocal.tm_mday),
+        EncodeTime(LLocal.tm_hour, LLocal.tm_min, std::min(LLocal.tm_sec, 59), static_cast<int>(LMili)));
 }
 
 } // namespace tarvo

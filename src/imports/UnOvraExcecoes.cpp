@@ -8,7 +8,6 @@ EAccessViolation::EAccessViolation(const std::string& AOque) : Exception("Acesso
 
 EDatabaseError::EDatabaseError(const std::string& ATexto, std::int64_t ACodigo, std::string ASqlState)
     : Exception(ATexto), FCodigo(ACodigo), FSqlState(std::move(ASqlState))
-{
-}
+{}
 
 } // namespace tarvo

@@ -16,8 +16,7 @@ class TVarRec {
 public:
     template <std::integral T>
     constexpr TVarRec(T AValor) : FInteiro(static_cast<std::int64_t>(AValor)), FEhTexto(false)
-    {
-    }
+    {}
     constexpr TVarRec(std::string_view AValor) : FTexto(AValor), FEhTexto(true) {}
     TVarRec(const std::string& AValor) : FTexto(AValor), FEhTexto(true) {}
     constexpr TVarRec(const char* AValor) : FTexto(AValor), FEhTexto(true) {}

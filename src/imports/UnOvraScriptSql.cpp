@@ -78,8 +78,8 @@ void ExecutarScriptSql(TOvraConnection& AConexao, std::string_view AScript)
         try {
             AConexao.Executar(LComando);
         } catch (const EDatabaseError& LErro) {
-            throw EDatabaseError(std::string(LErro.what()) + "\n" + LComando.substr(0, LComando.find('\n')), LErro.Codigo(),
-                                 LErro.SqlState());
+            throw EDatabaseError(std::string(LErro.what()) + "\n" + LComando.substr(0, LComando.find('\n')),
+                                 LErro.Codigo(), LErro.SqlState());
         }
     }
     AConexao.Confirmar();

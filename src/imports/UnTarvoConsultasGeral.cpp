@@ -66,6 +66,16 @@ TDateTime TTarvoConsultasGeral::BuscarData(std::string_view ASql)
     return LLinhas.QuantidadeDeLinhas() > 0 ? LLinhas.Data(0, 0) : TDateTime();
 }
 
+std::vector<std::int64_t> TTarvoConsultasGeral::BuscarListaDeIds(std::string_view ASql)
+{
+    const auto LLinhas = OvraConnection().Consultar(ASql);
+    std::vector<std::int64_t> LIds;
+    LIds.reserve(LLinhas.QuantidadeDeLinhas());
+    for (std::size_t LLinha = 0; LLinha < LLinhas.QuantidadeDeLinhas(); ++LLinha)
+        LIds.push_back(LLinhas.Inteiro(LLinha, 0));
+    return LIds;
+}
+
 TDataset TTarvoConsultasGeral::BuscarCalculoEventoESocial(TTipoQuebraGpsGfip ATipoQuebra,
                                                           std::string_view ASqlSemQuebra,
                                                           std::string_view ASqlComQuebra)

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "imports/UnOvraClientDataSet.h"
 #include "imports/UnTarvoTypesCalculos.h"
@@ -28,6 +29,8 @@ public:
     static std::string BuscarTexto(std::string_view ASql);
     static std::int64_t BuscarInteiro(std::string_view ASql);
     static TDateTime BuscarData(std::string_view ASql);
+    /// First column of every row of a statement, as ids; a null is 0.
+    static std::vector<std::int64_t> BuscarListaDeIds(std::string_view ASql);
 
     /// Runs the text that fits the company's way of splitting its guides: the first for a company that splits
     /// nothing, otherwise the second, which goes through the break table.

@@ -4,8 +4,7 @@ namespace tarvo::tabelas {
 
 TTarvoESocialCamposContatoEmpresa::TTarvoESocialCamposContatoEmpresa(std::int64_t)
     : TTarvoESocialCamposGrupoBase("{FE541E77-0C22-4795-B191-0546A9D21915}")
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposContatoEmpresa::Propriedades() const
 {

@@ -9,8 +9,7 @@ namespace tarvo::tabelas {
 
 TTarvoESocialCamposDadosIsencao::TTarvoESocialCamposDadosIsencao(std::int64_t AIDEmpresa, TDateTime AData)
     : TTarvoESocialCamposGrupoBase("{79BF728D-E393-4B62-840F-5DCE75175BDE}"), FIDEmpresa(AIDEmpresa), FData(AData)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposDadosIsencao::Propriedades() const
 {
@@ -30,10 +29,11 @@ const TPropriedades& TTarvoESocialCamposDadosIsencao::Propriedades() const
 
 std::string TTarvoESocialCamposDadosIsencao::BuscarSQLDados()
 {
-    return SqlConfiguracaoVigente(
-        "SC00_EMPRESACFG.INFORMACAO8, SC00_EMPRESACFG.INFORMACAO2, SC00_EMPRESACFG.DATAINICIO, SC00_EMPRESACFG.DATAFIM, "
-        "SC00_EMPRESACFG.INFORMACAO4, SC00_EMPRESACFG.INFORMACAO3, SC00_EMPRESACFG.INFORMACAO5, SC00_EMPRESACFG.INFORMACAO6",
-        SC00_EMPRESACFG, FIDEmpresa, {90, 38, 2}, FData);
+    return SqlConfiguracaoVigente("SC00_EMPRESACFG.INFORMACAO8, SC00_EMPRESACFG.INFORMACAO2, "
+                                  "SC00_EMPRESACFG.DATAINICIO, SC00_EMPRESACFG.DATAFIM, "
+                                  "SC00_EMPRESACFG.INFORMACAO4, SC00_EMPRESACFG.INFORMACAO3, "
+                                  "SC00_EMPRESACFG.INFORMACAO5, SC00_EMPRESACFG.INFORMACAO6",
+                                  SC00_EMPRESACFG, FIDEmpresa, {90, 38, 2}, FData);
 }
 
 void TTarvoESocialCamposDadosIsencao::ReverterDados()
@@ -42,7 +42,8 @@ void TTarvoESocialCamposDadosIsencao::ReverterDados()
     static constexpr std::string_view SQL =
         "UPDATE SC00_EMPRESACFG SET SC00_EMPRESACFG.INFORMACAO8 = '%2:s', SC00_EMPRESACFG.INFORMACAO2 = '%3:s', "
         "SC00_EMPRESACFG.DATAINICIO = %4:s, SC00_EMPRESACFG.DATAFIM = %5:s, SC00_EMPRESACFG.INFORMACAO4 = '%6:s', "
-        "SC00_EMPRESACFG.INFORMACAO3 = '%7:s', SC00_EMPRESACFG.INFORMACAO5 = '%8:s', SC00_EMPRESACFG.INFORMACAO6 = '%9:s' "
+        "SC00_EMPRESACFG.INFORMACAO3 = '%7:s', SC00_EMPRESACFG.INFORMACAO5 = '%8:s', SC00_EMPRESACFG.INFORMACAO6 = "
+        "'%9:s' "
         "WHERE SC00_EMPRESACFG.IDEMPRESA = %0:d AND SC00_EMPRESACFG.ORIGEM = 90 AND SC00_EMPRESACFG.ESPECIE = 38 AND "
         "SC00_EMPRESACFG.TP = 2 AND SC00_EMPRESACFG.DATAINICIO <= %1:s AND (SC00_EMPRESACFG.DATAFIM >= %1:s OR "
         "SC00_EMPRESACFG.DATAFIM IS NULL) ORDER BY SC00_EMPRESACFG.DATAINICIO DESC";

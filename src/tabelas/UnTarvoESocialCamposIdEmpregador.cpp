@@ -6,8 +6,7 @@ namespace tarvo::tabelas {
 
 TTarvoESocialCamposIdEmpregador::TTarvoESocialCamposIdEmpregador(std::int64_t AIDEmpresa)
     : TTarvoESocialCamposGrupoBase("{57A18B43-2FE6-4077-AAB5-191DFAA9AD20}"), FIDEmpresa(AIDEmpresa)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposIdEmpregador::Propriedades() const
 {

@@ -8,8 +8,7 @@ namespace tarvo::tabelas {
 
 TTarvoESocialCamposIdePeriodo::TTarvoESocialCamposIdePeriodo(std::int64_t AIDEmpresa)
     : TTarvoESocialCamposGrupoBase("{7D97CC73-27A8-4D09-9084-19D81F6BBC0A}"), FIDEmpresa(AIDEmpresa)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposIdePeriodo::Propriedades() const
 {

@@ -11,8 +11,7 @@ TTarvoESocialCamposInfoCadastro::TTarvoESocialCamposInfoCadastro(std::int64_t AI
     : TTarvoESocialCamposGrupoBase("{B4A45915-8AFD-4584-A8F7-489D7ED7A40B}"), DadosIsencao(AIDEmpresa, AData),
       Contato(AIDEmpresa), InfoOP(AIDEmpresa), SoftwareHouse(AIDEmpresa), InfoComplementares(AIDEmpresa, AData),
       FIDEmpresa(AIDEmpresa), FData(AData)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposInfoCadastro::Propriedades() const
 {
@@ -122,7 +121,8 @@ void TTarvoESocialCamposInfoCadastro::ReverterDados()
         return Format(ATRIBUICAO, AColuna, AValor);
     };
     const auto Atualizar = [&](const std::string& AAtribuicoes, TChaveDeConfiguracao AChave) {
-        return Format(SQL, FIDEmpresa, FormatarDataDB(FData, true), AAtribuicoes, AChave.Origem, AChave.Especie, AChave.Tp);
+        return Format(SQL, FIDEmpresa, FormatarDataDB(FData, true), AAtribuicoes, AChave.Origem, AChave.Especie,
+                      AChave.Tp);
     };
     LLista.push_back(Format("UPDATE SC00_EMPRESA SET SC00_EMPRESA.NOME = '%0:s' WHERE SC00_EMPRESA.IDEMPRESA = %1:d",
                             NmRazao, FIDEmpresa));

@@ -5,8 +5,7 @@ namespace tarvo::tabelas {
 TTarvoESocialCamposInfoComplementares::TTarvoESocialCamposInfoComplementares(std::int64_t AIDEmpresa, TDateTime AData)
     : TTarvoESocialCamposGrupoBase("{89E662D7-F446-488C-B787-B13329EDAB59}"), situacaoPJ(AIDEmpresa, AData),
       situacaoPF(AIDEmpresa, AData)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposInfoComplementares::Propriedades() const
 {

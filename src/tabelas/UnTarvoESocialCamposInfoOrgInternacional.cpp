@@ -4,8 +4,7 @@ namespace tarvo::tabelas {
 
 TTarvoESocialCamposInfoOrgInternacional::TTarvoESocialCamposInfoOrgInternacional()
     : TTarvoESocialCamposGrupoBase("{2077594F-5B43-44D6-84B7-73E960CAD3FD}")
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposInfoOrgInternacional::Propriedades() const
 {

@@ -5,8 +5,7 @@ namespace tarvo::tabelas {
 TTarvoESocialCamposS1000::TTarvoESocialCamposS1000(std::int64_t AIDEmpresa, TDateTime AData)
     : TTarvoESocialCamposGrupoBase("{92B8A2D9-6067-4E4B-A7D9-6454A47B6E19}"), IdeEmpregador(AIDEmpresa),
       InfoEmpregador(AIDEmpresa, AData)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposS1000::Propriedades() const
 {

@@ -7,8 +7,7 @@ namespace tarvo::tabelas {
 
 TTarvoESocialCamposSituacaoPF::TTarvoESocialCamposSituacaoPF(std::int64_t AIDEmpresa, TDateTime AData)
     : TTarvoESocialCamposGrupoBase("{FF46BCB0-5892-41C6-A7DE-C8F0A32CC087}"), FIDEmpresa(AIDEmpresa), FData(AData)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposSituacaoPF::Propriedades() const
 {
@@ -26,7 +25,8 @@ FROM SC00_EMPRESACFG
 WHERE %0:s
   AND %1:s
 ORDER BY SC00_EMPRESACFG.DATAINICIO DESC)";
-    return Format(SQL, CondicaoDaChave(SC00_EMPRESACFG, FIDEmpresa, {90, 38, 8}), CondicaoDaValidade(SC00_EMPRESACFG, FData));
+    return Format(SQL, CondicaoDaChave(SC00_EMPRESACFG, FIDEmpresa, {90, 38, 8}),
+                  CondicaoDaValidade(SC00_EMPRESACFG, FData));
 }
 
 void TTarvoESocialCamposSituacaoPF::ReverterDados() { TTarvoESocialCamposGrupoBase::ReverterDados(); }

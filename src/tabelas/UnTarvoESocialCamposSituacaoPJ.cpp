@@ -6,8 +6,7 @@ namespace tarvo::tabelas {
 
 TTarvoESocialCamposSituacaoPJ::TTarvoESocialCamposSituacaoPJ(std::int64_t AIDEmpresa, TDateTime AData)
     : TTarvoESocialCamposGrupoBase("{D428D78E-7613-424D-A62D-962AA5796A15}"), FIDEmpresa(AIDEmpresa), FData(AData)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposSituacaoPJ::Propriedades() const
 {

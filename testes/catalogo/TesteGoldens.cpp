@@ -34,7 +34,8 @@ std::vector<TCaso> LerCasos()
             TCaso LCaso{LItem.path().stem().string(), {}, {}};
             LPalavras >> LCaso.Nome;
             for (std::string LPalavra; LPalavras >> LPalavra;)
-                LCaso.Argumentos.emplace(LPalavra.substr(0, LPalavra.find('=')), LPalavra.substr(LPalavra.find('=') + 1));
+                LCaso.Argumentos.emplace(LPalavra.substr(0, LPalavra.find('=')),
+                                         LPalavra.substr(LPalavra.find('=') + 1));
             LCasos.push_back(LCaso);
         }
     }

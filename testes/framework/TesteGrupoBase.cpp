@@ -112,7 +112,8 @@ protected:
 TEST_F(TTesteGrupoBase, ConverteCadaTipoPeloTextoDaColuna)
 {
     Carregar("CAST('  a b  ' AS CHAR(12)) AS TEXTO, CAST(-12.50 AS NUMERIC(15,4)) AS DOBRO, 12.3456 AS VALOR, "
-             "'não é número' AS I32, CAST(9007199254740993 AS BIGINT) AS I64, -128 AS I8, CAST('28.02.2021' AS DATE) AS DIA");
+             "'não é número' AS I32, CAST(9007199254740993 AS BIGINT) AS I64, -128 AS I8, CAST('28.02.2021' AS DATE) "
+             "AS DIA");
     EXPECT_EQ("a b", Grupo.Texto);
     EXPECT_EQ(-12.5, Grupo.Dobro);
     EXPECT_EQ(R("12,3456"), Grupo.Valor);
@@ -158,7 +159,8 @@ TEST_F(TTesteGrupoBase, DataInvalidaFalhaComOTextoEGuardaOQueJaFoiAtribuido)
             Carregar("'depois' AS TEXTO, '" + std::string(LData) + "' AS DIA");
             ADD_FAILURE() << LData;
         } catch (const EConvertError& LErro) {
-            EXPECT_NE(std::string(LErro.what()).find("'" + std::string(LData) + "'"), std::string::npos) << LErro.what();
+            EXPECT_NE(std::string(LErro.what()).find("'" + std::string(LData) + "'"), std::string::npos)
+                << LErro.what();
         }
         EXPECT_EQ("depois", Grupo.Texto);
     }
@@ -190,9 +192,12 @@ TEST_F(TTesteGrupoBase, ListaEChaveDecidemSoSobreOProprioGrupo)
         bool LeFilho;
     };
     const TCaso LCasos[] = {
-        {{}, true, true, true},          {{"{GRUPO}"}, true, true, false},
-        {{"{FILHO}"}, true, false, true}, {{"{OUTRO}"}, true, false, false},
-        {{"{filho}"}, true, false, false}, {{}, false, false, true},
+        {{}, true, true, true},
+        {{"{GRUPO}"}, true, true, false},
+        {{"{FILHO}"}, true, false, true},
+        {{"{OUTRO}"}, true, false, false},
+        {{"{filho}"}, true, false, false},
+        {{}, false, false, true},
     };
     for (const auto& LCaso : LCasos) {
         TGrupo LGrupo;
@@ -238,11 +243,12 @@ TEST_F(TTesteGrupoBase, JsonTemCadaTipoNaFormaCombinada)
     Grupo.Lista.push_back(std::make_unique<TFilho>("um"));
     Grupo.Lista.push_back(std::make_unique<TFilho>("dois"));
     Grupo.Ids = {3, 1};
-    EXPECT_EQ("{\"Texto\":\"á\\\"\\\\/\\n\\u0001\",\"ComPadrao\":\"\",\"Convertido\":\"\",\"I32\":7,\"I64\":7,\"I8\":7,"
-              "\"Dobro\":0.1,\"DobroComPadrao\":7,\"Valor\":922337203685477.5807,\"Dia\":\"2021-03-01T08:30:00\","
-              "\"Marca\":false,\"Opcao\":1,\"Filho\":{\"Texto\":\"\"},\"Talvez\":null,"
-              "\"Lista\":[{\"Texto\":\"um\"},{\"Texto\":\"dois\"}],\"Ids\":[3,1],\"Calculado\":\"á\\\"\\\\/\\n\\u0001!\"}",
-              Grupo.ToJson().AsJSON());
+    EXPECT_EQ(
+        "{\"Texto\":\"á\\\"\\\\/\\n\\u0001\",\"ComPadrao\":\"\",\"Convertido\":\"\",\"I32\":7,\"I64\":7,\"I8\":7,"
+        "\"Dobro\":0.1,\"DobroComPadrao\":7,\"Valor\":922337203685477.5807,\"Dia\":\"2021-03-01T08:30:00\","
+        "\"Marca\":false,\"Opcao\":1,\"Filho\":{\"Texto\":\"\"},\"Talvez\":null,"
+        "\"Lista\":[{\"Texto\":\"um\"},{\"Texto\":\"dois\"}],\"Ids\":[3,1],\"Calculado\":\"á\\\"\\\\/\\n\\u0001!\"}",
+        Grupo.ToJson().AsJSON());
     EXPECT_NE(Grupo.ToJson().AsJSON(true).find("\"Valor\": 922337203685477.5807,\n"), std::string::npos);
     Grupo.Dia = TDate();
     EXPECT_NE(Grupo.ToJson().AsJSON().find("\"Dia\":null"), std::string::npos);
@@ -256,8 +262,8 @@ TEST_F(TTesteGrupoBase, CaminhosAchamGruposEDefinemPropriedades)
     EXPECT_EQ(&Grupo, &BuscarGrupoPeloCaminho(Grupo, ""));
     EXPECT_EQ(&Grupo.Filho, &BuscarGrupoPeloCaminho(Grupo, "filho"));
     EXPECT_EQ(Grupo.Lista[0].get(), &BuscarGrupoPeloCaminho(Grupo, "Lista[0]"));
-    for (const char* LCaminho : {"Nada", "Filho.Nada", "Filho.", ".", "Texto", "Talvez", "Lista", "Lista[1]", "Lista[-1]",
-                                 "Lista[0", "Lista[x]", "Filho[0]"})
+    for (const char* LCaminho : {"Nada", "Filho.Nada", "Filho.", ".", "Texto", "Talvez", "Lista", "Lista[1]",
+                                 "Lista[-1]", "Lista[0", "Lista[x]", "Filho[0]"})
         EXPECT_THROW(BuscarGrupoPeloCaminho(Grupo, LCaminho), ECaminhoInvalido) << LCaminho;
 
     DefinirPropriedadePeloCaminho(Grupo, "filho.texto", "a=b");
@@ -274,8 +280,12 @@ TEST_F(TTesteGrupoBase, CaminhosAchamGruposEDefinemPropriedades)
     EXPECT_TRUE(Grupo.Dia.Vazia());
     for (const char* LCaminho : {"Calculado", "Filho", "Lista", "Nada", ""})
         EXPECT_THROW(DefinirPropriedadePeloCaminho(Grupo, LCaminho, "1"), ECaminhoInvalido) << LCaminho;
-    for (const auto& [LCaminho, LTexto] :
-         {std::pair{"I8", "128"}, {"I32", "x"}, {"Dobro", "1.5"}, {"Dia", "31/02/2021"}, {"Marca", "sim"}, {"Texto", "\xFF"}})
+    for (const auto& [LCaminho, LTexto] : {std::pair{"I8", "128"},
+                                           {"I32", "x"},
+                                           {"Dobro", "1.5"},
+                                           {"Dia", "31/02/2021"},
+                                           {"Marca", "sim"},
+                                           {"Texto", "\xFF"}})
         EXPECT_THROW(DefinirPropriedadePeloCaminho(Grupo, LCaminho, LTexto), EConvertError) << LCaminho;
 }
 

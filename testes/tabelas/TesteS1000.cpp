@@ -13,16 +13,23 @@ protected:
     void SetUp() override
     {
         TTesteComBanco::SetUp();
-        Inserir("SC00_EMPRESA", {{"IDEMPRESA", 1}, {"NOME", "Padaria Pão d'Ouro"}, {"TPINSCRICAO", 1}, {"CNPJ", "11222333000181"}});
+        Inserir("SC00_EMPRESA",
+                {{"IDEMPRESA", 1}, {"NOME", "Padaria Pão d'Ouro"}, {"TPINSCRICAO", 1}, {"CNPJ", "11222333000181"}});
         BuscarInstanciaListaSql().LimparLista();
     }
 
     void Configurar(int AOrigem, int AEspecie, int ATp, TDateTime AInicio, TValorSql AFim, const char* AInformacao1,
                     TValorSql AInformacao2 = nullptr, TValorSql AInformacao3 = nullptr)
     {
-        Inserir("SC00_EMPRESACFG", {{"IDEMPRESA", 1}, {"ORIGEM", AOrigem}, {"ESPECIE", AEspecie}, {"TP", ATp},
-                                    {"DATAINICIO", AInicio}, {"DATAFIM", AFim}, {"INFORMACAO1", AInformacao1},
-                                    {"INFORMACAO2", AInformacao2}, {"INFORMACAO3", AInformacao3}});
+        Inserir("SC00_EMPRESACFG", {{"IDEMPRESA", 1},
+                                    {"ORIGEM", AOrigem},
+                                    {"ESPECIE", AEspecie},
+                                    {"TP", ATp},
+                                    {"DATAINICIO", AInicio},
+                                    {"DATAFIM", AFim},
+                                    {"INFORMACAO1", AInformacao1},
+                                    {"INFORMACAO2", AInformacao2},
+                                    {"INFORMACAO3", AInformacao3}});
     }
 
     std::unique_ptr<TTarvoESocialCamposS1000> Carregar(TDateTime AData, const TListaCamposModificados* ALista = nullptr)
@@ -83,10 +90,10 @@ TEST_F(TTesteS1000, CadaIndicadorVemDaSuaLinha)
     Configurar(90, 38, 10, LInicio, nullptr, "01/07/2018", "08/01/2019");
     const auto LEvento = Carregar(D(2021, 3, 1));
     const auto& LCadastro = LEvento->InfoEmpregador.infoCadastro;
-    EXPECT_EQ("2062 1 2 3 4 5 6 7 REG",
-              LCadastro.NatJurid + " " + LCadastro.IndCoop + " " + LCadastro.IndConstr + " " + LCadastro.IndDesFolha + " " +
-                  LCadastro.indOpcCP + " " + LCadastro.IndOptRegEletron + " " + LCadastro.IndEntEd + " " + LCadastro.IndEtt +
-                  " " + LCadastro.nrRegEtt);
+    EXPECT_EQ("2062 1 2 3 4 5 6 7 REG", LCadastro.NatJurid + " " + LCadastro.IndCoop + " " + LCadastro.IndConstr + " " +
+                                            LCadastro.IndDesFolha + " " + LCadastro.indOpcCP + " " +
+                                            LCadastro.IndOptRegEletron + " " + LCadastro.IndEntEd + " " +
+                                            LCadastro.IndEtt + " " + LCadastro.nrRegEtt);
     EXPECT_EQ("8", LCadastro.InfoComplementares.situacaoPJ.indSitPJ);
     EXPECT_EQ("8", LCadastro.InfoComplementares.situacaoPF.indSitPF);
     EXPECT_EQ(D(2018, 7, 1), LEvento->InfoEmpregador.idePeriodo.iniValid);
@@ -139,8 +146,9 @@ TEST_F(TTesteS1000, ReverteEmDezComandosNaOrdem)
     LIsencao.PagDou = "4";
     LEvento.ReverterDados();
 
-    const std::string LFim = " AND SC00_EMPRESACFG.DATAINICIO <= '01.03.2021' AND (SC00_EMPRESACFG.DATAFIM >= '01.03.2021' OR "
-                             "SC00_EMPRESACFG.DATAFIM IS NULL) ORDER BY SC00_EMPRESACFG.DATAINICIO DESC";
+    const std::string LFim =
+        " AND SC00_EMPRESACFG.DATAINICIO <= '01.03.2021' AND (SC00_EMPRESACFG.DATAFIM >= '01.03.2021' OR "
+        "SC00_EMPRESACFG.DATAFIM IS NULL) ORDER BY SC00_EMPRESACFG.DATAINICIO DESC";
     const auto Linha = [&](const std::string& AAtribuicao, const std::string& AOrigem, const std::string& AEspecie,
                            const std::string& ATp) {
         return "UPDATE SC00_EMPRESACFG SET SC00_EMPRESACFG." + AAtribuicao +
@@ -149,7 +157,8 @@ TEST_F(TTesteS1000, ReverteEmDezComandosNaOrdem)
     };
     const std::vector<std::string> LEsperado{
         "UPDATE SC00_EMPRESACFG SET SC00_EMPRESACFG.INFORMACAO8 = '1', SC00_EMPRESACFG.INFORMACAO2 = '2', "
-        "SC00_EMPRESACFG.DATAINICIO = '02.01.2020', SC00_EMPRESACFG.DATAFIM = '30.12.1899', SC00_EMPRESACFG.INFORMACAO4 = "
+        "SC00_EMPRESACFG.DATAINICIO = '02.01.2020', SC00_EMPRESACFG.DATAFIM = '30.12.1899', "
+        "SC00_EMPRESACFG.INFORMACAO4 = "
         "'3', SC00_EMPRESACFG.INFORMACAO3 = ''04.03.2020'', SC00_EMPRESACFG.INFORMACAO5 = ''06.05.2020'', "
         "SC00_EMPRESACFG.INFORMACAO6 = '4' WHERE SC00_EMPRESACFG.IDEMPRESA = 1 AND SC00_EMPRESACFG.ORIGEM = 90 AND "
         "SC00_EMPRESACFG.ESPECIE = 38 AND SC00_EMPRESACFG.TP = 2" +

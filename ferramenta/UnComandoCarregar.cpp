@@ -1,0 +1,52 @@
+#include <CLI/CLI.hpp>
+
+#include <memory>
+
+#include "ferramenta/UnCarga.h"
+#include "ferramenta/UnComandos.h"
+#include "ferramenta/UnContexto.h"
+#include "ferramenta/UnErros.h"
+#include "framework/UnTarvoESocialCamposGrupoBase.h"
+
+namespace tarvo::ferramenta {
+
+namespace {
+
+struct TOpcoes {
+    TEventoDaLinha Evento;
+    TOpcoesDoContexto Contexto;
+    TOpcoesDaCarga Carga;
+    bool Compacto = false;
+};
+
+int CarregarEMostrar(const TOpcoes& AOpcoes)
+{
+    const auto LCodigo = AOpcoes.Evento.Codigo();
+    const auto LArgumentos = AOpcoes.Evento.Argumentos();
+    // A wrong argument is told before the database is asked for.
+    TArgumentosDeEvento(BuscarEventoDoCatalogo(LCodigo).Argumentos, LArgumentos);
+    TContexto LContexto(AOpcoes.Contexto);
+    // One snapshot: all the figures of an event are of the same moment.
+    LContexto.Conexao().IniciarTransacao(TOvraConnection::TIsolamento::Instantaneo);
+    const auto LEvento = Carregar(LCodigo, LArgumentos, AOpcoes.Carga);
+    const auto LJson = LEvento.Evento->ToJson().AsJSON(!AOpcoes.Compacto);
+    LContexto.ConferirRastro();
+    EscreverResultado(LJson + "\n");
+    return SAIDA_FEITO;
+}
+
+} // namespace
+
+void RegistrarCarregar(CLI::App& AApp, TComandos& AComandos)
+{
+    auto LOpcoes = std::make_shared<TOpcoes>();
+    auto& LApp = AdicionarComando(AApp, AComandos, "carregar", "carrega um evento e mostra o seu JSON",
+                                  "esocial-campos carregar EVENTO --banco LIGACAO --ARGUMENTO VALOR ...");
+    AdicionarOpcoesDoContexto(LApp, LOpcoes->Contexto);
+    AdicionarOpcoesDaCarga(LApp, LOpcoes->Carga);
+    LApp.add_flag("--compacto", LOpcoes->Compacto, "mostra o JSON em uma linha")->ignore_case();
+    AdicionarEventos(LApp, LOpcoes->Evento);
+    AComandos.back().Executar = [LOpcoes] { return CarregarEMostrar(*LOpcoes); };
+}
+
+} // namespace tarvo::ferramenta

@@ -1,0 +1,58 @@
+#include <CLI/CLI.hpp>
+
+#include <filesystem>
+#include <iostream>
+#include <memory>
+
+#include "banco/UnBancoEmbutido.h"
+#include "ferramenta/UnComandos.h"
+#include "ferramenta/UnContexto.h"
+#include "ferramenta/UnErros.h"
+#include "imports/UnOvraScriptSql.h"
+
+namespace tarvo::ferramenta {
+
+namespace {
+
+struct TOpcoes {
+    TOpcoesDoContexto Ligacao;
+    bool Exemplo = false;
+};
+
+int CriarBanco(const TOpcoes& AOpcoes)
+{
+    const auto LParametros = ParametrosDaLigacao(AOpcoes.Ligacao);
+    TOvraConnection::CriarBanco(LParametros);
+    try {
+        TOvraConnection LConexao(LParametros);
+        for (const auto& LScript : ScriptsDoEsquema())
+            ExecutarScriptSql(LConexao, LScript.Texto);
+        if (AOpcoes.Exemplo)
+            for (const auto& LScript : ScriptsDoExemplo())
+                ExecutarScriptSql(LConexao, LScript.Texto);
+    } catch (const Exception&) {
+        // Half a database helps nobody, and would stand in the way of the next try.
+        std::error_code LErro;
+        if (!LParametros.EhServidor())
+            std::filesystem::remove(LParametros.BancoDeDados, LErro);
+        throw;
+    }
+    std::cerr << "Banco criado: " << LParametros.BancoDeDados
+              << (AOpcoes.Exemplo ? " (com a empresa de exemplo)\n" : "\n");
+    return SAIDA_FEITO;
+}
+
+} // namespace
+
+void RegistrarCriarBanco(CLI::App& AApp, TComandos& AComandos)
+{
+    auto LOpcoes = std::make_shared<TOpcoes>();
+    auto& LApp = AdicionarComando(AApp, AComandos, "criar-banco",
+                                  "cria um banco da folha novo, vazio ou com a empresa de exemplo",
+                                  "esocial-campos criar-banco --banco ARQUIVO [--exemplo]");
+    AdicionarOpcoesDeLigacao(LApp, LOpcoes->Ligacao);
+    LApp.add_flag("--exemplo", LOpcoes->Exemplo, "põe nele a empresa de exemplo")->ignore_case();
+    AComandos.back().Executar = [LOpcoes] { return CriarBanco(*LOpcoes); };
+}
+
+} // namespace tarvo::ferramenta

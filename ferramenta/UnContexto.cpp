@@ -1,0 +1,127 @@
+#include "ferramenta/UnContexto.h"
+
+#include <CLI/CLI.hpp>
+#include <rapidjson/stringbuffer.h>
+#include <rapidjson/writer.h>
+
+#include <cstdlib>
+#include <iostream>
+
+#include "ferramenta/UnErros.h"
+#include "imports/UnOvraEsocialReinfControleAmbientes.h"
+#include "imports/UnTarvoConexaoBrenco.h"
+
+namespace tarvo::ferramenta {
+
+namespace {
+
+std::string DoAmbiente(const char* ANome)
+{
+    const char* LValor = std::getenv(ANome);
+    return LValor == nullptr ? std::string() : std::string(LValor);
+}
+
+} // namespace
+
+void AdicionarOpcoesDeLigacao(CLI::App& AComando, TOpcoesDoContexto& AOpcoes)
+{
+    AComando
+        .add_option("--banco", AOpcoes.Banco,
+                    "banco da folha: um arquivo (motor embutido), host[/porta]:caminho ou inet://... (servidor)")
+        ->ignore_case()
+        ->type_name("LIGACAO");
+    AComando.add_option("--usuario", AOpcoes.Usuario, "usuário do banco; senão o de ISC_USER, senão SYSDBA")
+        ->ignore_case()
+        ->type_name("NOME");
+    AComando.add_option("--senha", AOpcoes.Senha, "senha do usuário; senão a de ISC_PASSWORD")
+        ->ignore_case()
+        ->type_name("SENHA");
+}
+
+void AdicionarOpcoesDoContexto(CLI::App& AComando, TOpcoesDoContexto& AOpcoes)
+{
+    AdicionarOpcoesDeLigacao(AComando, AOpcoes);
+    AComando
+        .add_option("--rastrear", AOpcoes.Rastrear,
+                    "grava cada comando SQL em uma linha JSON neste arquivo; '-' é a saída de erros")
+        ->ignore_case()
+        ->type_name("ARQUIVO");
+    AComando.add_option("--ambiente", AOpcoes.Ambiente, "ambiente do eSocial: 1 produção, 2 produção restrita")
+        ->ignore_case()
+        ->type_name("1|2");
+    AComando.add_option("--brenco", AOpcoes.Brenco, "banco do sistema irmão, lido por S-1250")
+        ->ignore_case()
+        ->type_name("LIGACAO");
+}
+
+TParametrosConexao ParametrosDaLigacao(const TOpcoesDoContexto& AOpcoes)
+{
+    if (AOpcoes.Banco.empty())
+        throw EUsoErrado("Falta informar --banco");
+    TParametrosConexao LParametros;
+    LParametros.BancoDeDados = AOpcoes.Banco;
+    if (const auto LUsuario = AOpcoes.Usuario.empty() ? DoAmbiente("ISC_USER") : AOpcoes.Usuario; !LUsuario.empty())
+        LParametros.Usuario = LUsuario;
+    LParametros.Senha = AOpcoes.Senha.empty() ? DoAmbiente("ISC_PASSWORD") : AOpcoes.Senha;
+    return LParametros;
+}
+
+TContexto::TContexto(const TOpcoesDoContexto& AOpcoes)
+{
+    const auto LParametros = ParametrosDaLigacao(AOpcoes);
+    if (AOpcoes.Ambiente != "1" && AOpcoes.Ambiente != "2")
+        throw EUsoErrado("--ambiente é 1 (produção) ou 2 (produção restrita), e não '" + AOpcoes.Ambiente + "'");
+    if (AOpcoes.Rastrear == "-") {
+        FRastro = &std::cerr;
+    } else if (!AOpcoes.Rastrear.empty()) {
+        FArquivoDoRastro.open(AOpcoes.Rastrear, std::ios::trunc);
+        if (!FArquivoDoRastro)
+            throw EUsoErrado("Não foi possível criar o arquivo de rastro '" + AOpcoes.Rastrear + "'");
+        FRastro = &FArquivoDoRastro;
+    }
+    FConexao = std::make_unique<TOvraConnection>(LParametros);
+    if (!AOpcoes.Brenco.empty()) {
+        auto LParametrosDoBrenco = LParametros;
+        LParametrosDoBrenco.BancoDeDados = AOpcoes.Brenco;
+        FBrenco = std::make_unique<TOvraConnection>(LParametrosDoBrenco);
+        BuscarInstanciaTarvoConexaoBrenco().DefinirConexao(FBrenco.get());
+        BuscarInstanciaTarvoConexaoBrencoUsuario().DefinirUsuarioTemPermissao(true);
+    }
+    BuscarInstanciaOvraEsocialReinfControleAmbientes().DefinirTpAmb(AOpcoes.Ambiente == "2" ? 2 : 1);
+    DefinirOvraConnection(FConexao.get());
+    if (FRastro != nullptr) {
+        for (auto* LConexao : {FConexao.get(), FBrenco.get()})
+            if (LConexao != nullptr)
+                LConexao->DefinirObservador([this](const TExecucaoSql& AExecucao) { Rastrear(AExecucao); });
+    }
+}
+
+TContexto::~TContexto()
+{
+    DefinirOvraConnection(nullptr);
+    BuscarInstanciaTarvoConexaoBrenco().DefinirConexao(nullptr);
+    BuscarInstanciaTarvoConexaoBrencoUsuario().DefinirUsuarioTemPermissao(false);
+}
+
+void TContexto::Rastrear(const TExecucaoSql& AExecucao)
+{
+    rapidjson::StringBuffer LBuffer;
+    rapidjson::Writer<rapidjson::StringBuffer> LEscritor(LBuffer);
+    LEscritor.StartObject();
+    LEscritor.Key("sql");
+    LEscritor.String(AExecucao.Sql.data(), static_cast<rapidjson::SizeType>(AExecucao.Sql.size()));
+    LEscritor.Key("linhas");
+    LEscritor.Int64(AExecucao.Linhas);
+    LEscritor.Key("us");
+    LEscritor.Int64(AExecucao.Microssegundos);
+    LEscritor.EndObject();
+    *FRastro << LBuffer.GetString() << '\n';
+}
+
+void TContexto::ConferirRastro()
+{
+    if (FRastro != nullptr && !FRastro->flush())
+        throw Exception("Não foi possível gravar o rastro");
+}
+
+} // namespace tarvo::ferramenta

@@ -1,0 +1,89 @@
+#include "ferramenta/UnLinhaDeComando.h"
+
+#include <CLI/CLI.hpp>
+
+#include "catalogo/UnTarvoESocialCamposCatalogo.h"
+#include "ferramenta/UnErros.h"
+
+namespace tarvo::ferramenta {
+
+CLI::App& AdicionarComando(CLI::App& AApp, TComandos& AComandos, const std::string& ANome,
+                           const std::string& ADescricao, const std::string& AUso)
+{
+    auto& LApp = *AApp.add_subcommand(ANome, ADescricao);
+    // What nobody knows is gathered, and told in Portuguese after the line was read.
+    LApp.allow_extras();
+    LApp.group("Comandos");
+    AComandos.push_back({&LApp, AUso, {}});
+    return LApp;
+}
+
+const char* ExemploDoTipo(int ATipo)
+{
+    switch (static_cast<TTipoArgumento>(ATipo)) {
+    case TTipoArgumento::taId:
+        return "ID";
+    case TTipoArgumento::taInteiro:
+        return "NUMERO";
+    case TTipoArgumento::taData:
+        return "AAAA-MM-DD";
+    case TTipoArgumento::taCpf:
+        return "CPF";
+    case TTipoArgumento::taTexto:
+        return "TEXTO";
+    }
+    return "VALOR";
+}
+
+void AdicionarEventos(CLI::App& AComando, TEventoDaLinha& AEvento,
+                      const std::function<bool(const TEventoDoCatalogo&)>& AAceita,
+                      const std::function<std::string(const TEventoDoCatalogo&)>& AOmitir)
+{
+    for (const auto& LEvento : CatalogoDeEventos()) {
+        if (AAceita && !AAceita(LEvento))
+            continue;
+        auto& LApp = *AComando.add_subcommand(LEvento.Codigo, LEvento.Titulo);
+        LApp.ignore_case()->fallthrough()->allow_extras()->group("Eventos");
+        LApp.footer("Mais as opções de 'esocial-campos " + AComando.get_name() + " --ajuda'.");
+        const std::string LOmitido = AOmitir ? AOmitir(LEvento) : std::string();
+        auto& LValores = AEvento.Valores[LEvento.Codigo];
+        for (const auto& LArgumento : LEvento.Argumentos) {
+            if (LOmitido == LArgumento.Nome)
+                continue;
+            std::string LNomes = std::string("--") + LArgumento.Nome;
+            if (LArgumento.OutroNome != nullptr)
+                LNomes += std::string(",--") + LArgumento.OutroNome;
+            LApp.add_option(LNomes, LValores[LArgumento.Nome], LArgumento.Descricao)
+                ->ignore_case()
+                ->type_name(ExemploDoTipo(static_cast<int>(LArgumento.Tipo)));
+        }
+        AEvento.Eventos[LEvento.Codigo] = &LApp;
+    }
+}
+
+std::string TEventoDaLinha::Codigo() const
+{
+    std::string LCodigo;
+    for (const auto& [LNome, LApp] : Eventos) {
+        if (!LApp->parsed())
+            continue;
+        if (!LCodigo.empty())
+            throw EUsoErrado("Informe um só evento: " + LCodigo + " ou " + LNome);
+        LCodigo = LNome;
+    }
+    if (LCodigo.empty())
+        throw EUsoErrado("Falta informar o evento (S-1000, ...); veja 'esocial-campos eventos'");
+    return LCodigo;
+}
+
+std::map<std::string, std::string> TEventoDaLinha::Argumentos() const
+{
+    const auto LCodigo = Codigo();
+    std::map<std::string, std::string> LArgumentos;
+    for (const auto& [LNome, LValor] : Valores.at(LCodigo))
+        if (Eventos.at(LCodigo)->count("--" + LNome) > 0)
+            LArgumentos.emplace(LNome, LValor);
+    return LArgumentos;
+}
+
+} // namespace tarvo::ferramenta

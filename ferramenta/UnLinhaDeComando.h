@@ -1,0 +1,55 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <string>
+
+namespace CLI {
+class App;
+}
+
+namespace tarvo {
+struct TEventoDoCatalogo;
+}
+
+namespace tarvo::ferramenta {
+
+/// A command of the program: its place on the command line, and what it does.
+struct TComando {
+    CLI::App* App = nullptr;
+    /// Shown when the command is used wrongly.
+    std::string Uso;
+    /// The exit code.
+    std::function<int()> Executar;
+};
+
+/// The commands register themselves here, in the order of the help.
+using TComandos = std::deque<TComando>;
+
+/// Adds a command; its options are to be added to the result.
+CLI::App& AdicionarComando(CLI::App& AApp, TComandos& AComandos, const std::string& ANome,
+                           const std::string& ADescricao, const std::string& AUso);
+
+/// The event that a command was given, and its arguments by name.
+struct TEventoDaLinha {
+    /// By event code, the texts of its arguments; only the given ones count.
+    std::map<std::string, std::map<std::string, std::string>> Valores;
+    std::map<std::string, CLI::App*> Eventos;
+
+    /// Code of the event that was given; EUsoErrado when none was.
+    std::string Codigo() const;
+    /// The arguments that were given.
+    std::map<std::string, std::string> Argumentos() const;
+};
+
+/// Lets a command take an event and the event's arguments as options; AOmitir is an argument that the command itself
+/// fills, of each event.
+void AdicionarEventos(CLI::App& AComando, TEventoDaLinha& AEvento,
+                      const std::function<bool(const TEventoDoCatalogo&)>& AAceita = {},
+                      const std::function<std::string(const TEventoDoCatalogo&)>& AOmitir = {});
+
+/// The example of an argument's value: "ID", "AAAA-MM-DD".
+const char* ExemploDoTipo(int ATipo);
+
+} // namespace tarvo::ferramenta

@@ -1,0 +1,31 @@
+#include "framework/UnTarvoESocialCamposSqlCalculo.h"
+
+#include "imports/UnOvraFormat.h"
+#include "imports/UnTarvoUtilsDb.h"
+
+namespace tarvo {
+
+std::string SqlFeriasComplementares(std::int64_t AIdEmpregado, std::string_view ATipoFolha, TDateTime ADataInicio,
+                                    TDateTime ADataFim)
+{
+    static constexpr std::string_view SQL = R"(SELECT
+  TAB_VERBAS.IDVERBA,
+  CALCCOMPLDET.BASE,
+  CALCCOMPLDET.REFERENCIA,
+  CALCCOMPLDET.VALOR
+FROM CALCCOMPL
+JOIN CALCCOMPLPER ON (CALCCOMPL.IDCALCCOMPL = CALCCOMPLPER.IDCALCCOMPL)
+JOIN CALCCOMPLDET ON (CALCCOMPLPER.IDCALCCOMPLPER = CALCCOMPLDET.IDCALCCOMPLPER)
+JOIN TAB_VERBAS ON (TAB_VERBAS.CODIGO = CALCCOMPLDET.COD_VERBA)
+JOIN EMPREGADOS ON (EMPREGADOS.COD_EMPRESA = CALCCOMPL.COD_EMPRESA
+                AND EMPREGADOS.COD_EMPREGADO = CALCCOMPLDET.COD_EMPREGADO)
+WHERE CALCCOMPL.TIPO = '04'
+  AND EMPREGADOS.IDEMPREGADO = %0:d
+  AND CALCCOMPLPER.TIPO = '%1:s'
+  AND CALCCOMPLPER.DATA_INICIO = %2:s
+  AND CALCCOMPLPER.DATA_FIM = %3:s
+  AND TAB_VERBAS.FORMULA NOT LIKE '99%%')";
+    return Format(SQL, AIdEmpregado, ATipoFolha, FormatarDataDB(ADataInicio, true), FormatarDataDB(ADataFim, true));
+}
+
+} // namespace tarvo

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "pagamento/UnTarvoESocialCamposdeps.h"
+#include "pagamento/UnTarvoESocialCamposinfoPgto.h"
+
+namespace tarvo::pagamento {
+
+/// S-1210 ideBenef: the beneficiary and the dates on which he was paid. Sources: CALCULO of his contracts and RPA of
+/// his provider records; the kind of each payment follows from the kind of calculation, the dismissal, the category
+/// and the date of change of layout.
+class TTarvoESocialCamposideBenef : public TTarvoESocialCamposGrupoBase {
+public:
+    explicit TTarvoESocialCamposideBenef(TTarvoESocialCamposS1210IOP& AInfoBind);
+
+    /// As the caller gave it, punctuation included.
+    std::string cpfBenef;
+    TTarvoESocialCamposdeps deps;
+    /// In the order of the database.
+    TListaDeGrupos<TTarvoESocialCamposinfoPgto> infoPgto;
+
+    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
+
+protected:
+    const TPropriedades& Propriedades() const override;
+
+private:
+    void CarregarListaInfoPgto(const TListaCamposModificados* AListaCamposModificados);
+    std::string BuscarSqlDatasDePagamento() const;
+
+    TTarvoESocialCamposS1210IOP& FInfoBind;
+};
+
+} // namespace tarvo::pagamento

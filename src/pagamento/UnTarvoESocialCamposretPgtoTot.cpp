@@ -1,0 +1,58 @@
+#include "pagamento/UnTarvoESocialCamposretPgtoTot.h"
+
+#include "imports/UnOvraFormat.h"
+#include "pagamento/UnTarvoESocialCamposSqlS1210.h"
+
+namespace tarvo::pagamento {
+
+namespace {
+
+bool EhPensaoAlimenticia(std::int64_t ACodIncIrrf) { return ACodIncIrrf >= 51 && ACodIncIrrf <= 55; }
+
+} // namespace
+
+TTarvoESocialCamposretPgtoTot::TTarvoESocialCamposretPgtoTot(const TTarvoESocialCamposS1210IOP& AInfoBind)
+    : TTarvoESocialCamposVerbaDoPagamento("{9F4B38A4-81FE-463F-AE3B-073A464DFCA4}", AInfoBind)
+{}
+
+const TPropriedades& TTarvoESocialCamposretPgtoTot::Propriedades() const
+{
+    static const TPropriedades tabela(TTarvoESocialCamposVerbaDoPagamento::Propriedades(),
+                                      {{"penAlim", &TTarvoESocialCamposretPgtoTot::penAlim}});
+    return tabela;
+}
+
+void TTarvoESocialCamposretPgtoTot::CarregarDados(const TListaCamposModificados* AListaCamposModificados)
+{
+    TTarvoESocialCamposGrupoBase::CarregarDados(AListaCamposModificados);
+    AlimentarPropriedadesDaTag();
+    if (!EhPrestador())
+        CarregarListaPensaoAlimenticia(EhPensaoAlimenticia, AListaCamposModificados);
+}
+
+void TTarvoESocialCamposretPgtoTot::AlimentarPropriedadesDaTag()
+{
+    codRubr = EhPrestador() ? BuscarCodRubrPrestador() : ComporCodRubrDaVerba(BuscarIncidenciasDaVerba());
+    ideTabRubr = BuscarIdeTabRubr();
+    qtdRubr = EhPrestador() ? 0 : BuscarQtdRubr();
+    fatorRubr = EhPrestador() ? 0 : BuscarFatorRubr();
+    vrUnit = 0;
+    vrRubr = EhPrestador() ? BuscarVrRubrPrestador() : BuscarVrRubr();
+}
+
+std::string TTarvoESocialCamposretPgtoTot::BuscarCodRubrPrestador() const
+{
+    return tabelas::ComporCodRubrRpa(IdVerba, BuscarCodigosDaVerbaRpa(IdVerba));
+}
+
+long double TTarvoESocialCamposretPgtoTot::BuscarVrRubrPrestador() const
+{
+    static constexpr std::string_view SQL = R"(SELECT SUM(COALESCE(RPAVALOR.VALOR,0)) AS VALOR
+FROM RPAVALOR
+JOIN RPA ON (RPA.IDRPA=RPAVALOR.IDRPA)
+JOIN SC00_FILIAL ON (SC00_FILIAL.IDFILIAL=RPA.IDFILIAL)
+%0:s)";
+    return BuscarValorDoSql(Format(SQL, FiltroDoRecibo(FInfoBind, Format("RPAVALOR.IDRPATPVALOR = %0:d", IdVerba))));
+}
+
+} // namespace tarvo::pagamento

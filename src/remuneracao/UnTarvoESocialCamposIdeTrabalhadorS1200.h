@@ -1,0 +1,41 @@
+#pragma once
+
+#include "framework/UnTarvoESocialCamposGrupoBase.h"
+#include "remuneracao/UnTarvoESocialCamposInfoComplemS1200.h"
+#include "remuneracao/UnTarvoESocialCamposInfoMVS1200.h"
+#include "remuneracao/UnTarvoESocialCamposProcJudTrabS1200.h"
+#include "remuneracao/UnTarvoESocialCamposS1200IOP.h"
+#include "remuneracao/UnTarvoESocialCamposinfoInterm.h"
+
+namespace tarvo::remuneracao {
+
+/// S-1200 ideTrabalhador: who the event is about. Sources: EMPREGADOS and PREST_SERVICO by CPF. Loaded once, with the
+/// month as the caller gave it, before any run is chosen. EMPREGADOS.CPF must be stored as the caller gives the CPF;
+/// that of a provider is compared by its digits.
+class TTarvoESocialCamposIdeTrabalhadorS1200 : public TTarvoESocialCamposGrupoBase {
+public:
+    explicit TTarvoESocialCamposIdeTrabalhadorS1200(const TTarvoESocialCamposS1200IOP& AinfoBind1200);
+
+    /// As given to the constructor.
+    std::string cpfTrab;
+    /// Of a contract in force, else of a provider, else of any contract.
+    std::string nisTrab;
+    TTarvoESocialCamposInfoMVS1200 InfoMV;
+    TTarvoESocialCamposInfoComplemS1200 infoComplem;
+    TListaDeGrupos<TTarvoESocialCamposProcJudTrabS1200> procJudTrab;
+    TTarvoESocialCamposinfoInterm infoInterm;
+
+    /// A further load adds to procJudTrab.
+    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
+
+protected:
+    const TPropriedades& Propriedades() const override;
+    std::string BuscarSQLDados() override;
+
+private:
+    void CarregarDadosprocJudTrab();
+
+    const TTarvoESocialCamposS1200IOP& FInfoBind;
+};
+
+} // namespace tarvo::remuneracao

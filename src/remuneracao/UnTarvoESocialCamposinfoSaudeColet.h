@@ -1,0 +1,106 @@
+#pragma once
+
+#include "framework/UnTarvoESocialCamposQuadro.h"
+
+// The health plan and the harmful agents of a contract as the layout shapes them, for the caller to fill.
+
+namespace tarvo::remuneracao {
+
+/// Frame detPlano.
+class TTarvoESocialCamposdetPlano : public TTarvoESocialCamposQuadro {
+public:
+    explicit TTarvoESocialCamposdetPlano(std::int64_t AIdEmpregado)
+        : TTarvoESocialCamposQuadro("{0A17B6E3-F3F5-4FC1-B3B7-73D9C1E4C795}", AIdEmpregado)
+    {}
+
+    std::string tpDep;
+    std::string cpfDep;
+    std::string nmDep;
+    std::string dtNascto;
+    std::string vlrPgDep;
+
+protected:
+    const TPropriedades& Propriedades() const override
+    {
+        using Eu = TTarvoESocialCamposdetPlano;
+        static const TPropriedades tabela{
+            {"tpDep", &Eu::tpDep},       {"cpfDep", &Eu::cpfDep},     {"nmDep", &Eu::nmDep},
+            {"dtNascto", &Eu::dtNascto}, {"vlrPgDep", &Eu::vlrPgDep},
+        };
+        return tabela;
+    }
+};
+
+/// Frame detOper.
+class TTarvoESocialCamposdetOper : public TTarvoESocialCamposQuadro {
+public:
+    explicit TTarvoESocialCamposdetOper(std::int64_t AIdEmpregado)
+        : TTarvoESocialCamposQuadro("{43D016C7-72AE-4AD0-8E0F-16BBC759045A}", AIdEmpregado), detPlano(AIdEmpregado)
+    {}
+
+    std::string cnpjOper;
+    std::string regANS;
+    std::string vrPgTit;
+    TTarvoESocialCamposdetPlano detPlano;
+
+    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override
+    {
+        CarregarComFilhos(AListaCamposModificados, {&detPlano});
+    }
+
+protected:
+    const TPropriedades& Propriedades() const override
+    {
+        using Eu = TTarvoESocialCamposdetOper;
+        static const TPropriedades tabela{
+            {"cnpjOper", &Eu::cnpjOper},
+            {"regANS", &Eu::regANS},
+            {"vrPgTit", &Eu::vrPgTit},
+            {"detPlano", &Eu::detPlano},
+        };
+        return tabela;
+    }
+};
+
+/// Frame infoSaudeColet.
+class TTarvoESocialCamposinfoSaudeColet : public TTarvoESocialCamposQuadro {
+public:
+    explicit TTarvoESocialCamposinfoSaudeColet(std::int64_t AIdEmpregado)
+        : TTarvoESocialCamposQuadro("{260C19F9-B650-44D4-9D99-D738462F3723}", AIdEmpregado), detOper(AIdEmpregado)
+    {}
+
+    TTarvoESocialCamposdetOper detOper;
+
+    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override
+    {
+        CarregarComFilhos(AListaCamposModificados, {&detOper});
+    }
+
+protected:
+    const TPropriedades& Propriedades() const override
+    {
+        using Eu = TTarvoESocialCamposinfoSaudeColet;
+        static const TPropriedades tabela{{"detOper", &Eu::detOper}};
+        return tabela;
+    }
+};
+
+/// Frame infoAgNocivo.
+class TTarvoESocialCamposinfoAgNocivo : public TTarvoESocialCamposQuadro {
+public:
+    explicit TTarvoESocialCamposinfoAgNocivo(std::int64_t AIdEmpregado)
+        : TTarvoESocialCamposQuadro("{683D9299-3F02-4207-BAFF-07C0A4A53AF1}", AIdEmpregado)
+    {}
+
+    std::string grauExp;
+
+protected:
+    const TPropriedades& Propriedades() const override
+    {
+        using Eu = TTarvoESocialCamposinfoAgNocivo;
+        static const TPropriedades tabela{{"grauExp", &Eu::grauExp}};
+        return tabela;
+    }
+};
+
+} // namespace tarvo::remuneracao

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "rural/UnTarvoESocialCamposideRespInf.h"
+
+namespace tarvo::rural {
+
+/// Event S-1295: request of a total of the period.
+class TTarvoESocialCamposS1295 : public TTarvoESocialCamposGrupoBase {
+public:
+    TTarvoESocialCamposS1295();
+
+    TTarvoESocialCamposideRespInf ideRespInf;
+
+    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
+
+protected:
+    const TPropriedades& Propriedades() const override;
+};
+
+} // namespace tarvo::rural

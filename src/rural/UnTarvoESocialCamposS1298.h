@@ -1,0 +1,20 @@
+#pragma once
+
+#include "tabelas/UnTarvoESocialCamposIdEmpregador.h"
+
+namespace tarvo::rural {
+
+/// Event S-1298: reopening of a period.
+class TTarvoESocialCamposS1298 : public TTarvoESocialCamposGrupoBase {
+public:
+    explicit TTarvoESocialCamposS1298(std::int64_t AIDEmpresa);
+
+    tabelas::TTarvoESocialCamposIdEmpregador IdeEmpregador;
+
+    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
+
+protected:
+    const TPropriedades& Propriedades() const override;
+};
+
+} // namespace tarvo::rural

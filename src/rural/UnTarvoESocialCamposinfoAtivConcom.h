@@ -1,0 +1,26 @@
+#pragma once
+
+#include "framework/UnTarvoESocialCamposGrupoBase.h"
+
+namespace tarvo::rural {
+
+/// S-1280 infoAtivConcom: factor of concurrent activities of the month, of the head office first. Source:
+/// FP_RECEITASIMPLES.
+class TTarvoESocialCamposinfoAtivConcom : public TTarvoESocialCamposGrupoBase {
+public:
+    TTarvoESocialCamposinfoAtivConcom(std::int64_t AIdEmpresa, TDateTime ACompt);
+
+    double fatorMes = 0;
+    /// The same column as fatorMes.
+    double fator13 = 0;
+
+protected:
+    const TPropriedades& Propriedades() const override;
+    std::string BuscarSQLDados() override;
+
+private:
+    std::int64_t FIdEmpresa;
+    TDateTime FCompt;
+};
+
+} // namespace tarvo::rural

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "framework/UnTarvoESocialCamposGrupoBase.h"
+
+namespace tarvo::sst {
+
+/// S-2210 agenteCausador: an agent of the accident; the parent sets its code.
+class TTarvoESocialCamposAgenteCausador : public TTarvoESocialCamposGrupoBase {
+public:
+    TTarvoESocialCamposAgenteCausador();
+
+    std::int32_t codAgntCausador = 0;
+
+protected:
+    const TPropriedades& Propriedades() const override;
+};
+
+} // namespace tarvo::sst

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "sst/UnTarvoESocialCamposCat.h"
+#include "trabalhador/UnTarvoESocialCamposideVinculo.h"
+
+namespace tarvo::sst {
+
+/// Event S-2210: report of a work accident (a TABCAT row). The worker and the issuer of the certificate are looked up at
+/// construction, which therefore needs the database.
+class TTarvoESocialCamposS2210 : public TTarvoESocialCamposGrupoBase {
+public:
+    explicit TTarvoESocialCamposS2210(std::int64_t AIdTabCat);
+
+    trabalhador::TTarvoESocialCamposideVinculo ideVinculo;
+    TTarvoESocialCamposCat cat;
+
+    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
+
+protected:
+    const TPropriedades& Propriedades() const override;
+};
+
+} // namespace tarvo::sst

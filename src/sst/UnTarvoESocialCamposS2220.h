@@ -1,0 +1,176 @@
+#pragma once
+
+#include "framework/UnTarvoESocialCamposQuadro.h"
+#include "trabalhador/UnTarvoESocialCamposideVinculo.h"
+
+namespace tarvo::sst {
+
+/// S-2220 respMonit: who answers for the monitoring.
+class TTarvoESocialCamposrespMonit : public TTarvoESocialCamposQuadro {
+public:
+    TTarvoESocialCamposrespMonit() : TTarvoESocialCamposQuadro("{BBDB7727-0068-4027-AC99-DE57FAE70397}") {}
+
+    std::string NisResp;
+    std::string NrConsClasse;
+    std::string UfConsClasse;
+
+protected:
+    const TPropriedades& Propriedades() const override
+    {
+        using Eu = TTarvoESocialCamposrespMonit;
+        static const TPropriedades tabela{
+            {"NisResp", &Eu::NisResp}, {"NrConsClasse", &Eu::NrConsClasse}, {"UfConsClasse", &Eu::UfConsClasse}};
+        return tabela;
+    }
+};
+
+/// S-2220 exame: one examination, added by the caller.
+class TTarvoESocialCamposexame : public TTarvoESocialCamposQuadro {
+public:
+    TTarvoESocialCamposexame() : TTarvoESocialCamposQuadro("{1F0E962E-2CFC-4A8F-B32B-7FBC1E033556}") {}
+
+    TDateTime DtExm;
+    std::int32_t ProcRealizado = 0;
+    std::string obsProc;
+    std::int32_t interprExm = 0;
+    std::int32_t ordExame = 0;
+    TDate dtIniMonit;
+    TDate dtFimMonit;
+    std::int32_t indResult = 0;
+    TTarvoESocialCamposrespMonit respMonit;
+
+    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override
+    {
+        CarregarComFilhos(AListaCamposModificados, {&respMonit});
+    }
+
+protected:
+    const TPropriedades& Propriedades() const override
+    {
+        using Eu = TTarvoESocialCamposexame;
+        static const TPropriedades tabela{
+            {"DtExm", &Eu::DtExm},           {"ProcRealizado", &Eu::ProcRealizado}, {"obsProc", &Eu::obsProc},
+            {"interprExm", &Eu::interprExm}, {"ordExame", &Eu::ordExame},           {"dtIniMonit", &Eu::dtIniMonit},
+            {"dtFimMonit", &Eu::dtFimMonit}, {"indResult", &Eu::indResult},         {"respMonit", &Eu::respMonit}};
+        return tabela;
+    }
+};
+
+/// S-2220 CRM.
+class TTarvoESocialCamposCrm : public TTarvoESocialCamposQuadro {
+public:
+    TTarvoESocialCamposCrm() : TTarvoESocialCamposQuadro("{CA0F88DC-569E-422E-B5C0-F1AB5275E5D8}") {}
+
+    std::string NrCRM;
+    std::string UfCRM;
+
+protected:
+    const TPropriedades& Propriedades() const override
+    {
+        using Eu = TTarvoESocialCamposCrm;
+        static const TPropriedades tabela{{"NrCRM", &Eu::NrCRM}, {"UfCRM", &Eu::UfCRM}};
+        return tabela;
+    }
+};
+
+/// S-2220 medico.
+class TTarvoESocialCamposMedico : public TTarvoESocialCamposQuadro {
+public:
+    TTarvoESocialCamposMedico() : TTarvoESocialCamposQuadro("{FBA0A22A-9BF5-4909-B78E-66E86F9683AD}") {}
+
+    std::string NmMed;
+    TTarvoESocialCamposCrm CRM;
+
+    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override
+    {
+        CarregarComFilhos(AListaCamposModificados, {&CRM});
+    }
+
+protected:
+    const TPropriedades& Propriedades() const override
+    {
+        using Eu = TTarvoESocialCamposMedico;
+        static const TPropriedades tabela{{"NmMed", &Eu::NmMed}, {"CRM", &Eu::CRM}};
+        return tabela;
+    }
+};
+
+/// S-2220 ideServSaude: the health service.
+class TTarvoESocialCamposIdeServSaude : public TTarvoESocialCamposQuadro {
+public:
+    TTarvoESocialCamposIdeServSaude() : TTarvoESocialCamposQuadro("{20396040-8FF2-43E2-9AFA-EA98945810D0}") {}
+
+    std::string CodCNES;
+    std::string FrmCtt;
+    std::string Email;
+    TTarvoESocialCamposMedico Medico;
+
+    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override
+    {
+        CarregarComFilhos(AListaCamposModificados, {&Medico});
+    }
+
+protected:
+    const TPropriedades& Propriedades() const override
+    {
+        using Eu = TTarvoESocialCamposIdeServSaude;
+        static const TPropriedades tabela{
+            {"CodCNES", &Eu::CodCNES}, {"FrmCtt", &Eu::FrmCtt}, {"Email", &Eu::Email}, {"Medico", &Eu::Medico}};
+        return tabela;
+    }
+};
+
+/// S-2220 aso: the health certificate. Its examinations are not loaded: there is nothing to load.
+class TTarvoESocialCamposAso : public TTarvoESocialCamposQuadro {
+public:
+    TTarvoESocialCamposAso() : TTarvoESocialCamposQuadro("{75ACB68E-B0C6-494D-9A50-C25A0842C1AB}") {}
+
+    TDateTime DtAso;
+    std::int32_t tpAso = 0;
+    std::int32_t ResAso = 0;
+    TListaDeGrupos<TTarvoESocialCamposexame> Exame;
+    TTarvoESocialCamposIdeServSaude IdeServSaude;
+
+    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override
+    {
+        CarregarComFilhos(AListaCamposModificados, {&IdeServSaude});
+    }
+
+protected:
+    const TPropriedades& Propriedades() const override
+    {
+        using Eu = TTarvoESocialCamposAso;
+        static const TPropriedades tabela{{"DtAso", &Eu::DtAso},
+                                          {"tpAso", &Eu::tpAso},
+                                          {"ResAso", &Eu::ResAso},
+                                          {"Exame", &Eu::Exame},
+                                          {"IdeServSaude", &Eu::IdeServSaude}};
+        return tabela;
+    }
+};
+
+/// Event S-2220: health monitoring of a worker. A frame that the caller fills; only ideVinculo reads the database.
+class TTarvoESocialCamposS2220 : public TTarvoESocialCamposQuadro {
+public:
+    explicit TTarvoESocialCamposS2220(std::int64_t AIDEmpregado)
+        : TTarvoESocialCamposQuadro("{B3BB7169-2FFC-46A1-AE0D-A0CD9E267116}", AIDEmpregado), ideVinculo(AIDEmpregado)
+    {}
+
+    trabalhador::TTarvoESocialCamposideVinculo ideVinculo;
+    TTarvoESocialCamposAso aso;
+
+    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override
+    {
+        CarregarComFilhos(AListaCamposModificados, {&ideVinculo, &aso});
+    }
+
+protected:
+    const TPropriedades& Propriedades() const override
+    {
+        using Eu = TTarvoESocialCamposS2220;
+        static const TPropriedades tabela{{"ideVinculo", &Eu::ideVinculo}, {"aso", &Eu::aso}};
+        return tabela;
+    }
+};
+
+} // namespace tarvo::sst

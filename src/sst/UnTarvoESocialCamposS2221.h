@@ -1,0 +1,22 @@
+#pragma once
+
+#include "sst/UnTarvoESocialCampostoxicologico.h"
+#include "trabalhador/UnTarvoESocialCamposideVinculo.h"
+
+namespace tarvo::sst {
+
+/// Event S-2221: toxicological examination. The worker is looked up at construction.
+class TTarvoESocialCamposS2221 : public TTarvoESocialCamposGrupoBase {
+public:
+    explicit TTarvoESocialCamposS2221(std::int64_t AIdExameToxicologico);
+
+    trabalhador::TTarvoESocialCamposideVinculo ideVinculo;
+    TTarvoeSocialCampostoxicologico toxicologico;
+
+    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
+
+protected:
+    const TPropriedades& Propriedades() const override;
+};
+
+} // namespace tarvo::sst

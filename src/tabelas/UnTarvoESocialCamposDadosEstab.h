@@ -1,0 +1,34 @@
+#pragma once
+
+#include "tabelas/UnTarvoESocialCamposAliqGilRat.h"
+#include "tabelas/UnTarvoESocialCamposInfoCaepf.h"
+#include "tabelas/UnTarvoESocialCamposInfoObra.h"
+#include "tabelas/UnTarvoESocialCamposInfoTrab.h"
+#include "tabelas/UnTarvoESocialCamposSqlLugar.h"
+
+namespace tarvo::tabelas {
+
+/// S-1005 dadosEstab: the prepondering activity, and what the children report. Source: SC00_FILIALCFG 1/1/2, whatever
+/// the date.
+class TTarvoESocialCamposDadosEstab : public TTarvoESocialCamposGrupoBase {
+public:
+    TTarvoESocialCamposDadosEstab(std::int64_t AIDEstab, std::int64_t AIDDepto, TDateTime AData);
+
+    TTarvoESocialCamposAliqGilRat AliqGilRat;
+    TTarvoESocialCamposInfoCaepf InfoCaepf;
+    TTarvoESocialCamposInfoObra InfoObra;
+    TTarvoESocialCamposInfoTrab InfoTrab;
+    /// The newest row of an establishment, the oldest one of the establishment of a department.
+    std::string CnaePrep;
+
+    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
+
+protected:
+    const TPropriedades& Propriedades() const override;
+    std::string BuscarSQLDados() override;
+
+private:
+    TLugar FLugar;
+};
+
+} // namespace tarvo::tabelas

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "framework/UnTarvoESocialCamposGrupoBase.h"
+
+namespace tarvo::tabelas {
+
+/// S-1060 fatorRisco: the one risk code that every environment reports.
+class TTarvoESocialCamposFatorRisco : public TTarvoESocialCamposGrupoBase {
+public:
+    explicit TTarvoESocialCamposFatorRisco(std::int64_t AIdAmbiente);
+
+    std::string codFatRis;
+
+protected:
+    const TPropriedades& Propriedades() const override;
+};
+
+} // namespace tarvo::tabelas

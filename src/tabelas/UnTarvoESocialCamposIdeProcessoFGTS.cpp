@@ -1,0 +1,21 @@
+#include "tabelas/UnTarvoESocialCamposIdeProcessoFGTS.h"
+
+#include "tabelas/UnTarvoESocialCamposSqlProcesso.h"
+
+namespace tarvo::tabelas {
+
+TTarvoESocialCamposIdeProcessoFGTS::TTarvoESocialCamposIdeProcessoFGTS()
+    : TTarvoESocialCamposIdeProcessoVerba("{191D0C64-5DE5-482F-AFF5-58678CCDE592}")
+{}
+
+const TPropriedades& TTarvoESocialCamposIdeProcessoFGTS::Propriedades() const
+{
+    static const TPropriedades tabela{
+        {"NrProc", &TTarvoESocialCamposIdeProcessoFGTS::NrProc, TFieldRelacionado("NUMERO")},
+    };
+    return tabela;
+}
+
+std::string TTarvoESocialCamposIdeProcessoFGTS::BuscarSQLDados() { return SqlProcessoComDetalhe(FIdProcesso); }
+
+} // namespace tarvo::tabelas

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "tabelas/UnTarvoESocialCamposIdeProcessoVerba.h"
+
+namespace tarvo::tabelas {
+
+/// S-1010 ideProcessoFGTS: the process that suspends FGTS on a rubric. Source: ES02_SPPROC.
+class TTarvoESocialCamposIdeProcessoFGTS : public TTarvoESocialCamposIdeProcessoVerba {
+public:
+    TTarvoESocialCamposIdeProcessoFGTS();
+
+    std::string NrProc;
+
+protected:
+    const TPropriedades& Propriedades() const override;
+    std::string BuscarSQLDados() override;
+};
+
+} // namespace tarvo::tabelas

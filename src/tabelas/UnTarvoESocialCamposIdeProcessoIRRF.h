@@ -1,0 +1,21 @@
+#pragma once
+
+#include "tabelas/UnTarvoESocialCamposIdeProcessoVerba.h"
+
+namespace tarvo::tabelas {
+
+/// S-1010 ideProcessoIRRF: the process that suspends income tax on a rubric. Sources: ES02_SPPROC and its newest
+/// ES02_SPPROCDET.
+class TTarvoESocialCamposIdeProcessoIRRF : public TTarvoESocialCamposIdeProcessoVerba {
+public:
+    TTarvoESocialCamposIdeProcessoIRRF();
+
+    std::string NrProc;
+    std::string CodSusp;
+
+protected:
+    const TPropriedades& Propriedades() const override;
+    std::string BuscarSQLDados() override;
+};
+
+} // namespace tarvo::tabelas

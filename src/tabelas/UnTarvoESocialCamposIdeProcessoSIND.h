@@ -1,0 +1,19 @@
+#pragma once
+
+#include "tabelas/UnTarvoESocialCamposIdeProcessoVerba.h"
+
+namespace tarvo::tabelas {
+
+/// S-1010 ideProcessoSIND: the process that suspends the union contribution on a rubric. Source: ES02_SPPROC.
+class TTarvoESocialCamposIdeProcessoSIND : public TTarvoESocialCamposIdeProcessoVerba {
+public:
+    TTarvoESocialCamposIdeProcessoSIND();
+
+    std::string NrProc;
+
+protected:
+    const TPropriedades& Propriedades() const override;
+    std::string BuscarSQLDados() override;
+};
+
+} // namespace tarvo::tabelas

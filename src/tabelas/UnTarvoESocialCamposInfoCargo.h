@@ -1,0 +1,25 @@
+#pragma once
+
+#include "tabelas/UnTarvoESocialCamposDadosCargo.h"
+#include "tabelas/UnTarvoESocialCamposIdeCargo.h"
+#include "tabelas/UnTarvoESocialCamposNovaValidade.h"
+
+namespace tarvo::tabelas {
+
+/// S-1030 infoCargo: identification and data of the position.
+class TTarvoESocialCamposInfoCargo : public TTarvoESocialCamposGrupoBase {
+public:
+    explicit TTarvoESocialCamposInfoCargo(std::int64_t AIDCargosDescr);
+
+    TTarvoESocialCamposIdeCargo IdeCargo;
+    TTarvoESocialCamposDadosCargo DadosCargo;
+    TTarvoESocialCamposNovaValidade NovaValidade;
+
+    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
+    void ReverterDados() override;
+
+protected:
+    const TPropriedades& Propriedades() const override;
+};
+
+} // namespace tarvo::tabelas

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "tabelas/UnTarvoESocialCamposDadosCarreira.h"
+#include "tabelas/UnTarvoESocialCamposIdeCarreira.h"
+
+namespace tarvo::tabelas {
+
+/// S-1035 infoCarreira: identification and data of the career.
+class TTarvoESocialCamposInfoCarreira : public TTarvoESocialCamposGrupoBase {
+public:
+    explicit TTarvoESocialCamposInfoCarreira(std::int64_t AIDCargosDescr);
+
+    TTarvoESocialCamposIdeCarreira IdeCarreira;
+    TTarvoESocialCamposDadosCarreira dadosCarreira;
+
+    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
+
+protected:
+    const TPropriedades& Propriedades() const override;
+};
+
+} // namespace tarvo::tabelas

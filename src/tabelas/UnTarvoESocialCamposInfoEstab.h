@@ -1,0 +1,22 @@
+#pragma once
+
+#include "tabelas/UnTarvoESocialCamposDadosEstab.h"
+#include "tabelas/UnTarvoESocialCamposIdeEstab.h"
+
+namespace tarvo::tabelas {
+
+/// S-1005 infoEstab: identification and data of the place.
+class TTarvoESocialCamposInfoEstab : public TTarvoESocialCamposGrupoBase {
+public:
+    TTarvoESocialCamposInfoEstab(std::int64_t AIDEstab, std::int64_t AIDDepto, TDateTime AData);
+
+    TTarvoESocialCamposIdeEstab IdeEstab;
+    TTarvoESocialCamposDadosEstab DadosEstab;
+
+    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
+
+protected:
+    const TPropriedades& Propriedades() const override;
+};
+
+} // namespace tarvo::tabelas

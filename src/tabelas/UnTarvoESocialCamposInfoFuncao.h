@@ -1,0 +1,22 @@
+#pragma once
+
+#include "tabelas/UnTarvoESocialCampoIdeFuncao.h"
+#include "tabelas/UnTarvoESocialCamposDadosFuncao.h"
+
+namespace tarvo::tabelas {
+
+/// S-1040 infoFuncao: identification and data of the function.
+class TTarvoESocialCamposInfoFuncao : public TTarvoESocialCamposGrupoBase {
+public:
+    explicit TTarvoESocialCamposInfoFuncao(std::int64_t AIDCargosDescr);
+
+    TTarvoESocialCamposIdeFuncao IdeFuncao;
+    TTarvoESocialCamposDadosFuncao dadosFuncao;
+
+    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
+
+protected:
+    const TPropriedades& Propriedades() const override;
+};
+
+} // namespace tarvo::tabelas

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "tabelas/UnTarvoESocialCamposDadosLotacao.h"
+#include "tabelas/UnTarvoESocialCamposIdeLotacao.h"
+
+namespace tarvo::tabelas {
+
+/// S-1020 infoLotacao: identification and data of the lotação.
+class TTarvoESocialCamposInfoLotacao : public TTarvoESocialCamposGrupoBase {
+public:
+    TTarvoESocialCamposInfoLotacao(std::int64_t AIDEstab, std::int64_t AIDDepto, TDateTime AData);
+
+    TTarvoESocialCamposIdeLotacao IdeLotacao;
+    TTarvoESocialCamposDadosLotacao DadosLotacao;
+
+    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
+
+protected:
+    const TPropriedades& Propriedades() const override;
+};
+
+} // namespace tarvo::tabelas

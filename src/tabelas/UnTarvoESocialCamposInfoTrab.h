@@ -1,0 +1,29 @@
+#pragma once
+
+#include "tabelas/UnTarvoESocialCamposInfoApr.h"
+#include "tabelas/UnTarvoESocialCamposInfoPCD.h"
+#include "tabelas/UnTarvoESocialCamposSqlLugar.h"
+
+namespace tarvo::tabelas {
+
+/// S-1005 infoTrab: the time record. Source: SC00_FILIALCFG or SC00_DEPARTAMENTOCFG 90/7/1.
+class TTarvoESocialCamposInfoTrab : public TTarvoESocialCamposGrupoBase {
+public:
+    TTarvoESocialCamposInfoTrab(std::int64_t AIDEstab, std::int64_t AIDDepto, TDateTime AData);
+
+    TTarvoESocialCamposInfoApr InfoApr;
+    TTarvoESocialCamposInfoPCD InfoPCD;
+    std::string RegPt;
+
+    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
+
+protected:
+    const TPropriedades& Propriedades() const override;
+    std::string BuscarSQLDados() override;
+
+private:
+    TLugar FLugar;
+    TDateTime FData;
+};
+
+} // namespace tarvo::tabelas

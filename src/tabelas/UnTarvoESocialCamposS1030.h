@@ -1,0 +1,22 @@
+#pragma once
+
+#include "tabelas/UnTarvoESocialCamposInfoCargo.h"
+
+namespace tarvo::tabelas {
+
+/// Event S-1030: a position. The corrected values turn back into one statement, three of a public position.
+class TTarvoESocialCamposS1030 : public TTarvoESocialCamposGrupoBase {
+public:
+    /// AIDCargosDescr: FP_CARGOSDESCR.IDCARGOSDESCR.
+    explicit TTarvoESocialCamposS1030(std::int64_t AIDCargosDescr);
+
+    TTarvoESocialCamposInfoCargo InfoCargo;
+
+    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
+    void ReverterDados() override;
+
+protected:
+    const TPropriedades& Propriedades() const override;
+};
+
+} // namespace tarvo::tabelas

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "tabelas/UnTarvoESocialCamposInfoFuncao.h"
+
+namespace tarvo::tabelas {
+
+/// Event S-1040: a function, from the register of positions.
+class TTarvoESocialCamposS1040 : public TTarvoESocialCamposGrupoBase {
+public:
+    /// AIDCargosDescr: FP_CARGOSDESCR.IDCARGOSDESCR.
+    explicit TTarvoESocialCamposS1040(std::int64_t AIDCargosDescr);
+
+    TTarvoESocialCamposInfoFuncao InfoFuncao;
+
+    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
+
+protected:
+    const TPropriedades& Propriedades() const override;
+};
+
+} // namespace tarvo::tabelas

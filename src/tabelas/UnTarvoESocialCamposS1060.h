@@ -1,0 +1,25 @@
+#pragma once
+
+#include "tabelas/UnTarvoESocialCamposDadosAmbiente.h"
+#include "tabelas/UnTarvoESocialCamposFatorRisco.h"
+#include "tabelas/UnTarvoESocialCamposIdeAmbiente.h"
+
+namespace tarvo::tabelas {
+
+/// Event S-1060: a work environment.
+class TTarvoESocialCamposS1060 : public TTarvoESocialCamposGrupoBase {
+public:
+    /// AIdAmbiente: SST_AMBIENTES.IDAMBIENTE.
+    explicit TTarvoESocialCamposS1060(std::int64_t AIdAmbiente);
+
+    TTarvoESocialCamposIdeAmbiente IdeAmbiente;
+    TTarvoESocialCamposDadosAmbiente DadosAmbiente;
+    TTarvoESocialCamposFatorRisco FatorRisco;
+
+    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
+
+protected:
+    const TPropriedades& Propriedades() const override;
+};
+
+} // namespace tarvo::tabelas

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "tabelas/UnTarvoESocialCamposDadosProc.h"
+#include "tabelas/UnTarvoESocialCamposIdeProcesso.h"
+
+namespace tarvo::tabelas {
+
+/// Event S-1070: an administrative or judicial process and its suspensions.
+class TTarvoESocialCamposS1070 : public TTarvoESocialCamposGrupoBase {
+public:
+    /// AIdProcesso: ES02_SPPROC.IDSPPROC.
+    explicit TTarvoESocialCamposS1070(std::int64_t AIdProcesso);
+
+    TTarvoESocialCamposIdeProcesso IdeProcesso;
+    TTarvoESocialCamposDadosProc DadosProc;
+
+    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
+
+protected:
+    const TPropriedades& Propriedades() const override;
+};
+
+} // namespace tarvo::tabelas

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "trabalhador/UnTarvoESocialCamposInfoCeletista.h"
+#include "trabalhador/UnTarvoESocialCamposInfoEstatutario.h"
+
+namespace tarvo::trabalhador {
+
+/// Labour regime of a bond, in both forms. Both are always loaded, whatever the worker's regime; who reads the tree
+/// chooses.
+class TTarvoESocialCamposInfoRegimeTrab : public TTarvoESocialCamposGrupoBase {
+public:
+    TTarvoESocialCamposInfoRegimeTrab(std::int64_t AIDEmpregado, TDate ADataGeracao);
+
+    TTarvoESocialCamposInfoCeletista InfoCeletista;
+    TTarvoESocialCamposInfoEstatutario InfoEstatutario;
+
+    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
+
+protected:
+    const TPropriedades& Propriedades() const override;
+};
+
+} // namespace tarvo::trabalhador

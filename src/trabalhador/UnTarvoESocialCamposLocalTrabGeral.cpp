@@ -1,0 +1,63 @@
+#include "trabalhador/UnTarvoESocialCamposLocalTrabGeral.h"
+
+#include "imports/UnOvraFormat.h"
+#include "imports/UnTarvoUtilsDb.h"
+#include "tabelas/UnTarvoESocialCamposTipoInscricao1005.h"
+
+namespace tarvo::trabalhador {
+
+TTarvoESocialCamposLocalTrabGeral::TTarvoESocialCamposLocalTrabGeral(std::int64_t AIDEmpregado, TDate ADataBase)
+    : TTarvoESocialCamposGrupoBase("{F278C184-6981-4659-8929-ACC12ED4B03D}"), FIDEmpregado(AIDEmpregado),
+      FDataBase(ADataBase)
+{
+}
+
+const TPropriedades& TTarvoESocialCamposLocalTrabGeral::Propriedades() const
+{
+    using Eu = TTarvoESocialCamposLocalTrabGeral;
+    static const TPropriedades tabela{
+        {"TipoInscricao", &Eu::TipoInscricao},
+        {"NumeroInscricao", &Eu::NumeroInscricao},
+        {"DescricaoComplementar", &Eu::DescricaoComplementar},
+        {"IdFilial", &Eu::IdFilial, TFieldRelacionado("IDFILIAL")},
+        {"IdDepto", &Eu::IdDepto, TFieldRelacionado("IDDEPTO")},
+        {"Contrato", &Eu::Contrato, TFieldRelacionado("CONTRATO")},
+    };
+    return tabela;
+}
+
+std::string TTarvoESocialCamposLocalTrabGeral::BuscarSQLDados()
+{
+    static constexpr std::string_view SQL = R"(SELECT
+  SC00_FILIAL.IDFILIAL,
+  SC00_DEPTO.IDDEPTO,
+  EMPREGADOS.CONTRATO
+FROM SP_BUSCARALOCACAOEMPREGADO(%1:s, NULL, %0:d) AS ALOC
+JOIN SC00_FILIAL ON (SC00_FILIAL.IDFILIAL = ALOC.IDFILIAL)
+LEFT JOIN SC00_DEPTO ON (SC00_DEPTO.IDDEPTO = ALOC.IDDEPTO AND SC00_DEPTO.TIPODEPTO IN (2, 3))
+JOIN EMPREGADOS ON (EMPREGADOS.IDEMPREGADO = ALOC.IDEMPREGADO)
+UNION
+SELECT
+  SC00_FILIAL.IDFILIAL,
+  SC00_DEPTO.IDDEPTO,
+  EMPREGADOS.CONTRATO
+FROM MOV_TRANSF
+JOIN SC00_FILIAL ON (SC00_FILIAL.IDFILIAL = MOV_TRANSF.IDFILIAL)
+LEFT JOIN SC00_DEPTO ON (SC00_DEPTO.IDFILIAL = SC00_FILIAL.IDFILIAL AND SC00_DEPTO.DEPTO=MOV_TRANSF.COD_DEPTO
+  AND SC00_DEPTO.TIPODEPTO IN (2, 3))
+JOIN EMPREGADOS ON (EMPREGADOS.IDEMPREGADO = MOV_TRANSF.IDEMPREGADO)
+WHERE MOV_TRANSF.IDEMPREGADO = %0:d
+  AND MOV_TRANSF.MOTIVOINICIAL = 'TRANSFERENCIA DEFINITIVA' AND MOV_TRANSF.DATAINICIOMOV > %1:s)";
+    return Format(SQL, FIDEmpregado, FormatarDataDB(FDataBase, true));
+}
+
+void TTarvoESocialCamposLocalTrabGeral::CarregarDados(const TListaCamposModificados* AListaCamposModificados)
+{
+    TTarvoESocialCamposGrupoBase::CarregarDados(AListaCamposModificados);
+    // Always, also for a group that the list leaves out.
+    const tabelas::TTarvoESocialCamposTipoInscricao1005 LInscricao(IdFilial, IdDepto);
+    TipoInscricao = LInscricao.TipoInscricao;
+    NumeroInscricao = LInscricao.Inscricao;
+}
+
+} // namespace tarvo::trabalhador

@@ -1,0 +1,21 @@
+#include "trabalhador/UnTarvoESocialCamposRic.h"
+
+namespace tarvo::trabalhador {
+
+TTarvoESocialCamposRic::TTarvoESocialCamposRic()
+    : TTarvoESocialCamposGrupoBase("{9B7B77E5-251A-4A0D-9AD3-4D5721A1B331}")
+{
+}
+
+const TPropriedades& TTarvoESocialCamposRic::Propriedades() const
+{
+    using Eu = TTarvoESocialCamposRic;
+    static const TPropriedades tabela{
+        {"Numero", &Eu::Numero},
+        {"OrgaoEmissor", &Eu::OrgaoEmissor},
+        {"DataExpedicao", &Eu::DataExpedicao},
+    };
+    return tabela;
+}
+
+} // namespace tarvo::trabalhador

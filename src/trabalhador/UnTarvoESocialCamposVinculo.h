@@ -1,0 +1,43 @@
+#pragma once
+
+#include "trabalhador/UnTarvoESocialCamposAfastamento.h"
+#include "trabalhador/UnTarvoESocialCamposDesligamento.h"
+#include "trabalhador/UnTarvoESocialCamposInfoContrato.h"
+#include "trabalhador/UnTarvoESocialCamposInfoRegimeTrab.h"
+#include "trabalhador/UnTarvoESocialCamposSucessaoVinc.h"
+#include "trabalhador/UnTarvoESocialCampostransfDom.h"
+
+namespace tarvo::trabalhador {
+
+/// The bond between worker and employer at a date, with its regimes, its terms, its origin and its end. Source:
+/// EMPREGADOS and the regimes of SC00_EMPREGADOCFG 90/38/7; a worker without them has a registration and an admission
+/// all the same.
+class TTarvoESocialCamposVinculo : public TTarvoESocialCamposGrupoBase {
+public:
+    TTarvoESocialCamposVinculo(std::int64_t AIDEmpregado, TDate ADataGeracao);
+
+    std::string Matricula;
+    std::string TipoRegTrabalhista;
+    std::string TipoRegTrabCodigo;
+    std::string TipoRegPrevidenciario;
+    std::string TipoRegPrevCodigo;
+    TDateTime DataDeAdmissao;
+    TTarvoESocialCamposInfoRegimeTrab InfoRegimeTrab;
+    TTarvoESocialCamposInfoContrato InfoContrato;
+    TTarvoESocialCamposSucessaoVinc SucessaoVinc;
+    TTarvoESocialCamposAfastamento Afastamento;
+    TTarvoESocialCamposDesligamento Desligamento;
+    TTarvoESocialCampostransfDom transfDom;
+
+    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
+
+protected:
+    const TPropriedades& Propriedades() const override;
+    std::string BuscarSQLDados() override;
+
+private:
+    std::int64_t FIDEmpregado;
+    TDate FDataGeracao;
+};
+
+} // namespace tarvo::trabalhador

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "trabalhador/UnTarvoESocialCamposEntidadeEstagio.h"
+
+namespace tarvo::trabalhador {
+
+/// Agent of integration of an internship.
+class TTarvoESocialCamposageIntegracao : public TTarvoESocialCamposEntidadeEstagio {
+public:
+    explicit TTarvoESocialCamposageIntegracao(std::int64_t AIDEmpregado);
+
+    std::string cnpjAgntInteg;
+
+protected:
+    const TPropriedades& Propriedades() const override;
+};
+
+} // namespace tarvo::trabalhador

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "trabalhador/UnTarvoESocialCamposEntidadeEstagio.h"
+
+namespace tarvo::trabalhador {
+
+/// Teaching institution of an internship.
+class TTarvoESocialCamposinstEnsino : public TTarvoESocialCamposEntidadeEstagio {
+public:
+    explicit TTarvoESocialCamposinstEnsino(std::int64_t AIDEmpregado);
+
+    std::string cnpjInstEnsino;
+
+protected:
+    const TPropriedades& Propriedades() const override;
+};
+
+} // namespace tarvo::trabalhador

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "trabalhador/s2190/UnTarvoESocialCamposinfoRegPrelim.h"
+
+namespace tarvo::trabalhador {
+
+/// Event S-2190: preliminary record of an admission.
+class TTarvoESocialCamposS2190 : public TTarvoESocialCamposGrupoBase {
+public:
+    /// AIdEmpregado: EMPREGADOS.IDEMPREGADO.
+    explicit TTarvoESocialCamposS2190(std::int64_t AIdEmpregado);
+
+    TTarvoESocialCamposinfoRegPrelim infoRegPrelim;
+
+    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
+
+protected:
+    const TPropriedades& Propriedades() const override;
+};
+
+} // namespace tarvo::trabalhador

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "trabalhador/UnTarvoESocialCamposTrabalhador.h"
+#include "trabalhador/UnTarvoESocialCamposVinculo.h"
+
+namespace tarvo::trabalhador {
+
+/// Event S-2200: admission of a worker.
+class TTarvoESocialCamposS2200 : public TTarvoESocialCamposGrupoBase {
+public:
+    /// AIDEmpresa is not used; AIDEmpregado: EMPREGADOS.IDEMPREGADO; ADataGeracao: the date at which configuration and
+    /// positions are read.
+    TTarvoESocialCamposS2200(std::int64_t AIDEmpresa, std::int64_t AIDEmpregado, TDate ADataGeracao);
+
+    TTarvoESocialCamposTrabalhador Trabalhador;
+    TTarvoESocialCamposVinculo Vinculo;
+
+    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
+
+protected:
+    const TPropriedades& Propriedades() const override;
+};
+
+} // namespace tarvo::trabalhador

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "trabalhador/UnTarvoESocialCamposTrabalhador.h"
+
+namespace tarvo::trabalhador {
+
+/// S-2205 alteracao: the personal data as they stand after the change.
+class TTarvoESocialCamposalteracao : public TTarvoESocialCamposGrupoBase {
+public:
+    explicit TTarvoESocialCamposalteracao(std::int64_t AIDEmpregado);
+
+    /// For the caller; no load sets it.
+    TDateTime dtAlteracao;
+    TTarvoESocialCamposTrabalhador dadosTrabalhador;
+
+    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
+
+protected:
+    const TPropriedades& Propriedades() const override;
+};
+
+} // namespace tarvo::trabalhador

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "trabalhador/UnTarvoESocialCamposideVinculo.h"
+#include "trabalhador/s2206/UnTarvoESocialCamposaltContratual.h"
+
+namespace tarvo::trabalhador {
+
+/// Event S-2206: change of a worker's contract.
+class TTarvoESocialCamposS2206 : public TTarvoESocialCamposGrupoBase {
+public:
+    /// AIDEmpregado: EMPREGADOS.IDEMPREGADO; AData: the date at which the contract is read.
+    TTarvoESocialCamposS2206(std::int64_t AIDEmpregado, TDateTime AData);
+
+    TTarvoESocialCamposideVinculo ideVinculo;
+    TTarvoESocialCamposaltContratual altContratual;
+
+    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
+
+protected:
+    const TPropriedades& Propriedades() const override;
+};
+
+} // namespace tarvo::trabalhador

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "trabalhador/UnTarvoESocialCamposEmitente.h"
+
+namespace tarvo::trabalhador {
+
+/// S-2230 infoAtestado: a medical certificate. Source: FP_SITUACAOATESTADO. Its issuer is looked up at construction.
+class TTarvoESocialCamposinfoAtestado : public TTarvoESocialCamposGrupoBase {
+public:
+    explicit TTarvoESocialCamposinfoAtestado(std::int64_t AIdSituacaoAtestado);
+
+    std::string codCID;
+    std::int32_t qtDiasAfast = 0;
+    TTarvoESocialCamposEmitente Emitente;
+
+    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
+
+protected:
+    const TPropriedades& Propriedades() const override;
+    std::string BuscarSQLDados() override;
+
+private:
+    std::int64_t FIdSituacaoAtestado;
+};
+
+} // namespace tarvo::trabalhador

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "trabalhador/UnTarvoESocialCamposideVinculo.h"
+#include "trabalhador/s2250/UnTarvoESocialCamposinfoAvPrevio.h"
+
+namespace tarvo::trabalhador {
+
+/// Event S-2250: advance notice. The worker is looked up at construction.
+class TTarvoESocialCamposS2250 : public TTarvoESocialCamposGrupoBase {
+public:
+    /// AIdAvisoPrevio: FP_AVISOPREVIO.IDAVISOPREVIO.
+    explicit TTarvoESocialCamposS2250(std::int64_t AIdAvisoPrevio);
+
+    TTarvoESocialCamposideVinculo ideVinculo;
+    TTarvoESocialCamposinfoAvPrevio infoAvPrevio;
+
+    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
+
+protected:
+    const TPropriedades& Propriedades() const override;
+};
+
+} // namespace tarvo::trabalhador

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "trabalhador/UnTarvoESocialCamposCargoFuncao.h"
+#include "trabalhador/UnTarvoESocialCamposFgts.h"
+#include "trabalhador/UnTarvoESocialCamposInfoEstagiario.h"
+#include "trabalhador/UnTarvoESocialCamposRemuneracao.h"
+#include "trabalhador/s2300/UnTarvoESocialCamposInfoDirigenteSindical.h"
+#include "trabalhador/s2300/UnTarvoESocialCamposInfoTrabCedido.h"
+
+namespace tarvo::trabalhador {
+
+/// S-2300 infoComplementares: what a kind of worker without a bond has beside the others. All of it is loaded, whatever
+/// the worker's category.
+class TTarvoESocialCamposInfoComplementaresEmpregado : public TTarvoESocialCamposGrupoBase {
+public:
+    TTarvoESocialCamposInfoComplementaresEmpregado(std::int64_t AIDEmpregado, TDate ADataGeracao);
+
+    TTarvoESocialCamposCargoFuncao CargoFuncao;
+    TTarvoESocialCamposRemuneracao Remuneracao;
+    TTarvoESocialCamposFgts FGTS;
+    TTarvoESocialCamposInfoDirigenteSindical InfoDirSind;
+    TTarvoESocialCamposInfoTrabCedido InfoTrabCedido;
+    TTarvoESocialCamposInfoEstagiario InfoEstagiario;
+
+    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
+
+protected:
+    const TPropriedades& Propriedades() const override;
+};
+
+} // namespace tarvo::trabalhador

@@ -1,0 +1,57 @@
+#include "trabalhador/s2300/UnTarvoESocialCamposInfoTrabCedido.h"
+
+#include "framework/UnTarvoESocialCamposSqlConfiguracao.h"
+#include "imports/UnOvraFormat.h"
+
+namespace tarvo::trabalhador {
+
+TTarvoESocialCamposInfoTrabCedido::TTarvoESocialCamposInfoTrabCedido(std::int64_t AIDEmpregado)
+    : TTarvoESocialCamposGrupoBase("{79BD2DB1-3436-4D42-9CFD-D2F6409078C9}"), FIDEmpregado(AIDEmpregado)
+{}
+
+const TPropriedades& TTarvoESocialCamposInfoTrabCedido::Propriedades() const
+{
+    using Eu = TTarvoESocialCamposInfoTrabCedido;
+    static const TPropriedades tabela{
+        {"categOrig", &Eu::categOrig},
+        {"cnpjCednt", &Eu::cnpjCednt, TFieldRelacionado("CNPJCEDNT")},
+        {"matricCed", &Eu::matricCed, TFieldRelacionado("MATRICCED")},
+        {"dtAdmCed", &Eu::dtAdmCed, TFieldRelacionado("DTADMCED")},
+        {"tpRegTrab", &Eu::tpRegTrab, TFieldRelacionado("TPREGTRAB")},
+        {"tpRegPrev", &Eu::tpRegPrev, TFieldRelacionado("TPREGPREV")},
+        {"infOnus", &Eu::infOnus, TFieldRelacionado("INFONUS")},
+    };
+    return tabela;
+}
+
+std::string TTarvoESocialCamposInfoTrabCedido::BuscarSQLDados()
+{
+    static constexpr std::string_view SQL = R"(WITH EMPREGADOSDET AS (
+  SELECT
+    FP_EMPREGADOSDET.INFORMACAO1 CNPJCEDNT,
+    FP_EMPREGADOSDET.INFORMACAO2 MATRICCED,
+    FP_EMPREGADOSDET.INFORMACAO3 DTADMCED,
+    FP_EMPREGADOSDET.INFORMACAO4 INFONUS
+  FROM FP_EMPREGADOSDET
+  JOIN EMPREGADOS ON (EMPREGADOS.IDEMPREGADO = FP_EMPREGADOSDET.IDEMPREGADO)
+  WHERE FP_EMPREGADOSDET.ESPECIE = 1 AND FP_EMPREGADOSDET.TP = 2 AND FP_EMPREGADOSDET.IDEMPREGADO = %0:d
+    AND EMPREGADOS.TIPOADMISSAO = 4),
+EMPREGADOSCFG AS (
+  SELECT
+    SC00_EMPREGADOCFG.INFORMACAO2 TPREGTRAB,
+    SC00_EMPREGADOCFG.INFORMACAO3 TPREGPREV
+  FROM SC00_EMPREGADOCFG
+  WHERE %1:s)
+SELECT
+  EMPREGADOSDET.CNPJCEDNT,
+  EMPREGADOSDET.MATRICCED,
+  EMPREGADOSDET.DTADMCED,
+  EMPREGADOSCFG.TPREGTRAB,
+  EMPREGADOSCFG.TPREGPREV,
+  EMPREGADOSDET.INFONUS
+FROM EMPREGADOSDET
+JOIN EMPREGADOSCFG ON (1=1))";
+    return Format(SQL, FIDEmpregado, CondicaoDaChave(SC00_EMPREGADOCFG, FIDEmpregado, {90, 38, 7}));
+}
+
+} // namespace tarvo::trabalhador

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "trabalhador/UnTarvoESocialCamposCargoFuncao.h"
+#include "trabalhador/UnTarvoESocialCamposInfoEstagiario.h"
+#include "trabalhador/UnTarvoESocialCamposRemuneracao.h"
+
+namespace tarvo::trabalhador {
+
+/// S-2306 infoComplementares: position, salary and internship after the change, whatever the worker's category.
+class TTarvoESocialCamposinfoComplementares2306 : public TTarvoESocialCamposGrupoBase {
+public:
+    TTarvoESocialCamposinfoComplementares2306(std::int64_t AIdEmpregado, TDateTime AData);
+
+    TTarvoESocialCamposCargoFuncao cargoFuncao;
+    TTarvoESocialCamposRemuneracao remuneracao;
+    TTarvoESocialCamposInfoEstagiario infoEstagiario;
+
+    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
+
+protected:
+    const TPropriedades& Propriedades() const override;
+};
+
+} // namespace tarvo::trabalhador

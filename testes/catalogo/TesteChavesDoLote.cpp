@@ -1,0 +1,103 @@
+#include "apoio/UnBancoDeTeste.h"
+#include "catalogo/UnTarvoESocialCamposCatalogo.h"
+#include "framework/UnTarvoESocialCamposGrupoBase.h"
+
+namespace tarvo::testes {
+namespace {
+
+class TTesteChavesDoLote : public TTesteComBanco {
+protected:
+    void SetUp() override
+    {
+        TTesteComBanco::SetUp();
+        for (const int LEmpresa : {1, 2})
+            Inserir("SC00_FILIAL", {{"IDFILIAL", LEmpresa * 10}, {"IDEMPRESA", LEmpresa}});
+    }
+
+    static std::string Chaves(int AIdEmpresa)
+    {
+        std::string LTexto;
+        for (const auto& LChave : BuscarChavesDoLote("s-1200", {{"idempresa", std::to_string(AIdEmpresa)},
+                                                                {"DataInicio", "2021-03-01"},
+                                                                {"DataFim", "2021-03-31"}})) {
+            LTexto += (LTexto.empty() ? "" : " ") + LChave.Json;
+            EXPECT_EQ(LChave.Json, "\"" + LChave.Argumentos.at("Cpf") + "\"");
+            EXPECT_EQ(4u, LChave.Argumentos.size());
+            EXPECT_NO_THROW(ConstruirEvento("S-1200", LChave.Argumentos));
+        }
+        return LTexto;
+    }
+    static void Empregado(TValorSql ACpf, int AIdEmpresa = 1)
+    {
+        Inserir("EMPREGADOS", {{"IDEMPRESA", AIdEmpresa}, {"CPF", ACpf}});
+    }
+    static void Recibo(int AIdPrestador, TValorSql ACpf, TDateTime APagto, int AIdEmpresa = 1)
+    {
+        Inserir("PREST_SERVICO", {{"IDPRESTSERVICO", AIdPrestador}, {"CPF", ACpf}});
+        Inserir("RPA", {{"IDPRESTSERVICO", AIdPrestador}, {"IDFILIAL", AIdEmpresa * 10}, {"DATAPAGTO", APagto}});
+    }
+};
+
+TEST_F(TTesteChavesDoLote, EmpregadosAntesDosPrestadoresCadaCpfUmaVez)
+{
+    EXPECT_EQ("", Chaves(1));
+    Empregado("333.333.333-33");
+    Empregado("111.111.111-11");
+    Empregado("111.111.111-11");
+    Empregado("444.444.444-44", 2);
+    Empregado(nullptr);
+    Empregado("");
+    EXPECT_EQ(R"("111.111.111-11" "333.333.333-33")", Chaves(1));
+    // An employee with a receipt is one person, however the CPF is written; so are two records of a provider.
+    Recibo(1, "33333333333", D(2021, 3, 1));
+    Recibo(2, "00011122233", D(2021, 3, 31));
+    Recibo(3, "000.111.222-33", D(2021, 3, 15));
+    Recibo(4, nullptr, D(2021, 3, 15));
+    Recibo(5, "55555555555", D(2021, 2, 28));
+    Recibo(6, "66666666666", D(2021, 4, 1));
+    Recibo(7, "77777777777", D(2021, 3, 15), 2);
+    EXPECT_EQ(R"("111.111.111-11" "333.333.333-33" "000.111.222-33")", Chaves(1));
+    EXPECT_EQ(R"("444.444.444-44" "77777777777")", Chaves(2));
+}
+
+TEST_F(TTesteChavesDoLote, PagamentosVaoPelosMesmosCpfsComOsSeusArgumentos)
+{
+    Empregado("333.333.333-33");
+    Recibo(1, "00011122233", D(2021, 3, 31));
+    const auto LChaves = BuscarChavesDoLote("S-1210", {{"IdEmpresa", "1"},
+                                                       {"DataInicio", "2021-03-01"},
+                                                       {"DataFim", "2021-03-31"},
+                                                       {"DataInicioVigencia", "2018-07-01"},
+                                                       {"TipoTrabalhador", "1"}});
+    ASSERT_EQ(2u, LChaves.size());
+    EXPECT_EQ(R"("333.333.333-33")", LChaves[0].Json);
+    EXPECT_EQ(R"("00011122233")", LChaves[1].Json);
+    EXPECT_EQ("2018-07-01", LChaves[1].Argumentos.at("DataInicioVigencia"));
+    EXPECT_NO_THROW(ConstruirEvento("S-1210", LChaves[1].Argumentos));
+    EXPECT_THROW(
+        BuscarChavesDoLote(
+            "S-1210",
+            {{"IdEmpresa", "1"}, {"DataInicio", "2021-03-01"}, {"DataFim", "2021-03-31"}, {"TipoTrabalhador", "2"}}),
+        EArgumentoInvalido);
+}
+
+TEST_F(TTesteChavesDoLote, ArgumentoErradoOuEventoSemLote)
+{
+    EXPECT_THROW(BuscarChavesDoLote("S-1000", {}), EArgumentoInvalido);
+    EXPECT_THROW(BuscarChavesDoLote("S-9999", {}), EArgumentoInvalido);
+    EXPECT_THROW(BuscarChavesDoLote("S-1200", {{"IdEmpresa", "1"}, {"DataInicio", "2021-03-01"}}), EArgumentoInvalido);
+    EXPECT_THROW(
+        BuscarChavesDoLote("S-1200",
+                           {{"IdEmpresa", "1"}, {"DataInicio", "2021-03-01"}, {"DataFim", "2021-03-31"}, {"Cpf", "1"}}),
+        EArgumentoInvalido)
+        << "the batch fills the CPF";
+    for (const char* LIndicador : {"2", "-1", "x"})
+        EXPECT_THROW(BuscarChavesDoLote("S-1200", {{"IdEmpresa", "1"},
+                                                   {"DataInicio", "2021-03-01"},
+                                                   {"DataFim", "2021-03-31"},
+                                                   {"IndApuracao", LIndicador}}),
+                     EArgumentoInvalido);
+}
+
+} // namespace
+} // namespace tarvo::testes

@@ -1,0 +1,314 @@
+#include <rapidjson/document.h>
+#include <sys/wait.h>
+
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "apoio/UnBancoDeTeste.h"
+#include "imports/UnOvraExcecoes.h"
+
+// The real program, run as a person would.
+
+namespace tarvo::testes {
+namespace {
+
+struct TSaida {
+    int Codigo = -1;
+    std::string Padrao;
+    std::string Erros;
+};
+
+std::string EntreAspas(const std::string& ATexto)
+{
+    std::string LTexto = "'";
+    for (const char LChar : ATexto)
+        LTexto += LChar == '\'' ? std::string("'\\''") : std::string(1, LChar);
+    return LTexto + "'";
+}
+
+std::string LerArquivo(const std::string& ANome)
+{
+    std::ifstream LArquivo(ANome);
+    std::stringstream LTexto;
+    LTexto << LArquivo.rdbuf();
+    return LTexto.str();
+}
+
+TSaida Rodar(const std::vector<std::string>& AArgumentos)
+{
+    static const std::string LErros = std::tmpnam(nullptr);
+    std::string LLinha = EntreAspas(PROGRAMA);
+    for (const auto& LArgumento : AArgumentos)
+        LLinha += " " + EntreAspas(LArgumento);
+    TSaida LSaida;
+    FILE* LProcesso = popen((LLinha + " 2>" + LErros + " </dev/null").c_str(), "r");
+    if (LProcesso == nullptr)
+        throw std::runtime_error("popen");
+    char LBuffer[4096];
+    for (std::size_t LLidos; (LLidos = fread(LBuffer, 1, sizeof LBuffer, LProcesso)) > 0;)
+        LSaida.Padrao.append(LBuffer, LLidos);
+    const int LEstado = pclose(LProcesso);
+    LSaida.Codigo = WIFEXITED(LEstado) ? WEXITSTATUS(LEstado) : -1;
+    LSaida.Erros = LerArquivo(LErros);
+    std::filesystem::remove(LErros);
+    return LSaida;
+}
+
+/// The sample company's database of these tests, made by the program itself.
+const std::string& Banco()
+{
+    static const std::string LBanco = [] {
+        const auto LLigacao = ParametrosDoBanco("programa.fdb").BancoDeDados;
+        const auto LSaida = Rodar({"criar-banco", "--banco", LLigacao, "--exemplo"});
+        EXPECT_EQ(0, LSaida.Codigo) << LSaida.Erros;
+        EXPECT_EQ("", LSaida.Padrao);
+        return LLigacao;
+    }();
+    return LBanco;
+}
+
+std::vector<std::string> S1000(std::vector<std::string> AMais = {}, const char* AComando = "carregar")
+{
+    std::vector<std::string> LArgumentos{AComando,       "S-1000", "--banco", Banco(),
+                                         "--AIDEmpresa", "1",      "--AData", "2021-03-01"};
+    LArgumentos.insert(LArgumentos.end(), AMais.begin(), AMais.end());
+    return LArgumentos;
+}
+
+TEST(TTestePrograma, UsoErradoDizOQueEstaErradoESaiComDois)
+{
+    const auto& B = Banco();
+    const std::pair<std::vector<std::string>, const char*> LCasos[] = {
+        {{}, "Falta informar o comando"},
+        {{"nada"}, "Comando desconhecido: 'nada'"},
+        {{"carregar"}, "Falta informar o evento"},
+        {{"carregar", "S-9999", "--banco", B}, "desconhecido: 'S-9999'"},
+        {{"carregar", "S-1000", "S-2200", "--banco", B}, "um só evento"},
+        {{"carregar", "S-1000", "--AIDEmpresa", "1", "--AData", "2021-03-01"}, "Falta informar --banco"},
+        {{"carregar", "S-1000", "--banco", B}, "Falta informar --AIDEmpresa, --AData"},
+        {{"carregar", "S-1000", "--banco", B, "--AIDEmpresa"}, "--AIDEmpresa precisa de exatamente um valor"},
+        {{"carregar", "S-1000", "--banco", B, "--AIDEmpresa", "1x", "--AData", "2021-03-01"},
+         "'1x' não é um número inteiro"},
+        {{"carregar", "S-1000", "--banco", B, "--AIDEmpresa", "99999999999999999999", "--AData", "2021-03-01"},
+         "não é um número"},
+        {S1000({"--AIDEmpresa", "2"}), "--AIDEmpresa precisa de exatamente um valor"},
+        {{"carregar", "S-1000", "--banco", B, "--AIDEmpresa", "1", "--AData", "01/03/2021"},
+         "não é uma data AAAA-MM-DD"},
+        {{"carregar", "S-1000", "--banco", B, "--AIDEmpresa", "1", "--AData", "2021-02-30"},
+         "não é uma data AAAA-MM-DD"},
+        {S1000({"--xis", "1"}), "Argumento desconhecido: '--xis'"},
+        {S1000({"sobra"}), "desconhecido: 'sobra'"},
+        {S1000({"--sem-grupo", "InfoEmpregador.nada"}), "não existe 'nada'"},
+        {S1000({"--sem-grupo", "InfoEmpregador.infoCadastro.NmRazao"}), "não é um grupo"},
+        {S1000({"--ambiente", "3"}), "--ambiente é 1"},
+        {S1000({"--rastrear", "/nao/existe/rastro"}), "Não foi possível criar o arquivo de rastro"},
+        {S1000({"--executar"}), "Argumento desconhecido: '--executar'"},
+        {S1000({"--definir", "InfoEmpregador"}, "reverter"), "CAMINHO=VALOR"},
+        {S1000({"--definir", "Nada.x=1"}, "reverter"), "não existe 'Nada'"},
+        {S1000({"--definir", "InfoEmpregador.infoCadastro.DadosIsencao.DtDou=31/02/2021"}, "reverter"),
+         "não é uma data"},
+        {{"reverter", "S-2200", "--banco", B}, "desconhecido: 'S-2200'"},
+        {{"eventos", "S-0"}, "Evento desconhecido"},
+        {{"criar-banco"}, "Falta informar --banco"},
+    };
+    for (const auto& [LArgumentos, LTexto] : LCasos) {
+        const auto LSaida = Rodar(LArgumentos);
+        EXPECT_EQ(2, LSaida.Codigo) << LTexto;
+        EXPECT_EQ("", LSaida.Padrao) << LTexto;
+        EXPECT_NE(std::string::npos, LSaida.Erros.find(LTexto)) << LTexto << "\n" << LSaida.Erros;
+        EXPECT_NE(std::string::npos, LSaida.Erros.find("Uso: esocial-campos")) << LSaida.Erros;
+    }
+}
+
+TEST(TTestePrograma, FalhaDaCargaSaiComUmENadaNaSaidaPadrao)
+{
+    const auto LFalta = ParametrosDoBanco("nao-existe.fdb").BancoDeDados;
+    for (const auto& LArgumentos : {std::vector<std::string>{"carregar", "S-1000", "--banco", LFalta, "--AIDEmpresa",
+                                                             "1", "--AData", "2021-03-01"},
+                                    S1000({"--brenco", LFalta}),
+                                    {"criar-banco", "--banco", Banco()}}) {
+        const auto LSaida = Rodar(LArgumentos);
+        EXPECT_EQ(1, LSaida.Codigo);
+        EXPECT_EQ("", LSaida.Padrao);
+        EXPECT_NE("", LSaida.Erros);
+    }
+    EXPECT_EQ(0, Rodar(S1000()).Codigo); // the refused criar-banco left the database as it was
+}
+
+TEST(TTestePrograma, CarregaEMostraOJson)
+{
+    const auto LSaida = Rodar(S1000());
+    ASSERT_EQ(0, LSaida.Codigo) << LSaida.Erros;
+    EXPECT_EQ("", LSaida.Erros);
+    EXPECT_EQ(LerArquivo(std::string(PASTA_DOS_GOLDENS) + "/S-1000/empresa1.json"), LSaida.Padrao);
+
+    // Options match without regard to case, before the event or after it.
+    const auto LCompacto =
+        Rodar({"carregar", "--COMPACTO", "--Banco", Banco(), "s-1000", "--aidempresa", "1", "--ADATA", "2021-03-01"});
+    ASSERT_EQ(0, LCompacto.Codigo) << LCompacto.Erros;
+    EXPECT_EQ(1, std::count(LCompacto.Padrao.begin(), LCompacto.Padrao.end(), '\n'));
+    rapidjson::Document LUm;
+    rapidjson::Document LOutro;
+    EXPECT_TRUE(LUm.Parse(LSaida.Padrao.c_str()) == LOutro.Parse(LCompacto.Padrao.c_str()));
+}
+
+TEST(TTestePrograma, GruposEscolhidosERastro)
+{
+    const auto Nome = [](const std::vector<std::string>& AMais) {
+        const auto LSaida = Rodar(S1000(AMais));
+        EXPECT_EQ(0, LSaida.Codigo) << LSaida.Erros;
+        rapidjson::Document LJson;
+        LJson.Parse(LSaida.Padrao.c_str());
+        return std::string(LJson["InfoEmpregador"]["infoCadastro"]["NmRazao"].GetString()) + "|" +
+               LJson["IdeEmpregador"]["Inscricao"].GetString();
+    };
+    const std::string LEmpresa = "Agroindústria Ipê Amarelo Ltda.";
+    EXPECT_EQ(LEmpresa + "|45987321000160", Nome({"--grupos", ""}));
+    EXPECT_EQ("|", Nome({"--grupos", "{00000000-0000-0000-0000-000000000000}"}));
+    EXPECT_EQ(LEmpresa + "|", Nome({"--grupos", "{B4A45915-8AFD-4584-A8F7-489D7ED7A40B},{X}"}));
+    EXPECT_EQ("|45987321000160",
+              Nome({"--sem-grupo", "infoempregador.infocadastro", "--sem-grupo", "InfoEmpregador.idePeriodo"}));
+
+    const auto LSaida = Rodar(S1000({"--rastrear", "-"}));
+    std::istringstream LLinhas(LSaida.Erros);
+    std::vector<std::string> LComandos;
+    for (std::string LLinha; std::getline(LLinhas, LLinha);) {
+        rapidjson::Document LJson;
+        ASSERT_FALSE(LJson.Parse(LLinha.c_str()).HasParseError()) << LLinha;
+        EXPECT_TRUE(LJson["linhas"].IsInt64() && LJson["us"].IsInt64());
+        LComandos.emplace_back(LJson["sql"].GetString());
+    }
+    ASSERT_EQ(8U, LComandos.size());
+    EXPECT_EQ("SELECT SC00_EMPRESA.TPINSCRICAO, SC00_EMPRESA.CNPJ\nFROM SC00_EMPRESA\nWHERE SC00_EMPRESA.IDEMPRESA = 1",
+              LComandos.front());
+}
+
+TEST(TTestePrograma, ReverteEmTudoOuNada)
+{
+    const std::vector<std::string> LNome{"--definir", "InfoEmpregador.infoCadastro.NmRazao=Ipê = Roxo"};
+    const auto LSaida = Rodar(S1000(LNome, "reverter"));
+    ASSERT_EQ(0, LSaida.Codigo) << LSaida.Erros;
+    EXPECT_EQ(10, std::count(LSaida.Padrao.begin(), LSaida.Padrao.end(), '\n'));
+    EXPECT_NE(std::string::npos, LSaida.Padrao.find("SET SC00_EMPRESA.NOME = 'Ipê = Roxo' WHERE"));
+
+    // Two of the ten are refused by design: the others must not stay either.
+    auto LMais = LNome;
+    LMais.emplace_back("--executar");
+    const auto LExecutado = Rodar(S1000(LMais, "reverter"));
+    EXPECT_EQ(1, LExecutado.Codigo);
+    EXPECT_EQ(LSaida.Padrao, LExecutado.Padrao);
+    EXPECT_NE(std::string::npos, LExecutado.Erros.find("2 de 10 comandos recusados")) << LExecutado.Erros;
+    EXPECT_EQ(std::string::npos, Rodar(S1000()).Padrao.find("Roxo"));
+}
+
+TEST(TTestePrograma, ReverteOCargoEGravaNoBanco)
+{
+    const auto S1030 = [](const char* AComando, const char* ACargo, std::vector<std::string> AMais) {
+        AMais.insert(AMais.begin(), {AComando, "S-1030", "--banco", Banco(), "--AIDCargosDescr", ACargo});
+        return Rodar(AMais);
+    };
+    // A position, a public one by law without a date, a public one.
+    for (const auto& [LCargo, LComandos] : {std::pair{"1", 1}, {"7201", 2}, {"8", 3}}) {
+        const auto LSaida = S1030("reverter", LCargo, {});
+        EXPECT_EQ(0, LSaida.Codigo) << LSaida.Erros;
+        EXPECT_EQ(LComandos, std::count(LSaida.Padrao.begin(), LSaida.Padrao.end(), '\n')) << LSaida.Padrao;
+    }
+    const auto LAntes = S1030("carregar", "8", {}).Padrao;
+    const std::vector<std::string> LCorrecoes{"--definir", "InfoCargo.DadosCargo.nmCargo=Analista pleno", "--definir",
+                                              "InfoCargo.DadosCargo.cargoPublico.leicargo.dtLei=1/6/2011"};
+    const std::string LEsperado =
+        "UPDATE FP_CARGOSDESCR SET FP_CARGOSDESCR.DESCRICAO = 'Analista pleno', FP_CARGOSDESCR.IDCBO2002 = 8 WHERE "
+        "FP_CARGOSDESCR.IDCARGOSDESCR = 8\n"
+        "UPDATE FP_CARGOSPUBLICO SET FP_CARGOSPUBLICO.ACUMULOCARGOS = 1, FP_CARGOSPUBLICO.CONTAGEMTEMPO = 1, "
+        "FP_CARGOSPUBLICO.DEDICACAOEXCL = 0 WHERE FP_CARGOSPUBLICO.IDCARGOSDESCR = 8\n"
+        "UPDATE FP_CARGOSPUBLICO SET FP_CARGOSPUBLICO.NUMEROLEI = 1234, FP_CARGOSPUBLICO.DATALEI = '01.06.2011', "
+        "FP_CARGOSPUBLICO.SITUACAOLEI = 1 WHERE FP_CARGOSPUBLICO.IDCARGOSDESCR = 8\n";
+    EXPECT_EQ(LEsperado, S1030("reverter", "8", LCorrecoes).Padrao);
+    EXPECT_EQ(LAntes, S1030("carregar", "8", {}).Padrao);
+
+    // A quote breaks the first of the three, and none of them stays.
+    auto LQuebradas = LCorrecoes;
+    LQuebradas[1] += " d'água";
+    LQuebradas.emplace_back("--executar");
+    const auto LRecusado = S1030("reverter", "8", LQuebradas);
+    EXPECT_EQ(1, LRecusado.Codigo);
+    EXPECT_NE(std::string::npos, LRecusado.Erros.find("1 de 3 comandos recusados")) << LRecusado.Erros;
+    EXPECT_EQ(LAntes, S1030("carregar", "8", {}).Padrao);
+
+    auto LBoas = LCorrecoes;
+    LBoas.emplace_back("--executar");
+    const auto LGravado = S1030("reverter", "8", LBoas);
+    EXPECT_EQ(0, LGravado.Codigo) << LGravado.Erros;
+    EXPECT_EQ(LEsperado, LGravado.Padrao);
+    const auto LDepois = S1030("carregar", "8", {}).Padrao;
+    EXPECT_NE(std::string::npos, LDepois.find("\"nmCargo\": \"Analista pleno\"")) << LDepois;
+    EXPECT_NE(std::string::npos, LDepois.find("\"dtLei\": \"01/06/2011\""));
+
+    const auto LFixa = S1030("reverter", "8", {"--definir", "InfoCargo.NovaValidade.IniValid=2021-01"});
+    EXPECT_EQ(2, LFixa.Codigo);
+    EXPECT_NE(std::string::npos, LFixa.Erros.find("não pode ser alterada")) << LFixa.Erros;
+}
+
+TEST(TTestePrograma, OArgumentoDoS1035AtendePelosDoisNomes)
+{
+    for (const char* LNome : {"--AIdCargoDescr", "--AIDCargosDescr"}) {
+        const auto LSaida = Rodar({"carregar", "S-1035", "--banco", Banco(), LNome, "9"});
+        EXPECT_EQ(0, LSaida.Codigo) << LSaida.Erros;
+        EXPECT_NE(std::string::npos, LSaida.Padrao.find("Assessor público em comissão"));
+    }
+}
+
+TEST(TTestePrograma, AjudaEEventosEmPortugues)
+{
+    for (const auto& LArgumentos : {std::vector<std::string>{"--ajuda"},
+                                    {"carregar", "-h"},
+                                    {"carregar", "S-1000", "--help"},
+                                    {"reverter", "--ajuda"},
+                                    {"eventos", "--ajuda"},
+                                    {"criar-banco", "--ajuda"}}) {
+        const auto LSaida = Rodar(LArgumentos);
+        EXPECT_EQ(0, LSaida.Codigo);
+        EXPECT_NE(std::string::npos, LSaida.Padrao.find("Uso: esocial-campos"));
+        for (const char* LIngles : {"Usage", "Options", "Subcommand", "Positional", "REQUIRED", "TEXT"})
+            EXPECT_EQ(std::string::npos, LSaida.Padrao.find(LIngles)) << LIngles << "\n" << LSaida.Padrao;
+    }
+    const auto LTodos = Rodar({"eventos"});
+    EXPECT_EQ(0, LTodos.Codigo);
+    EXPECT_NE(std::string::npos,
+              LTodos.Padrao.find("S-1000  Informações do empregador\n        --AIDEmpresa ID --AData AAAA-MM-DD\n"));
+    EXPECT_NE(std::string::npos, Rodar({"eventos", "s-1000"}).Padrao.find("data de referência"));
+}
+
+/// The engine itself ends the connection in the middle of a load.
+TEST(TTesteConexaoPerdida, CargaFalhaComOTextoDoMotorEOProcessoSegue)
+{
+    const auto LParametros = CriarBancoDeTeste("perdida.fdb", true);
+    TOvraConnection LOutra(LParametros);
+    {
+        TOvraConnection LConexao(LParametros);
+        DefinirOvraConnection(&LConexao);
+        const auto LId = Consultar("SELECT CURRENT_CONNECTION FROM RDB$DATABASE");
+        LConexao.DefinirObservador([&, LFeito = false](const TExecucaoSql&) mutable {
+            if (!LFeito)
+                LOutra.ExecutouSQL({"DELETE FROM MON$ATTACHMENTS WHERE MON$ATTACHMENT_ID = " + LId}, true);
+            LFeito = true;
+        });
+        Consultar("SELECT 1 FROM RDB$DATABASE");
+        EXPECT_THROW(
+            {
+                for (int i = 0; i < 1000; ++i)
+                    Consultar("SELECT COUNT(*) FROM TAB_VERBAS");
+            },
+            EDatabaseError);
+        EXPECT_THROW(Consultar("SELECT 1 FROM RDB$DATABASE"), EDatabaseError);
+    }
+    TOvraConnection LNova(LParametros);
+    DefinirOvraConnection(&LNova);
+    EXPECT_EQ("1", Consultar("SELECT 1 FROM RDB$DATABASE"));
+    DefinirOvraConnection(nullptr);
+}
+
+} // namespace
+} // namespace tarvo::testes

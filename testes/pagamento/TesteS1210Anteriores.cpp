@@ -1,0 +1,224 @@
+#include "UnPagamentoDeTeste.h"
+
+namespace tarvo::testes {
+namespace {
+
+/// Vacations (kind 7) and payments of earlier periods (kind 9).
+class TTesteFeriasEAnteriores : public TTestePagamento {
+protected:
+    static void Quitacao(int AEmpregado, int ATipo, int ADias, TDateTime APagto)
+    {
+        static int LId = 0;
+        ++LId;
+        Inserir("FERIAS_AQUISITIVO",
+                {{"IDFERIAS_AQUISITIVO", LId}, {"COD_EMPRESA", 1}, {"COD_EMPREGADO", 1000 + AEmpregado}});
+        Inserir("FERIAS_AVOS", {{"IDFERIAS_AVOS", LId}, {"IDFERIAS_AQUISITIVO", LId}});
+        Inserir("FERIAS_QUITACAO",
+                {{"IDFERIAS_AVOS", LId}, {"TIPO", ATipo}, {"DIAS_QUITADOS", ADias}, {"DATA_PAGTO", APagto}});
+    }
+    static TCalculoDeTeste Ferias(int AVerba, double AValor, int AEmpregado = 1, TDateTime AInicio = D(2021, 3, 8))
+    {
+        return {.Verba = AVerba,
+                .Valor = AValor,
+                .Empregado = AEmpregado,
+                .Tipo = "04",
+                .Inicio = AInicio,
+                .Fim = D(2021, 4, 6),
+                .Pagto = D(2021, 3, 4)};
+    }
+    /// Category, then code and value of each earlier payment of March 2021; the layout starts on 1 January 2021.
+    static std::vector<std::string> Anteriores()
+    {
+        std::vector<std::string> LTextos;
+        const auto LPagamento = Carregar(D(2021, 1, 1));
+        for (const auto& LPgto : LPagamento.Pagamentos())
+            for (const auto& LDetalhe : LPgto->detPgtoAnt)
+                for (const auto& LInfo : LDetalhe->InfoPgtoAnt)
+                    LTextos.push_back(std::to_string(LDetalhe->codCateg) + " " + LInfo->tpBcIRRF + " " +
+                                      FloatToStr(static_cast<double>(LInfo->vrBcIRRF)));
+        return LTextos;
+    }
+    using TTextos = std::vector<std::string>;
+};
+
+TEST_F(TTesteFeriasEAnteriores, FeriasPorTrabalhadorEInicioComOsDiasQuitados)
+{
+    Empregado(1);
+    Empregado(2);
+    Quitacao(1, 1, 20, D(2021, 3, 4));
+    Quitacao(1, 4, 10, D(2021, 3, 4)); // kind 4 contributes no days
+    Quitacao(1, 1, 30, D(2021, 3, 5)); // paid on another day
+    Quitacao(2, 1, 15, D(2021, 3, 4));
+    Calculo(Ferias(vLiquidoFerias, 1000.5));
+    Calculo(Ferias(vLiquidoFerias, 500, 2));
+    Calculo(Ferias(vLiquidoFerias, 70, 2, D(2021, 3, 1)));
+    const auto LPagamento = Carregar();
+    ASSERT_EQ(1U, LPagamento.Pagamentos().size());
+    EXPECT_EQ(7, LPagamento.Pagamentos()[0]->tpPgto);
+    EXPECT_TRUE(LPagamento.Pagamentos()[0]->detPgtoFl.empty());
+    TTextos LTextos;
+    for (const auto& LFerias : LPagamento.Pagamentos()[0]->detPgtoFer)
+        LTextos.push_back(LFerias->matricula + " " + DateTimeToStr(LFerias->dtIniGoz) + " " +
+                          std::to_string(LFerias->qtDias) + " " + std::to_string(LFerias->codCateg) + " " +
+                          FloatToStr(static_cast<double>(LFerias->vrLiq)));
+    // The net is that of every worker of the date who starts on the day.
+    EXPECT_EQ((TTextos{"M2 01/03/2021 15 101 70", "M1 08/03/2021 20 101 1500,5", "M2 08/03/2021 15 101 1500,5"}),
+              LTextos);
+}
+
+TEST_F(TTesteFeriasEAnteriores, RubricasDasFerias)
+{
+    Empregado(1);
+    Quitacao(1, 1, 30, D(2021, 3, 4));
+    Dependente(1, "11111111111", 1);
+    Dependente(2, "22222222222", 1);
+    Verba(70, "97A");
+    for (const auto& [LVerba, LCodigo] : {std::pair{int{vFerias}, 13},
+                                          {int{vInssFerias}, 43},
+                                          {int{vPensaoFerias}, 53},
+                                          {int{vPensao}, 51},
+                                          {int{vLiquidoFerias}, 0},
+                                          {70, 0},
+                                          {int{vSalario}, 11}})
+        IncidenciaIrrf(LVerba, LCodigo);
+    Calculo(Ferias(vFerias, 3000));
+    Calculo(Ferias(vInssFerias, 250));
+    Calculo(Ferias(vInssFeriasPago, 240));
+    Calculo(Ferias(vPensaoFerias, 301));
+    Calculo(Ferias(vPensao, 0));  // nothing was paid
+    Calculo(Ferias(vSalario, 5)); // a code that a vacation doesn't report
+    Calculo(Ferias(70, 9));       // a total, without incidences
+    Calculo(Ferias(vLiquidoFerias, 2449));
+    const auto LPagamento = Carregar();
+    TTextos LTextos;
+    for (const auto& LVerba : LPagamento.Pagamentos().at(0)->detPgtoFer.at(0)->detRubrFer)
+        LTextos.push_back(LVerba->codRubr + " " + LVerba->CaracteristicaVerba + " " + std::to_string(LVerba->IdVerba) +
+                          " " + FloatToStr(static_cast<double>(LVerba->vrRubr)) + " " +
+                          std::to_string(LVerba->penAlim.size()));
+    // The social security takes code and value of the rubric that was paid with the vacation.
+    EXPECT_EQ((TTextos{"00012P011I013F011C011 7A 112 3000 0", "00025P000I009F000C000 99E 125 240 0",
+                       "00032P000I053F000C000 5EA 132 301 2"}),
+              LTextos);
+    EXPECT_EQ(150.5L, LPagamento.Pagamentos()[0]->detPgtoFer[0]->detRubrFer[2]->penAlim[1]->vlrPensao);
+
+    // Code 51 isn't among those that a vacation lists; code 53 alone brings pensioners.
+    Executar("UPDATE CALCULO SET VALOR = 10 WHERE COD_VERBA = 31");
+    EXPECT_EQ(3U, Carregar().Pagamentos().at(0)->detPgtoFer.at(0)->detRubrFer.size());
+    Executar("UPDATE TAB_VERBAS SET FORMULA = '5E' WHERE CODIGO = 32");
+    EXPECT_EQ(0U, Carregar().Pagamentos().at(0)->detPgtoFer.at(0)->detRubrFer.at(2)->penAlim.size());
+}
+
+TEST_F(TTesteFeriasEAnteriores, SinalDoDescontoETesteDaSomaSimples)
+{
+    Empregado(1);
+    Verba(40, "5A");
+    Verba(41, "5B");
+    IncidenciaIrrf(vSalario, 11);
+    IncidenciaIrrf(40, 11);
+    IncidenciaIrrf(41, 31);
+    const auto FolhaDeDezembro = [](int AVerba, double AValor) {
+        return TCalculoDeTeste{.Verba = AVerba, .Valor = AValor, .Inicio = D(2020, 12, 1), .Fim = D(2020, 12, 31)};
+    };
+    Calculo(FolhaDeDezembro(vSalario, 100));
+    Calculo(FolhaDeDezembro(40, 250)); // a discount of code 11 is subtracted
+    Calculo(FolhaDeDezembro(41, 30));  // of another code it isn't
+    EXPECT_EQ((TTextos{"101 11 -150", "101 31 30"}), Anteriores());
+    // The signed sum is 350 now, the plain one 0 or less: the code goes.
+    Executar("UPDATE CALCULO SET VALOR = -250 WHERE COD_VERBA = 40");
+    EXPECT_EQ((TTextos{"101 31 30"}), Anteriores());
+    Executar("UPDATE CALCULO SET VALOR = -100 WHERE COD_VERBA = 40");
+    EXPECT_EQ((TTextos{"101 31 30"}), Anteriores());
+    Executar("UPDATE CALCULO SET VALOR = -99.99 WHERE COD_VERBA = 40");
+    EXPECT_EQ((TTextos{"101 11 199,99", "101 31 30"}), Anteriores());
+    // A payment of March that isn't before the layout is none.
+    Executar("UPDATE CALCULO SET DATA_INICIO = '01.01.2021'");
+    EXPECT_TRUE(Anteriores().empty());
+}
+
+TEST_F(TTesteFeriasEAnteriores, CadaRamoTomaOsSeusCodigos)
+{
+    Empregado(1);
+    const auto MAR31 = D(2021, 3, 31);
+    // One rubric of each code: 11 and 31 of every payment, 15 and 44 accumulated, 81 and 91 of suspensions.
+    int LVerba = 50;
+    for (const int LCodigo : {11, 31, 15, 44, 81, 91}) {
+        Verba(++LVerba, "1Z", "Sim");
+        IncidenciaIrrf(LVerba, LCodigo);
+    }
+    const auto Calcular = [&](const char* ATipo, int ASubtipo, TDateTime AInicio) {
+        Executar("DELETE FROM CALCULO");
+        for (int i = 51; i <= 56; ++i)
+            Calculo({.Verba = i, .Valor = i - 50.0, .Tipo = ATipo, .Subtipo = ASubtipo, .Inicio = AInicio});
+    };
+    const TTextos COMUNS{"101 11 1", "101 31 2"};
+    const TTextos ACUMULADOS{"101 15 3", "101 44 4"};
+    const auto DEZ20 = D(2020, 12, 1);
+    const auto FEV21 = D(2021, 2, 1);
+
+    for (const char* LTipo : {"01", "02", "03", "05", "06"}) {
+        Calcular(LTipo, 0, DEZ20);
+        EXPECT_EQ(COMUNS, Anteriores()) << LTipo;
+    }
+    Calcular("04", 0, DEZ20);
+    EXPECT_TRUE(Anteriores().empty());
+
+    // Complementary: of an earlier year the accumulated codes, of the same year the others.
+    Complementar(2, MAR31, nullptr, 2);
+    Calcular("01", 4, DEZ20);
+    EXPECT_EQ(ACUMULADOS, Anteriores());
+    Calcular("01", 4, FEV21);
+    EXPECT_TRUE(Anteriores().empty()) << "de competência no leiaute é remuneração";
+    Executar("UPDATE CALCCOMPL SET FORMATRIBUTACAO = 1");
+    Calcular("01", 4, DEZ20);
+    EXPECT_TRUE(Anteriores().empty());
+    Executar("DELETE FROM CALCCOMPL");
+    Executar("DELETE FROM FP_CALCCOMPLEMPREG");
+    Executar("DELETE FROM CALCCOMPLPER");
+    Acordo(D(2021, 3, 10));
+    Complementar(1, MAR31, 1, 2);
+    Calcular("01", 4, DEZ20);
+    EXPECT_EQ(ACUMULADOS, Anteriores());
+
+    // Same year, below a date of change of layout in the year.
+    Calcular("01", 4, FEV21);
+    const auto LPagamento = Carregar(MAR31);
+    ASSERT_EQ(1U, LPagamento.Pagamentos().size());
+    TTextos LCodigos;
+    for (const auto& LInfo : LPagamento.Pagamentos()[0]->detPgtoAnt.at(0)->InfoPgtoAnt)
+        LCodigos.push_back("101 " + LInfo->tpBcIRRF + " " + FloatToStr(static_cast<double>(LInfo->vrBcIRRF)));
+    EXPECT_EQ(COMUNS, LCodigos);
+}
+
+TEST_F(TTesteFeriasEAnteriores, ValoresIguaisDeDoisRamosContamUmaVez)
+{
+    Empregado(1);
+    IncidenciaIrrf(vSalario, 11);
+    Inserir("RESC_COMPL", {{"COD_EMPRESA", 1}, {"COD_EMPREGADO", 1001}, {"DATA_PGTO", D(2021, 3, 31)}});
+    Calculo({.Verba = vSalario, .Valor = 50, .Inicio = D(2020, 12, 1)});
+    Calculo({.Verba = vSalario, .Valor = 50, .Tipo = "05", .Subtipo = 2, .Inicio = D(2020, 12, 1)});
+    // A complementary dismissal that is paid after the layout is no earlier payment, but its value goes along.
+    EXPECT_EQ((TTextos{"101 11 50"}), Anteriores());
+    Executar("UPDATE CALCULO SET VALOR = 50.01 WHERE TIPO = '05'");
+    EXPECT_EQ((TTextos{"101 11 100,01"}), Anteriores());
+}
+
+TEST_F(TTesteFeriasEAnteriores, UmDetalhePorCategoriaPeloComecoDoCodigo)
+{
+    Empregado(1);
+    Empregado(2, 103);
+    Codigo(7231, 1, "723.1");
+    Codigo(723, 1, "723");
+    Empregado(3, 723);
+    Empregado(4, 7231);
+    IncidenciaIrrf(vSalario, 11);
+    for (int i = 1; i <= 4; ++i)
+        Calculo({.Verba = vSalario, .Valor = 10.0 * i, .Empregado = i, .Inicio = D(2020, 12, 1)});
+    // Both 723 and 723.1 are told as 723, each with the values of both.
+    EXPECT_EQ((TTextos{"101 11 10", "103 11 20", "723 11 70", "723 11 70"}), Anteriores());
+    // Workers without a category of table 1 have none.
+    Executar("UPDATE FP_ESOCIALTABELA SET TABELA = 2 WHERE TABELA = 1");
+    EXPECT_TRUE(Anteriores().empty());
+}
+
+} // namespace
+} // namespace tarvo::testes
