@@ -150,7 +150,7 @@ TEST_F(TTesteSemVinculo, EstagioSemDetalheMantemABolsaESemSalarioNaoTemNada)
     const auto Resumo = [](TDateTime AData) {
         TTarvoESocialCamposInfoEstagiario LGrupo(ID, AData);
         LGrupo.CarregarDados();
-        EXPECT_EQ(LGrupo.vlrBolsa.empty() ? TDateTime() : D(2021, 2, 1), LGrupo.DataInicioContrato);
+        EXPECT_EQ(LGrupo.vlrBolsa.empty() ? TDateTime() : D(2021, 2, 1), LGrupo.DataInicoContrato);
         return LGrupo.vlrBolsa + "/" + std::to_string(LGrupo.NumDiasContrato) + "/" +
                std::to_string(LGrupo.UnidadeMedidaContrato) + "/" + LGrupo.natEstagio + LGrupo.nivEstagio + "/" +
                LGrupo.instEnsino.nmRazao + "/" + LGrupo.ageIntegracao.nmRazao + "/" + LGrupo.supervisorEstagio.nmSuperv;
