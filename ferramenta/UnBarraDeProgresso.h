@@ -17,6 +17,8 @@ public:
     ~TBarraDeProgresso();
 
     void Avancar(std::size_t AFeitos, std::size_t ATotal);
+    /// Wipes the bar off, before something else is written to the same terminal.
+    void Apagar();
     /// Writes a message of its own above the bar.
     void EscreverLinha(const std::string& ATexto);
 
@@ -24,7 +26,6 @@ private:
     using TRelogio = std::chrono::steady_clock;
 
     void Desenhar();
-    void Apagar();
     void Escrever(const std::string& ATexto) const;
 
     int FDescritor;
