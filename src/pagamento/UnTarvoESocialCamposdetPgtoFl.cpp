@@ -1,5 +1,7 @@
 #include "pagamento/UnTarvoESocialCamposdetPgtoFl.h"
 
+#include <algorithm>
+
 #include "imports/UnOvraConversoes.h"
 #include "imports/UnOvraEsocialReinfControleAmbientes.h"
 #include "imports/UnOvraExcecoes.h"
@@ -7,9 +9,11 @@
 #include "imports/UnTarvoConsultasESocial.h"
 #include "imports/UnTarvoConsultasEmpregado.h"
 #include "imports/UnTarvoConsultasGeral.h"
+#include "imports/UnTarvoConsultasVerbas.h"
 #include "pagamento/UnTarvoESocialCamposSqlS1210.h"
 #include "pagamento/UnTarvoESocialCamposVerbasS1210.h"
 #include "remuneracao/UnTarvoESocialCamposIdeDmDev.h"
+#include "tabelas/UnTarvoESocialCamposBuscaIncidVerbas.h"
 #include "tabelas/UnTarvoESocialCamposIncidIrrf.h"
 
 namespace tarvo::pagamento {
@@ -230,7 +234,13 @@ void TTarvoESocialCamposdetPgtoFl::BuscarListaretPgtoTotPrestServico()
 
 bool TTarvoESocialCamposdetPgtoFl::ValidouIncidenciaDaVerba(std::int64_t AIdVerba) const
 {
-    return VerbaTemIncidIrrf(FInfoBind, AIdVerba, tabelas::EhRetencaoDeIrrf);
+    using enum tabelas::TTipoRetornoIncidVerbas;
+    const auto LProcessos = TTarvoConsultasVerbas::BuscarTiposDeTributosComProcessoParaVerbaNaEmpresa(
+        AIdVerba, FInfoBind.IdEmpresa, FInfoBind.DataInicio);
+    const auto LCodigos = tabelas::TTarvoESocialCamposBuscaIncidVerbas::BuscarIncidencias(
+                              AIdVerba, trNormal, LProcessos.IRRF ? trProcesso : trNormal, trNormal, trNormal)
+                              .FListIrrf;
+    return std::any_of(LCodigos.begin(), LCodigos.end(), tabelas::EhRetencaoDeIrrf);
 }
 
 bool TTarvoESocialCamposdetPgtoFl::ValidouIncidenciaDaVerbaRpa(std::int64_t AId) const

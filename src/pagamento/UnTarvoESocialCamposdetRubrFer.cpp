@@ -41,10 +41,9 @@ void TTarvoESocialCamposdetRubrFer::CarregarDados(const TListaCamposModificados*
     CarregarListaPensaoAlimenticia(EhPensaoSobreFerias, AListaCamposModificados);
 }
 
-std::string TTarvoESocialCamposdetRubrFer::BuscarCodRubr() const
+std::string TTarvoESocialCamposdetRubrFer::BuscarCodRubr()
 {
-    const auto LIncid = BuscarIncidenciasDaVerba();
-    return LIncid.FCodVerba == 0 ? std::string() : ComporCodRubrDaVerba(LIncid);
+    return BuscarIncidenciasDaVerba().FCodVerba == 0 ? std::string() : ComporCodRubrDaVerba();
 }
 
 } // namespace tarvo::pagamento
