@@ -264,6 +264,17 @@ TEST_F(TTesteS1200, LotacoesPeloTipoDeQuebra)
     }
 }
 
+TEST_F(TTesteS1200, EstabelecimentoQueSoAQuebraConhece)
+{
+    TipoDeQuebra(2);
+    const auto LPartido = Calculo(1, 300);
+    Quebra(LPartido, 2, nullptr, 300, 31);
+    EXPECT_EQ("2/0:MAT1=300", Itens());
+    Executar("UPDATE CALC_QUEBRA SET IDDEPARTAMENTO = 20, COD_DEPTO = 20");
+    TipoDeQuebra(3);
+    EXPECT_EQ("0/20:MAT1=300", Itens());
+}
+
 TEST_F(TTesteS1200, NoDepartamentoOCalculoContaPeloUltimoDiaDoPeriodo)
 {
     TipoDeQuebra(3);
