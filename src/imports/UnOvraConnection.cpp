@@ -404,6 +404,7 @@ struct TOvraConnection::TImplementacao {
     TComandosGuardados Guardados;
     /// By shape, which of its literals travel as parameters.
     std::unordered_map<std::string, std::vector<bool>> Formas;
+    TFormasSql FormasSql;
 
     ITransaction* TransacaoCorrente();
     void IniciarTransacao(TIsolamento AIsolamento);
@@ -414,6 +415,7 @@ struct TOvraConnection::TImplementacao {
     std::vector<bool> JulgarForma(std::string_view ASql, const TFormaSql& AForma);
     std::optional<std::vector<bool>> CombinarTipos(std::string_view ASql, const TFormaSql& AForma, const std::vector<bool>& ALevantar);
     TConjuntoDeLinhas Ler(TComando& AComando);
+    void EsquecerFormas();
     void EsquecerComandos();
     std::int64_t Executar(std::string_view ASql);
     void LerLinha(TConjuntoDeLinhas& ALinhas, const TDescricao& ADescricao, const unsigned char* AMensagem);
@@ -628,9 +630,9 @@ TConjuntoDeLinhas TOvraConnection::TImplementacao::Consultar(std::string_view AS
 
 TConjuntoDeLinhas TOvraConnection::TImplementacao::ConsultarPelaForma(std::string_view ASql)
 {
-    const auto LForma = AnalisarFormaSql(ASql);
     if (Formas.size() >= MAXIMO_DE_FORMAS)
-        Formas.clear();
+        EsquecerFormas();
+    const auto LForma = FormasSql.Analisar(ASql);
     auto LJulgada = Formas.find(LForma.Chave);
     if (LJulgada == Formas.end())
         LJulgada = Formas.emplace(LForma.Chave, JulgarForma(ASql, LForma)).first;
@@ -714,7 +716,13 @@ std::vector<bool> TOvraConnection::TImplementacao::JulgarForma(std::string_view 
 void TOvraConnection::TImplementacao::EsquecerComandos()
 {
     Guardados.Limpar();
+    EsquecerFormas();
+}
+
+void TOvraConnection::TImplementacao::EsquecerFormas()
+{
     Formas.clear();
+    FormasSql.Esquecer();
 }
 
 std::int64_t TOvraConnection::TImplementacao::Executar(std::string_view ASql)

@@ -1,6 +1,7 @@
 #include "imports/UnOvraFormaSql.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 
 #include "imports/UnOvraConversoes.h"
@@ -20,12 +21,22 @@ struct TToken {
     std::size_t Tamanho = 0;
 };
 
-bool EhLetra(char AChar)
-{
-    return (AChar >= 'A' && AChar <= 'Z') || (AChar >= 'a' && AChar <= 'z') || AChar == '_' || AChar == '$' ||
-           static_cast<unsigned char>(AChar) >= 0x80;
-}
-bool EhDigito(char AChar) { return AChar >= '0' && AChar <= '9'; }
+constexpr bool EhDigito(char AChar) { return AChar >= '0' && AChar <= '9'; }
+
+/// Every byte of every statement passes here: a table, not comparisons.
+constexpr auto LETRAS = [] {
+    std::array<bool, 256> LTabela{};
+    for (unsigned i = 0; i < LTabela.size(); ++i)
+        LTabela[i] = (i >= 'A' && i <= 'Z') || (i >= 'a' && i <= 'z') || i == '_' || i == '$' || i >= 0x80;
+    return LTabela;
+}();
+constexpr auto LETRAS_E_DIGITOS = [] {
+    auto LTabela = LETRAS;
+    for (unsigned i = '0'; i <= '9'; ++i)
+        LTabela[i] = true;
+    return LTabela;
+}();
+bool EhLetra(char AChar) { return LETRAS[static_cast<unsigned char>(AChar)]; }
 
 class TAnalisadorLexico {
 public:
@@ -58,9 +69,9 @@ private:
         while (FPosicao < FSql.size()) {
             if (static_cast<unsigned char>(FSql[FPosicao]) <= ' ') {
                 ++FPosicao;
-            } else if (FSql.substr(FPosicao).starts_with("--")) {
+            } else if (FSql[FPosicao] == '-' && FSql.substr(FPosicao).starts_with("--")) {
                 FPosicao = std::min(FSql.find('\n', FPosicao), FSql.size());
-            } else if (FSql.substr(FPosicao).starts_with("/*")) {
+            } else if (FSql[FPosicao] == '/' && FSql.substr(FPosicao).starts_with("/*")) {
                 const auto LFim = FSql.find("*/", FPosicao + 2);
                 FPosicao = LFim == std::string_view::npos ? FSql.size() : LFim + 2;
             } else {
@@ -71,7 +82,7 @@ private:
 
     TTipoToken Palavra()
     {
-        while (FPosicao < FSql.size() && (EhLetra(FSql[FPosicao]) || EhDigito(FSql[FPosicao])))
+        while (FPosicao < FSql.size() && LETRAS_E_DIGITOS[static_cast<unsigned char>(FSql[FPosicao])])
             ++FPosicao;
         // A letter right before a quote introduces another kind of literal (X'..', _UTF8'..'): it is no plain text.
         if (FPosicao < FSql.size() && FSql[FPosicao] == '\'') {
@@ -150,6 +161,26 @@ private:
     std::string_view FSql;
     std::size_t FPosicao = 0;
 };
+
+TLiteralSql LerLiteral(std::string_view ASql, const TToken& AToken)
+{
+    TLiteralSql LLiteral;
+    LLiteral.Posicao = AToken.Posicao;
+    LLiteral.Tamanho = AToken.Tamanho;
+    const auto LTexto = ASql.substr(AToken.Posicao, AToken.Tamanho);
+    LLiteral.EhTexto = AToken.Tipo == TTipoToken::Texto;
+    if (!LLiteral.EhTexto) {
+        std::from_chars(LTexto.data(), LTexto.data() + LTexto.size(), LLiteral.Inteiro);
+        return LLiteral;
+    }
+    LLiteral.Texto.reserve(LTexto.size());
+    for (std::size_t i = 1; i + 1 < LTexto.size(); ++i) {
+        LLiteral.Texto += LTexto[i];
+        if (LTexto[i] == '\'')
+            ++i;
+    }
+    return LLiteral;
+}
 
 /// What a stretch of a statement is, as far as its literals go.
 enum class TClausula {
@@ -346,24 +377,7 @@ private:
                 Levantar(LItem);
     }
 
-    void Levantar(std::size_t AIndice)
-    {
-        TLiteralSql LLiteral;
-        LLiteral.Posicao = FTokens[AIndice].Posicao;
-        LLiteral.Tamanho = FTokens[AIndice].Tamanho;
-        const auto LTexto = Texto(AIndice);
-        LLiteral.EhTexto = EhTipo(AIndice, TTipoToken::Texto);
-        if (!LLiteral.EhTexto) {
-            std::from_chars(LTexto.data(), LTexto.data() + LTexto.size(), LLiteral.Inteiro);
-        } else {
-            for (std::size_t i = 1; i + 1 < LTexto.size(); ++i) {
-                LLiteral.Texto += LTexto[i];
-                if (LTexto[i] == '\'')
-                    ++i;
-            }
-        }
-        FLiterais.push_back(std::move(LLiteral));
-    }
+    void Levantar(std::size_t AIndice) { FLiterais.push_back(LerLiteral(FSql, FTokens[AIndice])); }
 
     std::string_view FSql;
     std::vector<TToken> FTokens;
@@ -374,8 +388,11 @@ private:
     std::size_t FIndice = 0;
 };
 
-template <class TMarcador>
-std::string Substituir(std::string_view ASql, const std::vector<TLiteralSql>& ALiterais, TMarcador AMarcador)
+bool EhTexto(const TLiteralSql& ALiteral) { return ALiteral.EhTexto; }
+bool EhTexto(const TToken& AToken) { return AToken.Tipo == TTipoToken::Texto; }
+
+template <class TLiteral, class TMarcador>
+std::string Substituir(std::string_view ASql, const std::vector<TLiteral>& ALiterais, TMarcador AMarcador)
 {
     std::string LTexto;
     LTexto.reserve(ASql.size());
@@ -389,16 +406,52 @@ std::string Substituir(std::string_view ASql, const std::vector<TLiteralSql>& AL
     return LTexto;
 }
 
+template <class TLiteral>
+std::string MontarChave(std::string_view ASql, const std::vector<TLiteral>& ALiterais)
+{
+    // Control characters stand in no statement of ours, so that a key never equals another statement's text.
+    return Substituir(ASql, ALiterais, [&](std::size_t AIndice) -> std::string_view {
+        return EhTexto(ALiterais[AIndice]) ? "\x02" : "\x01";
+    });
+}
+
 } // namespace
 
 TFormaSql AnalisarFormaSql(std::string_view ASql)
 {
     TFormaSql LForma;
     LForma.Literais = TAnalisadorDeForma(ASql).Analisar();
-    // Control characters stand in no statement of ours, so that a key never equals another statement's text.
-    LForma.Chave = Substituir(ASql, LForma.Literais, [&](std::size_t AIndice) -> std::string_view {
-        return LForma.Literais[AIndice].EhTexto ? "\x02" : "\x01";
-    });
+    LForma.Chave = MontarChave(ASql, LForma.Literais);
+    return LForma;
+}
+
+TFormaSql TFormasSql::Analisar(std::string_view ASql)
+{
+    TAnalisadorLexico LLexico(ASql);
+    std::vector<TToken> LTodos;
+    LTodos.reserve(64);
+    for (auto LToken = LLexico.Proximo(); LToken.Tipo != TTipoToken::Fim; LToken = LLexico.Proximo())
+        if (LToken.Tipo == TTipoToken::Numero || LToken.Tipo == TTipoToken::Texto)
+            LTodos.push_back(LToken);
+    auto LChave = MontarChave(ASql, LTodos);
+    auto LLevantaveis = FLevantaveis.find(LChave);
+    if (LLevantaveis == FLevantaveis.end()) {
+        auto LForma = AnalisarFormaSql(ASql);
+        std::vector<bool> LQuais(LTodos.size(), false);
+        auto LLevantado = LForma.Literais.begin();
+        for (std::size_t i = 0; i < LTodos.size() && LLevantado != LForma.Literais.end(); ++i)
+            if (LTodos[i].Posicao == LLevantado->Posicao) {
+                LQuais[i] = true;
+                ++LLevantado;
+            }
+        FLevantaveis.emplace(std::move(LChave), std::move(LQuais));
+        return LForma;
+    }
+    TFormaSql LForma;
+    for (std::size_t i = 0; i < LTodos.size(); ++i)
+        if (LLevantaveis->second[i])
+            LForma.Literais.push_back(LerLiteral(ASql, LTodos[i]));
+    LForma.Chave = MontarChave(ASql, LForma.Literais);
     return LForma;
 }
 

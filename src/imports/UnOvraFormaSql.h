@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace tarvo {
@@ -31,6 +32,18 @@ struct TFormaSql {
 /// of a selected procedure. Never in a select list, a function's arguments, a CASE, a LIKE, GROUP BY or ORDER BY.
 /// What is no plain SELECT (an EXECUTE BLOCK, an UPDATE) has no literals to lift, and its key is its text.
 TFormaSql AnalisarFormaSql(std::string_view ASql);
+
+/// AnalisarFormaSql with a memory: which literals of a statement may be lifted depends on its text without them, and
+/// is found out once.
+class TFormasSql {
+public:
+    TFormaSql Analisar(std::string_view ASql);
+    void Esquecer() { FLevantaveis.clear(); }
+
+private:
+    /// By the text without any literal, for each literal whether it may be lifted.
+    std::unordered_map<std::string, std::vector<bool>> FLevantaveis;
+};
 
 /// The text with `?` for the literals whose place in ALevantar is true.
 std::string MontarSqlComParametros(std::string_view ASql, const TFormaSql& AForma, const std::vector<bool>& ALevantar);
