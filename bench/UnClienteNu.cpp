@@ -130,12 +130,19 @@ struct TClienteNu::TImplementacao {
     /// The statement with every literal of its shape as a parameter; nothing when it doesn't prepare or answers otherwise.
     bool AcrescentarComParametros(const TComandoGravado& AGravado)
     {
-        const auto LForma = AnalisarFormaSql(AGravado.Sql);
-        const auto LQuantidade = static_cast<unsigned>(LForma.Literais.size());
+        const auto LForma = LerFormaSql(AGravado.Sql);
+        const auto LLevantar = LiteraisLevantaveis(AGravado.Sql, LForma);
+        std::vector<std::string> LTextos;
+        for (std::size_t i = 0; i < LLevantar.size(); ++i)
+            if (LLevantar[i]) {
+                const auto LValor = LerLiteralSql(AGravado.Sql, LForma.Literais[i]);
+                LTextos.push_back(LValor.EhTexto ? LValor.Texto : std::to_string(LValor.Inteiro));
+            }
+        const auto LQuantidade = static_cast<unsigned>(LTextos.size());
         if (LQuantidade == 0)
             return false;
         try {
-            const auto LSql = MontarSqlComParametros(AGravado.Sql, LForma, std::vector<bool>(LQuantidade, true));
+            const auto LSql = MontarSqlComParametros(AGravado.Sql, LForma, LLevantar);
             auto LOnde = Preparados.find(LSql);
             if (LOnde == Preparados.end())
                 LOnde = Preparados.emplace(LSql, Preparar(LSql)).first;
@@ -145,10 +152,7 @@ struct TClienteNu::TImplementacao {
             TStatus LStatus;
             TReferencia<IMetadataBuilder> LMontador(Mestre()->getMetadataBuilder(&LStatus, LQuantidade));
             LStatus.Verificar();
-            std::vector<std::string> LTextos;
             for (unsigned i = 0; i < LQuantidade; ++i) {
-                const auto& LLiteral = LForma.Literais[i];
-                LTextos.push_back(LLiteral.EhTexto ? LLiteral.Texto : std::to_string(LLiteral.Inteiro));
                 LMontador->setType(&LStatus, i, SQL_VARYING + 1);
                 LMontador->setLength(&LStatus, i, static_cast<unsigned>(LTextos[i].size()));
                 LMontador->setCharSet(&LStatus, i, 4);

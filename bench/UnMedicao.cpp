@@ -268,7 +268,14 @@ int main(int argc, char** argv)
 {
     using namespace tarvo::bancada;
     benchmark::SetDefaultTimeUnit(benchmark::kMicrosecond);
-    benchmark::Initialize(&argc, argv);
+    // The cases take turns: what else the machine does meanwhile falls upon all of them.
+    std::vector<std::string> LPadroes = {"--benchmark_enable_random_interleaving=true", "--benchmark_min_time=0.1"};
+    std::vector<char*> LArgumentos = {argv[0]};
+    for (auto& LPadrao : LPadroes)
+        LArgumentos.push_back(LPadrao.data());
+    LArgumentos.insert(LArgumentos.end(), argv + 1, argv + argc);
+    int LQuantidade = static_cast<int>(LArgumentos.size());
+    benchmark::Initialize(&LQuantidade, LArgumentos.data());
     TOpcoes LOpcoes;
     CLI::App LApp("Mede as cargas e o crescimento do lote");
     LApp.add_option("--saida", LOpcoes.Saida, "pasta dos bancos e das tabelas");
@@ -276,7 +283,7 @@ int main(int argc, char** argv)
         ->delimiter(',')
         ->check(CLI::NonNegativeNumber);
     LApp.add_option("--repeticoes", LOpcoes.Repeticoes, "medidas de cada caso")->check(CLI::PositiveNumber);
-    CLI11_PARSE(LApp, argc, argv);
+    CLI11_PARSE(LApp, LQuantidade, LArgumentos.data());
     std::erase(LOpcoes.Trabalhadores, 0);
     try {
         std::filesystem::create_directories(LOpcoes.Saida);

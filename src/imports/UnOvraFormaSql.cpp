@@ -162,26 +162,6 @@ private:
     std::size_t FPosicao = 0;
 };
 
-TLiteralSql LerLiteral(std::string_view ASql, const TToken& AToken)
-{
-    TLiteralSql LLiteral;
-    LLiteral.Posicao = AToken.Posicao;
-    LLiteral.Tamanho = AToken.Tamanho;
-    const auto LTexto = ASql.substr(AToken.Posicao, AToken.Tamanho);
-    LLiteral.EhTexto = AToken.Tipo == TTipoToken::Texto;
-    if (!LLiteral.EhTexto) {
-        std::from_chars(LTexto.data(), LTexto.data() + LTexto.size(), LLiteral.Inteiro);
-        return LLiteral;
-    }
-    LLiteral.Texto.reserve(LTexto.size());
-    for (std::size_t i = 1; i + 1 < LTexto.size(); ++i) {
-        LLiteral.Texto += LTexto[i];
-        if (LTexto[i] == '\'')
-            ++i;
-    }
-    return LLiteral;
-}
-
 /// What a stretch of a statement is, as far as its literals go.
 enum class TClausula {
     /// Select list, GROUP BY, ORDER BY, a function's arguments: literals stay.
@@ -210,7 +190,8 @@ public:
         while (FTokens.back().Tipo != TTipoToken::Fim);
     }
 
-    std::vector<TLiteralSql> Analisar()
+    /// Where the literals stand that may be lifted, in their order.
+    std::vector<std::size_t> Analisar()
     {
         if (!EhPalavra(0, "SELECT") && !EhPalavra(0, "WITH"))
             return {};
@@ -238,7 +219,7 @@ public:
         // A parenthesis without a partner: the engine has to say so about the text as it stands.
         if (FNiveis.size() != 1)
             return {};
-        return std::move(FLiterais);
+        return std::move(FLevantados);
     }
 
 private:
@@ -377,82 +358,75 @@ private:
                 Levantar(LItem);
     }
 
-    void Levantar(std::size_t AIndice) { FLiterais.push_back(LerLiteral(FSql, FTokens[AIndice])); }
+    void Levantar(std::size_t AIndice) { FLevantados.push_back(FTokens[AIndice].Posicao); }
 
     std::string_view FSql;
     std::vector<TToken> FTokens;
     std::vector<TNivel> FNiveis;
     /// Depths that are a function's arguments.
     std::vector<std::size_t> FFuncao;
-    std::vector<TLiteralSql> FLiterais;
+    std::vector<std::size_t> FLevantados;
     std::size_t FIndice = 0;
 };
 
-bool EhTexto(const TLiteralSql& ALiteral) { return ALiteral.EhTexto; }
-bool EhTexto(const TToken& AToken) { return AToken.Tipo == TTipoToken::Texto; }
-
-template <class TLiteral, class TMarcador>
-std::string Substituir(std::string_view ASql, const std::vector<TLiteral>& ALiterais, TMarcador AMarcador)
+/// The text with something else for each of its literals.
+template <class TMarcador>
+std::string Substituir(std::string_view ASql, const std::vector<TLiteralSql>& ALiterais, TMarcador AMarcador)
 {
     std::string LTexto;
     LTexto.reserve(ASql.size());
     std::size_t LPosicao = 0;
     for (std::size_t i = 0; i < ALiterais.size(); ++i) {
-        LTexto.append(ASql.substr(LPosicao, ALiterais[i].Posicao - LPosicao));
+        LTexto.append(ASql, LPosicao, ALiterais[i].Posicao - LPosicao);
         LTexto.append(AMarcador(i));
         LPosicao = ALiterais[i].Posicao + ALiterais[i].Tamanho;
     }
-    LTexto.append(ASql.substr(LPosicao));
+    LTexto.append(ASql, LPosicao);
     return LTexto;
-}
-
-template <class TLiteral>
-std::string MontarChave(std::string_view ASql, const std::vector<TLiteral>& ALiterais)
-{
-    // Control characters stand in no statement of ours, so that a key never equals another statement's text.
-    return Substituir(ASql, ALiterais, [&](std::size_t AIndice) -> std::string_view {
-        return EhTexto(ALiterais[AIndice]) ? "\x02" : "\x01";
-    });
 }
 
 } // namespace
 
-TFormaSql AnalisarFormaSql(std::string_view ASql)
+TFormaSql LerFormaSql(std::string_view ASql)
 {
     TFormaSql LForma;
-    LForma.Literais = TAnalisadorDeForma(ASql).Analisar();
-    LForma.Chave = MontarChave(ASql, LForma.Literais);
+    LForma.Literais.reserve(64);
+    TAnalisadorLexico LLexico(ASql);
+    for (auto LToken = LLexico.Proximo(); LToken.Tipo != TTipoToken::Fim; LToken = LLexico.Proximo())
+        if (LToken.Tipo == TTipoToken::Numero || LToken.Tipo == TTipoToken::Texto)
+            LForma.Literais.push_back({LToken.Posicao, LToken.Tamanho, LToken.Tipo == TTipoToken::Texto});
+    // Control characters stand in no statement of ours, so that a key never equals another statement's text.
+    LForma.Chave = Substituir(ASql, LForma.Literais, [&](std::size_t AIndice) -> std::string_view {
+        return LForma.Literais[AIndice].EhTexto ? "\x02" : "\x01";
+    });
     return LForma;
 }
 
-TFormaSql TFormasSql::Analisar(std::string_view ASql)
+TValorLiteralSql LerLiteralSql(std::string_view ASql, const TLiteralSql& ALiteral)
 {
-    TAnalisadorLexico LLexico(ASql);
-    std::vector<TToken> LTodos;
-    LTodos.reserve(64);
-    for (auto LToken = LLexico.Proximo(); LToken.Tipo != TTipoToken::Fim; LToken = LLexico.Proximo())
-        if (LToken.Tipo == TTipoToken::Numero || LToken.Tipo == TTipoToken::Texto)
-            LTodos.push_back(LToken);
-    auto LChave = MontarChave(ASql, LTodos);
-    auto LLevantaveis = FLevantaveis.find(LChave);
-    if (LLevantaveis == FLevantaveis.end()) {
-        auto LForma = AnalisarFormaSql(ASql);
-        std::vector<bool> LQuais(LTodos.size(), false);
-        auto LLevantado = LForma.Literais.begin();
-        for (std::size_t i = 0; i < LTodos.size() && LLevantado != LForma.Literais.end(); ++i)
-            if (LTodos[i].Posicao == LLevantado->Posicao) {
-                LQuais[i] = true;
-                ++LLevantado;
-            }
-        FLevantaveis.emplace(std::move(LChave), std::move(LQuais));
-        return LForma;
+    TValorLiteralSql LValor;
+    LValor.EhTexto = ALiteral.EhTexto;
+    const auto LTexto = ASql.substr(ALiteral.Posicao, ALiteral.Tamanho);
+    if (!LValor.EhTexto) {
+        std::from_chars(LTexto.data(), LTexto.data() + LTexto.size(), LValor.Inteiro);
+        return LValor;
     }
-    TFormaSql LForma;
-    for (std::size_t i = 0; i < LTodos.size(); ++i)
-        if (LLevantaveis->second[i])
-            LForma.Literais.push_back(LerLiteral(ASql, LTodos[i]));
-    LForma.Chave = MontarChave(ASql, LForma.Literais);
-    return LForma;
+    LValor.Texto.reserve(LTexto.size());
+    for (std::size_t i = 1; i + 1 < LTexto.size(); ++i) {
+        LValor.Texto += LTexto[i];
+        if (LTexto[i] == '\'')
+            ++i;
+    }
+    return LValor;
+}
+
+std::vector<bool> LiteraisLevantaveis(std::string_view ASql, const TFormaSql& AForma)
+{
+    const auto LLevantados = TAnalisadorDeForma(ASql).Analisar();
+    std::vector<bool> LLevantaveis(AForma.Literais.size(), false);
+    for (std::size_t i = 0; i < LLevantaveis.size(); ++i)
+        LLevantaveis[i] = std::binary_search(LLevantados.begin(), LLevantados.end(), AForma.Literais[i].Posicao);
+    return LLevantaveis;
 }
 
 std::string MontarSqlComParametros(std::string_view ASql, const TFormaSql& AForma, const std::vector<bool>& ALevantar)

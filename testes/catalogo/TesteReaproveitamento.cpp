@@ -13,8 +13,11 @@ namespace {
 std::vector<std::string> Levantados(std::string_view ASql)
 {
     std::vector<std::string> LTextos;
-    for (const auto& LLiteral : AnalisarFormaSql(ASql).Literais)
-        LTextos.emplace_back(ASql.substr(LLiteral.Posicao, LLiteral.Tamanho));
+    const auto LForma = LerFormaSql(ASql);
+    const auto LLevantaveis = LiteraisLevantaveis(ASql, LForma);
+    for (std::size_t i = 0; i < LLevantaveis.size(); ++i)
+        if (LLevantaveis[i])
+            LTextos.emplace_back(ASql.substr(LForma.Literais[i].Posicao, LForma.Literais[i].Tamanho));
     return LTextos;
 }
 
