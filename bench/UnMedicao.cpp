@@ -278,6 +278,7 @@ int main(int argc, char** argv)
     benchmark::Initialize(&LQuantidade, LArgumentos.data());
     TOpcoes LOpcoes;
     CLI::App LApp("Mede as cargas e o crescimento do lote");
+    LApp.set_help_flag("--ajuda", "mostra esta ajuda");
     LApp.add_option("--saida", LOpcoes.Saida, "pasta dos bancos e das tabelas");
     LApp.add_option("--trabalhadores", LOpcoes.Trabalhadores, "tamanhos das empresas geradas; 0 para nenhuma")
         ->delimiter(',')

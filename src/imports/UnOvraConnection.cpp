@@ -27,7 +27,7 @@ constexpr int CHARSET_OCTETS = 1;
 constexpr int CHARSET_UTF8 = 4;
 constexpr unsigned BYTES_POR_CARACTERE_UTF8 = 4;
 /// Prepared statements that a connection keeps; the least used gives way.
-constexpr std::size_t MAXIMO_DE_COMANDOS = 512;
+constexpr std::size_t MAXIMO_DE_COMANDOS = 256;
 /// Variants of shapes whose literals have been judged.
 constexpr std::size_t MAXIMO_DE_FORMAS = 8192;
 /// Days from the engine's day 0 (17 November 1858) to TDateTime's.
