@@ -27,8 +27,8 @@ constexpr int CHARSET_OCTETS = 1;
 constexpr int CHARSET_UTF8 = 4;
 constexpr unsigned BYTES_POR_CARACTERE_UTF8 = 4;
 /// Prepared statements that a connection keeps; the least used gives way.
-constexpr std::size_t MAXIMO_DE_COMANDOS = 512;
-/// Shapes whose literals have been judged.
+constexpr std::size_t MAXIMO_DE_COMANDOS = 256;
+/// Variants of shapes whose literals have been judged.
 constexpr std::size_t MAXIMO_DE_FORMAS = 8192;
 /// Days from the engine's day 0 (17 November 1858) to TDateTime's.
 constexpr int DIA_ZERO_DO_MOTOR = 15018;
@@ -251,7 +251,7 @@ std::optional<ISC_TIMESTAMP> LerDataDoLiteral(const std::string& ATexto)
 }
 
 /// Whether a literal means the same as a parameter that the engine describes so, whatever its value.
-bool TipoCombina(const TLiteralSql& ALiteral, const TColunaDaMensagem& AParametro)
+bool TipoCombina(const TValorLiteralSql& ALiteral, const TColunaDaMensagem& AParametro)
 {
     switch (AParametro.Tipo) {
     case SQL_SHORT:
@@ -269,7 +269,7 @@ bool TipoCombina(const TLiteralSql& ALiteral, const TColunaDaMensagem& AParametr
     }
 }
 
-bool EscreverInteiro(const TLiteralSql& ALiteral, const TColunaDaMensagem& AParametro, unsigned char* AOnde)
+bool EscreverInteiro(const TValorLiteralSql& ALiteral, const TColunaDaMensagem& AParametro, unsigned char* AOnde)
 {
     std::int64_t LValor = ALiteral.Inteiro;
     for (int i = AParametro.Escala; i < 0; ++i)
@@ -292,7 +292,7 @@ bool EscreverInteiro(const TLiteralSql& ALiteral, const TColunaDaMensagem& APara
     }
 }
 
-bool EscreverTexto(const TLiteralSql& ALiteral, const TColunaDaMensagem& AParametro, unsigned char* AOnde)
+bool EscreverTexto(const TValorLiteralSql& ALiteral, const TColunaDaMensagem& AParametro, unsigned char* AOnde)
 {
     const auto& LTexto = ALiteral.Texto;
     const auto LCaracteres = static_cast<std::size_t>(
@@ -314,7 +314,7 @@ bool EscreverTexto(const TLiteralSql& ALiteral, const TColunaDaMensagem& AParame
 }
 
 /// Puts a literal into the message; false when this value doesn't fit the parameter, and has to run as it stands.
-bool EscreverParametro(const TLiteralSql& ALiteral, const TColunaDaMensagem& AParametro, std::vector<unsigned char>& AMensagem)
+bool EscreverParametro(const TValorLiteralSql& ALiteral, const TColunaDaMensagem& AParametro, std::vector<unsigned char>& AMensagem)
 {
     unsigned char* LOnde = AMensagem.data() + AParametro.Posicao;
     EscreverNaMensagem(AMensagem.data() + AParametro.PosicaoDoNulo, ISC_SHORT{0});
@@ -344,43 +344,62 @@ bool EhPerdaDeConexao(const EDatabaseError& AErro)
     return std::find(std::begin(CODIGOS), std::end(CODIGOS), AErro.Codigo()) != std::end(CODIGOS);
 }
 
-/// Prepared statements by the text that was prepared, the least recently used first to go.
+/// What is known of a shape.
+struct TFormaConhecida {
+    /// The literals that travel as parameters. One that the engine takes as another type in any variant is no longer
+    /// among them.
+    std::vector<bool> Levantar;
+    /// The number of the prepared statement by the texts of the literals that stay.
+    std::unordered_map<std::string, std::size_t> Variantes;
+};
+
+/// Prepared statements by their number, the least recently used first to go.
 class TComandosGuardados {
 public:
     /// The statement, taken out while it runs, so that a second use of the same shape prepares its own.
-    std::unique_ptr<TComando> Retirar(const std::string& ASql)
+    std::unique_ptr<TComando> Retirar(std::size_t ANumero)
     {
-        const auto LItem = FPorTexto.find(ASql);
-        if (LItem == FPorTexto.end())
+        const auto LItem = FPorNumero.find(ANumero);
+        if (LItem == FPorNumero.end())
             return nullptr;
         auto LComando = std::move(LItem->second->second);
         FOrdem.erase(LItem->second);
-        FPorTexto.erase(LItem);
+        FPorNumero.erase(LItem);
         return LComando;
     }
-    void Guardar(const std::string& ASql, std::unique_ptr<TComando> AComando)
+    void Guardar(std::size_t ANumero, std::unique_ptr<TComando> AComando)
     {
-        if (FPorTexto.contains(ASql))
+        if (FPorNumero.contains(ANumero))
             return;
-        FOrdem.emplace_back(ASql, std::move(AComando));
-        FPorTexto.emplace(ASql, std::prev(FOrdem.end()));
+        FOrdem.emplace_back(ANumero, std::move(AComando));
+        FPorNumero.emplace(ANumero, std::prev(FOrdem.end()));
         if (FOrdem.size() > MAXIMO_DE_COMANDOS) {
-            FPorTexto.erase(FOrdem.front().first);
+            FPorNumero.erase(FOrdem.front().first);
             FOrdem.pop_front();
         }
     }
     void Limpar()
     {
-        FPorTexto.clear();
+        FPorNumero.clear();
         FOrdem.clear();
     }
     std::size_t Quantidade() const { return FOrdem.size(); }
 
 private:
-    using TOrdem = std::list<std::pair<std::string, std::unique_ptr<TComando>>>;
+    using TOrdem = std::list<std::pair<std::size_t, std::unique_ptr<TComando>>>;
     TOrdem FOrdem;
-    std::unordered_map<std::string, TOrdem::iterator> FPorTexto;
+    std::unordered_map<std::size_t, TOrdem::iterator> FPorNumero;
 };
+
+/// The literals that stay, one after the other.
+std::string LiteraisFixos(std::string_view ASql, const TFormaSql& AForma, const std::vector<bool>& ALevantar)
+{
+    std::string LFixos;
+    for (std::size_t i = 0; i < ALevantar.size(); ++i)
+        if (!ALevantar[i])
+            LFixos.append(ASql, AForma.Literais[i].Posicao, AForma.Literais[i].Tamanho).append(1, ',');
+    return LFixos;
+}
 
 } // namespace
 
@@ -402,8 +421,10 @@ struct TOvraConnection::TImplementacao {
     int VersaoMaior = 0;
     bool Reaproveitar = true;
     TComandosGuardados Guardados;
-    /// By shape, which of its literals travel as parameters.
-    std::unordered_map<std::string, std::vector<bool>> Formas;
+    std::unordered_map<std::string, TFormaConhecida> Formas;
+    /// Variants of all shapes, which are numbered for good.
+    std::size_t Variantes = 0;
+    std::size_t UltimaVariante = 0;
 
     ITransaction* TransacaoCorrente();
     void IniciarTransacao(TIsolamento AIsolamento);
@@ -411,9 +432,13 @@ struct TOvraConnection::TImplementacao {
     std::unique_ptr<TComando> PrepararComando(std::string_view ASql);
     TConjuntoDeLinhas Consultar(std::string_view ASql);
     TConjuntoDeLinhas ConsultarPelaForma(std::string_view ASql);
-    std::vector<bool> JulgarForma(std::string_view ASql, const TFormaSql& AForma);
-    std::optional<std::vector<bool>> CombinarTipos(std::string_view ASql, const TFormaSql& AForma, const std::vector<bool>& ALevantar);
+    std::vector<bool> JulgarForma(std::string_view ASql, const TFormaSql& AForma, const std::vector<bool>& ALevantar,
+                                  std::unique_ptr<TComando>& AComando);
+    std::optional<std::vector<bool>> CombinarTipos(std::string_view ASql, const TFormaSql& AForma,
+                                                   const std::vector<bool>& ALevantar,
+                                                   std::unique_ptr<TComando>& AComando);
     TConjuntoDeLinhas Ler(TComando& AComando);
+    std::size_t BuscarVariante(std::string_view ASql, const TFormaSql& AForma, TFormaConhecida& AConhecida);
     void EsquecerComandos();
     std::int64_t Executar(std::string_view ASql);
     void LerLinha(TConjuntoDeLinhas& ALinhas, const TDescricao& ADescricao, const unsigned char* AMensagem);
@@ -628,40 +653,62 @@ TConjuntoDeLinhas TOvraConnection::TImplementacao::Consultar(std::string_view AS
 
 TConjuntoDeLinhas TOvraConnection::TImplementacao::ConsultarPelaForma(std::string_view ASql)
 {
-    const auto LForma = AnalisarFormaSql(ASql);
-    if (Formas.size() >= MAXIMO_DE_FORMAS)
-        Formas.clear();
-    auto LJulgada = Formas.find(LForma.Chave);
-    if (LJulgada == Formas.end())
-        LJulgada = Formas.emplace(LForma.Chave, JulgarForma(ASql, LForma)).first;
-    const auto& LLevantar = LJulgada->second;
-    const auto LSql = MontarSqlComParametros(ASql, LForma, LLevantar);
-    auto LComando = Guardados.Retirar(LSql);
+    if (Variantes >= MAXIMO_DE_FORMAS)
+        EsquecerComandos();
+    const auto LForma = LerFormaSql(ASql);
+    auto& LConhecida = Formas[LForma.Chave];
+    const auto LVariante = BuscarVariante(ASql, LForma, LConhecida);
+    auto LComando = Guardados.Retirar(LVariante);
     if (!LComando)
-        LComando = PrepararComando(LSql);
+        LComando = PrepararComando(MontarSqlComParametros(ASql, LForma, LConhecida.Levantar));
     std::size_t LParametro = 0;
     for (std::size_t i = 0; i < LForma.Literais.size(); ++i) {
-        if (!LLevantar[i])
+        if (!LConhecida.Levantar[i])
             continue;
-        if (!EscreverParametro(LForma.Literais[i], LComando->Parametros[LParametro++], LComando->MensagemDeEntrada)) {
-            Guardados.Guardar(LSql, std::move(LComando));
+        if (!EscreverParametro(LerLiteralSql(ASql, LForma.Literais[i]), LComando->Parametros[LParametro++],
+                               LComando->MensagemDeEntrada)) {
+            Guardados.Guardar(LVariante, std::move(LComando));
             return Ler(*PrepararComando(ASql));
         }
     }
     // A statement that fails is not kept.
     auto LLinhas = Ler(*LComando);
-    Guardados.Guardar(LSql, std::move(LComando));
+    Guardados.Guardar(LVariante, std::move(LComando));
     return LLinhas;
 }
 
+/// The number of the statement that serves this text. A variant that is met for the first time is judged.
+std::size_t TOvraConnection::TImplementacao::BuscarVariante(std::string_view ASql, const TFormaSql& AForma,
+                                                            TFormaConhecida& AConhecida)
+{
+    if (AConhecida.Variantes.empty() && AConhecida.Levantar.empty())
+        AConhecida.Levantar = LiteraisLevantaveis(ASql, AForma);
+    if (const auto LVariante = AConhecida.Variantes.find(LiteraisFixos(ASql, AForma, AConhecida.Levantar));
+        LVariante != AConhecida.Variantes.end())
+        return LVariante->second;
+    std::unique_ptr<TComando> LComando;
+    auto LLevantar = JulgarForma(ASql, AForma, AConhecida.Levantar, LComando);
+    if (LLevantar != AConhecida.Levantar) {
+        Variantes -= AConhecida.Variantes.size();
+        AConhecida.Variantes.clear();
+        AConhecida.Levantar = std::move(LLevantar);
+    }
+    ++Variantes;
+    AConhecida.Variantes.emplace(LiteraisFixos(ASql, AForma, AConhecida.Levantar), ++UltimaVariante);
+    if (LComando)
+        Guardados.Guardar(UltimaVariante, std::move(LComando));
+    return UltimaVariante;
+}
+
 /// Those of the chosen literals whose parameter, as the engine describes it, has the literal's own type; nothing
-/// when the engine doesn't prepare the statement so.
-std::optional<std::vector<bool>> TOvraConnection::TImplementacao::CombinarTipos(std::string_view ASql, const TFormaSql& AForma,
-                                                                                const std::vector<bool>& ALevantar)
+/// when the engine doesn't prepare the statement so. The statement is handed out when all have.
+std::optional<std::vector<bool>> TOvraConnection::TImplementacao::CombinarTipos(std::string_view ASql,
+                                                                                const TFormaSql& AForma,
+                                                                                const std::vector<bool>& ALevantar,
+                                                                                std::unique_ptr<TComando>& AComando)
 {
     try {
-        auto LSql = MontarSqlComParametros(ASql, AForma, ALevantar);
-        auto LComando = PrepararComando(LSql);
+        auto LComando = PrepararComando(MontarSqlComParametros(ASql, AForma, ALevantar));
         auto LCombinam = ALevantar;
         std::size_t LParametro = 0;
         for (std::size_t i = 0; i < ALevantar.size(); ++i) {
@@ -669,12 +716,12 @@ std::optional<std::vector<bool>> TOvraConnection::TImplementacao::CombinarTipos(
                 continue;
             if (LParametro >= LComando->Parametros.size())
                 return std::nullopt;
-            LCombinam[i] = TipoCombina(AForma.Literais[i], LComando->Parametros[LParametro++]);
+            LCombinam[i] = TipoCombina(LerLiteralSql(ASql, AForma.Literais[i]), LComando->Parametros[LParametro++]);
         }
         if (LParametro != LComando->Parametros.size())
             return std::nullopt;
         if (LCombinam == ALevantar)
-            Guardados.Guardar(LSql, std::move(LComando));
+            AComando = std::move(LComando);
         return LCombinam;
     } catch (const EDatabaseError& LErro) {
         if (EhPerdaDeConexao(LErro))
@@ -683,28 +730,35 @@ std::optional<std::vector<bool>> TOvraConnection::TImplementacao::CombinarTipos(
     }
 }
 
-std::vector<bool> TOvraConnection::TImplementacao::JulgarForma(std::string_view ASql, const TFormaSql& AForma)
+/// Which of the literals travel as parameters, and the statement that takes them so, where one was prepared.
+std::vector<bool> TOvraConnection::TImplementacao::JulgarForma(std::string_view ASql, const TFormaSql& AForma,
+                                                               const std::vector<bool>& ALevantar,
+                                                               std::unique_ptr<TComando>& AComando)
 {
-    const std::vector<bool> LNenhum(AForma.Literais.size(), false);
-    if (AForma.Literais.empty())
+    const std::vector<bool> LNenhum(ALevantar.size(), false);
+    if (ALevantar == LNenhum)
         return LNenhum;
-    std::vector<bool> LTodos(AForma.Literais.size(), true);
-    auto LCombinam = CombinarTipos(ASql, AForma, LTodos);
+    auto LEscolhidos = ALevantar;
+    auto LCombinam = CombinarTipos(ASql, AForma, LEscolhidos, AComando);
     if (!LCombinam) {
         // One of them has no type as a parameter: find those that have, one after the other.
         LCombinam = LNenhum;
-        for (std::size_t i = 0; i < LTodos.size(); ++i) {
+        for (std::size_t i = 0; i < ALevantar.size(); ++i) {
+            if (!ALevantar[i])
+                continue;
             auto LTentativa = *LCombinam;
             LTentativa[i] = true;
-            if (const auto LResultado = CombinarTipos(ASql, AForma, LTentativa); LResultado && *LResultado == LTentativa)
+            if (const auto LResultado = CombinarTipos(ASql, AForma, LTentativa, AComando);
+                LResultado && *LResultado == LTentativa)
                 LCombinam = LTentativa;
         }
+        AComando.reset(); // of the last that passed, which need not be all of them
         return *LCombinam;
     }
     // With fewer parameters the engine may describe the others anew.
-    while (*LCombinam != LTodos) {
-        LTodos = *LCombinam;
-        LCombinam = CombinarTipos(ASql, AForma, LTodos);
+    while (*LCombinam != LEscolhidos) {
+        LEscolhidos = *LCombinam;
+        LCombinam = CombinarTipos(ASql, AForma, LEscolhidos, AComando);
         if (!LCombinam)
             return LNenhum;
     }
@@ -715,6 +769,7 @@ void TOvraConnection::TImplementacao::EsquecerComandos()
 {
     Guardados.Limpar();
     Formas.clear();
+    Variantes = 0;
 }
 
 std::int64_t TOvraConnection::TImplementacao::Executar(std::string_view ASql)

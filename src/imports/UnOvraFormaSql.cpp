@@ -1,6 +1,7 @@
 #include "imports/UnOvraFormaSql.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 
 #include "imports/UnOvraConversoes.h"
@@ -20,12 +21,22 @@ struct TToken {
     std::size_t Tamanho = 0;
 };
 
-bool EhLetra(char AChar)
-{
-    return (AChar >= 'A' && AChar <= 'Z') || (AChar >= 'a' && AChar <= 'z') || AChar == '_' || AChar == '$' ||
-           static_cast<unsigned char>(AChar) >= 0x80;
-}
-bool EhDigito(char AChar) { return AChar >= '0' && AChar <= '9'; }
+constexpr bool EhDigito(char AChar) { return AChar >= '0' && AChar <= '9'; }
+
+/// Every byte of every statement passes here: a table, not comparisons.
+constexpr auto LETRAS = [] {
+    std::array<bool, 256> LTabela{};
+    for (unsigned i = 0; i < LTabela.size(); ++i)
+        LTabela[i] = (i >= 'A' && i <= 'Z') || (i >= 'a' && i <= 'z') || i == '_' || i == '$' || i >= 0x80;
+    return LTabela;
+}();
+constexpr auto LETRAS_E_DIGITOS = [] {
+    auto LTabela = LETRAS;
+    for (unsigned i = '0'; i <= '9'; ++i)
+        LTabela[i] = true;
+    return LTabela;
+}();
+bool EhLetra(char AChar) { return LETRAS[static_cast<unsigned char>(AChar)]; }
 
 class TAnalisadorLexico {
 public:
@@ -58,9 +69,9 @@ private:
         while (FPosicao < FSql.size()) {
             if (static_cast<unsigned char>(FSql[FPosicao]) <= ' ') {
                 ++FPosicao;
-            } else if (FSql.substr(FPosicao).starts_with("--")) {
+            } else if (FSql[FPosicao] == '-' && FSql.substr(FPosicao).starts_with("--")) {
                 FPosicao = std::min(FSql.find('\n', FPosicao), FSql.size());
-            } else if (FSql.substr(FPosicao).starts_with("/*")) {
+            } else if (FSql[FPosicao] == '/' && FSql.substr(FPosicao).starts_with("/*")) {
                 const auto LFim = FSql.find("*/", FPosicao + 2);
                 FPosicao = LFim == std::string_view::npos ? FSql.size() : LFim + 2;
             } else {
@@ -71,7 +82,7 @@ private:
 
     TTipoToken Palavra()
     {
-        while (FPosicao < FSql.size() && (EhLetra(FSql[FPosicao]) || EhDigito(FSql[FPosicao])))
+        while (FPosicao < FSql.size() && LETRAS_E_DIGITOS[static_cast<unsigned char>(FSql[FPosicao])])
             ++FPosicao;
         // A letter right before a quote introduces another kind of literal (X'..', _UTF8'..'): it is no plain text.
         if (FPosicao < FSql.size() && FSql[FPosicao] == '\'') {
@@ -179,7 +190,8 @@ public:
         while (FTokens.back().Tipo != TTipoToken::Fim);
     }
 
-    std::vector<TLiteralSql> Analisar()
+    /// Where the literals stand that may be lifted, in their order.
+    std::vector<std::size_t> Analisar()
     {
         if (!EhPalavra(0, "SELECT") && !EhPalavra(0, "WITH"))
             return {};
@@ -207,7 +219,7 @@ public:
         // A parenthesis without a partner: the engine has to say so about the text as it stands.
         if (FNiveis.size() != 1)
             return {};
-        return std::move(FLiterais);
+        return std::move(FLevantados);
     }
 
 private:
@@ -346,34 +358,18 @@ private:
                 Levantar(LItem);
     }
 
-    void Levantar(std::size_t AIndice)
-    {
-        TLiteralSql LLiteral;
-        LLiteral.Posicao = FTokens[AIndice].Posicao;
-        LLiteral.Tamanho = FTokens[AIndice].Tamanho;
-        const auto LTexto = Texto(AIndice);
-        LLiteral.EhTexto = EhTipo(AIndice, TTipoToken::Texto);
-        if (!LLiteral.EhTexto) {
-            std::from_chars(LTexto.data(), LTexto.data() + LTexto.size(), LLiteral.Inteiro);
-        } else {
-            for (std::size_t i = 1; i + 1 < LTexto.size(); ++i) {
-                LLiteral.Texto += LTexto[i];
-                if (LTexto[i] == '\'')
-                    ++i;
-            }
-        }
-        FLiterais.push_back(std::move(LLiteral));
-    }
+    void Levantar(std::size_t AIndice) { FLevantados.push_back(FTokens[AIndice].Posicao); }
 
     std::string_view FSql;
     std::vector<TToken> FTokens;
     std::vector<TNivel> FNiveis;
     /// Depths that are a function's arguments.
     std::vector<std::size_t> FFuncao;
-    std::vector<TLiteralSql> FLiterais;
+    std::vector<std::size_t> FLevantados;
     std::size_t FIndice = 0;
 };
 
+/// The text with something else for each of its literals.
 template <class TMarcador>
 std::string Substituir(std::string_view ASql, const std::vector<TLiteralSql>& ALiterais, TMarcador AMarcador)
 {
@@ -381,25 +377,56 @@ std::string Substituir(std::string_view ASql, const std::vector<TLiteralSql>& AL
     LTexto.reserve(ASql.size());
     std::size_t LPosicao = 0;
     for (std::size_t i = 0; i < ALiterais.size(); ++i) {
-        LTexto.append(ASql.substr(LPosicao, ALiterais[i].Posicao - LPosicao));
+        LTexto.append(ASql, LPosicao, ALiterais[i].Posicao - LPosicao);
         LTexto.append(AMarcador(i));
         LPosicao = ALiterais[i].Posicao + ALiterais[i].Tamanho;
     }
-    LTexto.append(ASql.substr(LPosicao));
+    LTexto.append(ASql, LPosicao);
     return LTexto;
 }
 
 } // namespace
 
-TFormaSql AnalisarFormaSql(std::string_view ASql)
+TFormaSql LerFormaSql(std::string_view ASql)
 {
     TFormaSql LForma;
-    LForma.Literais = TAnalisadorDeForma(ASql).Analisar();
+    LForma.Literais.reserve(64);
+    TAnalisadorLexico LLexico(ASql);
+    for (auto LToken = LLexico.Proximo(); LToken.Tipo != TTipoToken::Fim; LToken = LLexico.Proximo())
+        if (LToken.Tipo == TTipoToken::Numero || LToken.Tipo == TTipoToken::Texto)
+            LForma.Literais.push_back({LToken.Posicao, LToken.Tamanho, LToken.Tipo == TTipoToken::Texto});
     // Control characters stand in no statement of ours, so that a key never equals another statement's text.
     LForma.Chave = Substituir(ASql, LForma.Literais, [&](std::size_t AIndice) -> std::string_view {
         return LForma.Literais[AIndice].EhTexto ? "\x02" : "\x01";
     });
     return LForma;
+}
+
+TValorLiteralSql LerLiteralSql(std::string_view ASql, const TLiteralSql& ALiteral)
+{
+    TValorLiteralSql LValor;
+    LValor.EhTexto = ALiteral.EhTexto;
+    const auto LTexto = ASql.substr(ALiteral.Posicao, ALiteral.Tamanho);
+    if (!LValor.EhTexto) {
+        std::from_chars(LTexto.data(), LTexto.data() + LTexto.size(), LValor.Inteiro);
+        return LValor;
+    }
+    LValor.Texto.reserve(LTexto.size());
+    for (std::size_t i = 1; i + 1 < LTexto.size(); ++i) {
+        LValor.Texto += LTexto[i];
+        if (LTexto[i] == '\'')
+            ++i;
+    }
+    return LValor;
+}
+
+std::vector<bool> LiteraisLevantaveis(std::string_view ASql, const TFormaSql& AForma)
+{
+    const auto LLevantados = TAnalisadorDeForma(ASql).Analisar();
+    std::vector<bool> LLevantaveis(AForma.Literais.size(), false);
+    for (std::size_t i = 0; i < LLevantaveis.size(); ++i)
+        LLevantaveis[i] = std::binary_search(LLevantados.begin(), LLevantados.end(), AForma.Literais[i].Posicao);
+    return LLevantaveis;
 }
 
 std::string MontarSqlComParametros(std::string_view ASql, const TFormaSql& AForma, const std::vector<bool>& ALevantar)

@@ -59,10 +59,9 @@ const tabelas::TIncidVerba& TTarvoESocialCamposVerbaDoPagamento::BuscarIncidenci
     return FIncidVerba;
 }
 
-std::string TTarvoESocialCamposVerbaDoPagamento::ComporCodRubrDaVerba() const
+std::string TTarvoESocialCamposVerbaDoPagamento::ComporCodRubrDaVerba(std::string_view AFiltro) const
 {
-    const auto LCodigo =
-        TTarvoConsultasGeral::BuscarValor("TAB_VERBAS", "CODIGO", Format(" WHERE TAB_VERBAS.IDVERBA = %D ", IdVerba));
+    const auto LCodigo = TTarvoConsultasGeral::BuscarValor("TAB_VERBAS", "CODIGO", AFiltro);
     return tabelas::ComporCodRubr(StrToInt64Def(LCodigo, 0), tabelas::PrimeirosCodigos(FIncidVerba));
 }
 

@@ -37,7 +37,8 @@ protected:
     /// The incidences of IdVerba, for the code and the alimony. Under a legal process of the rubric the codes are those
     /// of the process, tribute by tribute.
     const tabelas::TIncidVerba& BuscarIncidenciasDaVerba();
-    std::string ComporCodRubrDaVerba() const;
+    /// AFiltro picks the rubric in TAB_VERBAS.
+    std::string ComporCodRubrDaVerba(std::string_view AFiltro) const;
     std::string BuscarIdeTabRubr() const;
     long double BuscarQtdRubr() const;
     long double BuscarFatorRubr() const;

@@ -176,10 +176,12 @@ void TTarvoESocialCamposdetPgtoFl::AdicionarVerbasDeRetencao(const std::string& 
         // A rubric that fails is neither passed nor reported: it is tested once more, and then the load ends, since
         // what was withheld must not be left out in silence.
         if (!AValidar(LId)) {
-            if (LReprovada)
-                throw Exception(Format("%0:s sem incidência de IRRF de retenção (31 a 35, 51 a 55 ou 81 a 83), no "
-                                       "demonstrativo %1:s pago em %2:s",
-                                       ANomear(LId), ideDmDev, DateTimeToStr(FInfoBind.DataPagto)));
+            if (LReprovada) {
+                const auto [LCodigo, LNome] = ANomear(LId);
+                throw Exception(Format("Verba %0:s sem incidência de IRRF de retenção (31 a 35, 51 a 55 ou 81 a 83): "
+                                       "%1:s, no demonstrativo %2:s pago em %3:s",
+                                       LCodigo, LNome, ideDmDev, DateTimeToStr(FInfoBind.DataPagto)));
+            }
             LReprovada = true;
             continue;
         }
@@ -207,8 +209,8 @@ void TTarvoESocialCamposdetPgtoFl::BuscarListaretPgtoTotEmpregado()
         [this](std::int64_t AId) { return ValidouIncidenciaDaVerba(AId); },
         [](std::int64_t AId) {
             const auto LFiltro = Format("WHERE TAB_VERBAS.IDVERBA = %0:d", AId);
-            return Format("Verba %0:s (%1:s)", TTarvoConsultasGeral::BuscarValor("TAB_VERBAS", "CODIGO", LFiltro),
-                          TTarvoConsultasGeral::BuscarValor("TAB_VERBAS", "NOME", LFiltro));
+            return std::pair(TTarvoConsultasGeral::BuscarValor("TAB_VERBAS", "CODIGO", LFiltro),
+                             TTarvoConsultasGeral::BuscarValor("TAB_VERBAS", "NOME", LFiltro));
         });
 }
 
@@ -226,9 +228,10 @@ void TTarvoESocialCamposdetPgtoFl::BuscarListaretPgtoTotPrestServico()
                FiltroDoRecibo(FInfoBind, "RPATPVALOR.NOME = 'VLRIRRF' AND RPAVALOR.VALOR > 0")),
         "IDRPATPVALOR", [this](std::int64_t AId) { return ValidouIncidenciaDaVerbaRpa(AId); },
         [](std::int64_t AId) {
-            return Format("Verba %0:d de RPA (%1:s)", AId,
-                          TTarvoConsultasGeral::BuscarValor("RPATPVALOR", "DESCRICAO",
-                                                            Format("WHERE RPATPVALOR.IDRPATPVALOR = %0:d", AId)));
+            return std::pair(IntToStr(AId),
+                             TTarvoConsultasGeral::BuscarValor("RPATPVALOR", "DESCRICAO",
+                                                               Format("WHERE RPATPVALOR.IDRPATPVALOR = %0:d", AId)) +
+                                 " (RPA)");
         });
 }
 

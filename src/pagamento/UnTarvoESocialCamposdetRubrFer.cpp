@@ -1,6 +1,8 @@
 #include "pagamento/UnTarvoESocialCamposdetRubrFer.h"
 
+#include "imports/UnOvraConversoes.h"
 #include "imports/UnTarvoConsultasVerbas.h"
+#include "imports/UnTarvoUtilsDb.h"
 
 namespace tarvo::pagamento {
 
@@ -43,7 +45,9 @@ void TTarvoESocialCamposdetRubrFer::CarregarDados(const TListaCamposModificados*
 
 std::string TTarvoESocialCamposdetRubrFer::BuscarCodRubr()
 {
-    return BuscarIncidenciasDaVerba().FCodVerba == 0 ? std::string() : ComporCodRubrDaVerba();
+    if (BuscarIncidenciasDaVerba().FCodVerba == 0)
+        return {};
+    return ComporCodRubrDaVerba(FormatarListaParaClausulaIN("TAB_VERBAS", "IDVERBA", IntToStr(IdVerba), " WHERE "));
 }
 
 } // namespace tarvo::pagamento

@@ -43,7 +43,7 @@ void TTarvoESocialCamposretPgtoTot::AlimentarPropriedadesDaTag()
 std::string TTarvoESocialCamposretPgtoTot::BuscarCodRubrEmpregado()
 {
     BuscarIncidenciasDaVerba();
-    return ComporCodRubrDaVerba();
+    return ComporCodRubrDaVerba(Format(" WHERE TAB_VERBAS.IDVERBA = %D ", IdVerba));
 }
 
 std::string TTarvoESocialCamposretPgtoTot::BuscarCodRubrPrestador() const
