@@ -10,8 +10,7 @@ namespace tarvo::desligamento {
 
 // Alimony and income tax go into the payment. '5EA' and '99H' are read all the same: their sum goes into '7L'.
 TS2299DadosCalculos::TS2299DadosCalculos(TdmDevS2299IOP& ADadosDmDev)
-    : TDadosCalculosDesligamento(
-          ADadosDmDev, "'5E', '5EC', '5EB', '99F', '99G', '99GA', '99HA', '99I', '99K', '99M'"),
+    : TDadosCalculosDesligamento(ADadosDmDev, "'5E', '5EC', '5EB', '99F', '99G', '99GA', '99HA', '99I', '99K', '99M'"),
       FDados(ADadosDmDev)
 {}
 
@@ -60,13 +59,11 @@ TDataset TS2299DadosCalculos::BuscarCalculo()
 // The items of a dismissal lie under the monthly payroll. A company that splits shows only the split rows.
 TDataset TS2299DadosCalculos::BuscarCalculoRescisao()
 {
-    const auto LCondicoes =
-        "CALCULO.TIPO = '01'\n  AND CALCULO.SUBTIPO IN (104, 105)\n  AND " +
-        CondicaoDoPeriodo(FDados.GetPrimeiroDiaMesRescisao(), FDados.GetUltimoDiaMesRescisao());
+    const auto LCondicoes = "CALCULO.TIPO = '01'\n  AND CALCULO.SUBTIPO IN (104, 105)\n  AND " +
+                            CondicaoDoPeriodo(FDados.GetPrimeiroDiaMesRescisao(), FDados.GetUltimoDiaMesRescisao());
     FSqlCalc = SqlDoCalculo(LCondicoes) + std::string(ORDEM_DO_CALCULO);
-    FSqlCalcQuebra =
-        SqlDaQuebra(LCondicoes) +
-        "\nORDER BY CALCULO.COD_EMPRESA, CALC_QUEBRA.COD_FILIAL, CALC_QUEBRA.COD_DEPTO, TAB_VERBAS.CODIGO";
+    FSqlCalcQuebra = SqlDaQuebra(LCondicoes) +
+                     "\nORDER BY CALCULO.COD_EMPRESA, CALC_QUEBRA.COD_FILIAL, CALC_QUEBRA.COD_DEPTO, TAB_VERBAS.CODIGO";
     return TTarvoConsultasGeral::BuscarCalculoEventoESocial(FDados.TipoQuebraEmpresa, FSqlCalc, FSqlCalcQuebra);
 }
 
@@ -76,7 +73,8 @@ TDataset TS2299DadosCalculos::BuscarCalculoComplementarPagoNaCompet() const
         Format("CALCULO.TIPO = '%0:s'\n  AND CALCULO.SUBTIPO = 4\n  AND CALCULO.DATA_PAGTO = %1:s\n  AND %2:s",
                FDados.TipoFolha, FormatarDataDB(FDados.DataPagamento, true),
                CondicaoDoPeriodo(FDados.DataInicio, FDados.DataFim));
-    return TTarvoConsultasGeral::BuscarRegistrosSomenteLeitura(SqlDoCalculo(LCondicoes) + std::string(ORDEM_DO_CALCULO));
+    return TTarvoConsultasGeral::BuscarRegistrosSomenteLeitura(SqlDoCalculo(LCondicoes) +
+                                                               std::string(ORDEM_DO_CALCULO));
 }
 
 TDataset TS2299DadosCalculos::BuscarCalculoIntermitente()
@@ -86,9 +84,8 @@ TDataset TS2299DadosCalculos::BuscarCalculoIntermitente()
         return Format(AModelo, FDados.IdDetConvocacaoTrabInterm, FDados.TipoFolha,
                       CondicaoDoPeriodo(FDados.DataInicio, FDados.DataFim));
     };
-    FSqlCalc =
-        SqlDoCalculo(Condicoes("CALCULO.IDDETCONVOCACAO = %0:d\n  AND CALCULO.TIPO = '%1:s'\n  AND %2:s")) +
-        std::string(ORDEM_DO_CALCULO);
+    FSqlCalc = SqlDoCalculo(Condicoes("CALCULO.IDDETCONVOCACAO = %0:d\n  AND CALCULO.TIPO = '%1:s'\n  AND %2:s")) +
+               std::string(ORDEM_DO_CALCULO);
     FSqlCalcQuebra =
         SqlDaQuebraOuDoCalculo(Condicoes("CALCULO.IDDETCONVOCACAO = %0:d\n  AND CALCULO.TIPO = %1:s\n  AND %2:s"));
     return TTarvoConsultasGeral::BuscarCalculoEventoESocial(FDados.TipoQuebraEmpresa, FSqlCalc, FSqlCalcQuebra);

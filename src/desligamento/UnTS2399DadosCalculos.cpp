@@ -6,8 +6,8 @@
 namespace tarvo::desligamento {
 
 TS2399DadosCalculos::TS2399DadosCalculos(TdmDevS2399IOP& ADadosDmDev)
-    : TDadosCalculosDesligamento(
-          ADadosDmDev, "'5E', '5EC', '5EB', '5EA', '99F', '99G', '99GA', '99H', '99HA', '99I', '99K', '99M'")
+    : TDadosCalculosDesligamento(ADadosDmDev,
+                                 "'5E', '5EC', '5EB', '5EA', '99F', '99G', '99GA', '99H', '99HA', '99I', '99K', '99M'")
 {}
 
 void TS2399DadosCalculos::CarregarRegistrosCalculo()
@@ -39,9 +39,9 @@ TDataset TS2399DadosCalculos::BuscarCalculo()
 TDataset TS2399DadosCalculos::BuscarCalculoRescisao()
 {
     const auto Condicoes = [&](std::string_view ATipo) {
-        return Format("CALCULO.TIPO = %0:s\n  AND CALCULO.SUBTIPO IN (104, 105)\n  AND %1:s", ATipo,
-                      CondicaoDoPeriodo(DadosDmDev().GetPrimeiroDiaMesRescisao(),
-                                        DadosDmDev().GetUltimoDiaMesRescisao()));
+        return Format(
+            "CALCULO.TIPO = %0:s\n  AND CALCULO.SUBTIPO IN (104, 105)\n  AND %1:s", ATipo,
+            CondicaoDoPeriodo(DadosDmDev().GetPrimeiroDiaMesRescisao(), DadosDmDev().GetUltimoDiaMesRescisao()));
     };
     FSqlCalc = SqlDoCalculo(Condicoes("'01'")) +
                "\nORDER BY CALCULO.COD_EMPRESA, CALCULO.COD_FILIAL, CALCULO.COD_DEPTO, TAB_VERBAS.IDVERBA";

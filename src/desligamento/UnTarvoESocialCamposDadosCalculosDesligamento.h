@@ -65,7 +65,8 @@ protected:
     TDadosCalculosDesligamento(TdmDevDesligamentoIOP& ADadosDmDev, std::string_view AFormulasExcluidas);
 
     /// The rows of CALCULO, without an order. AJuncoes stands before the WHERE.
-    std::string SqlDoCalculo(std::string_view ACondicoes, std::string_view AColunas, std::string_view AJuncoes = {}) const;
+    std::string SqlDoCalculo(std::string_view ACondicoes, std::string_view AColunas,
+                             std::string_view AJuncoes = {}) const;
     /// With the columns that every statement has.
     std::string SqlDoCalculo(std::string_view ACondicoes) const;
     /// The rows of CALC_QUEBRA, without an order.

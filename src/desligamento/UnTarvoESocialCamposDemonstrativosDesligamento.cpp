@@ -9,8 +9,7 @@ namespace tarvo::desligamento {
 
 TRamoDeDemonstrativo RamoRescisaoComplementar(const TdmDevDesligamentoIOP& ADmDev, std::string AColunas)
 {
-    static const std::string JUNCOES =
-        "\nJOIN " + std::string(RESC_COMPL_DO_CALCULO) + std::string(JUNCAO_VERBAS);
+    static const std::string JUNCOES = "\nJOIN " + std::string(RESC_COMPL_DO_CALCULO) + std::string(JUNCAO_VERBAS);
     static constexpr std::string_view CONDICOES = R"(CALCULO.TIPO = '05'
   AND CALCULO.SUBTIPO = 2
   AND ((RESC_COMPL.IDINFOGFIP650660 IS NULL) OR (CALCULO.DATA_PAGTO BETWEEN %0:s AND %1:s )))";
@@ -71,8 +70,8 @@ std::string FormarIdeDmDevDesligamento(const TdmDevDesligamentoIOP& ADmDev, std:
     else if (ADmDev.TipoCalculo == Intermitente)
         LDados.IdDetConvocacao = AIdDetConvocacao;
     if (TTarvoConsultasEmpregado::ExistemVariosVinculosAtivosComCategDiferentes(ADmDev.IDEmpregado, ADmDev.DataInicio))
-        LDados.CodCateg = static_cast<std::int32_t>(StrToInt64Def(
-            TTarvoConsultasEmpregado::BuscarCodCategoriaEmpregado(ADmDev.IDEmpregado).substr(0, 3), 0));
+        LDados.CodCateg = static_cast<std::int32_t>(
+            StrToInt64Def(TTarvoConsultasEmpregado::BuscarCodCategoriaEmpregado(ADmDev.IDEmpregado).substr(0, 3), 0));
     return remuneracao::FormarIdeDmDev(LDados);
 }
 

@@ -152,16 +152,15 @@ void TTarvoESocialCamposdmDevS2299::CarregarDados(const TListaCamposModificados*
 void TTarvoESocialCamposdmDevS2299::AtribuirValoresManualmente()
 {
     TTarvoESocialCamposGrupoBase::AtribuirValoresManualmente();
-    ideDmDev = FormarIdeDmDevDesligamento(FDadosDmDev, FDadosDmDev.TipoCalcComplem,
-                                          FDadosDmDev.IdDetConvocacaoTrabInterm);
+    ideDmDev =
+        FormarIdeDmDevDesligamento(FDadosDmDev, FDadosDmDev.TipoCalcComplem, FDadosDmDev.IdDetConvocacaoTrabInterm);
 }
 
 void TTarvoESocialCamposdmDevS2299::CarregarDadosInfoTrabInterm()
 {
     if (FDadosDmDev.IdDetConvocacaoTrabInterm == 0)
         return;
-    auto LConvocacao =
-        std::make_unique<TTarvoESocialCamposInfoTrabIntermS2299>(FDadosDmDev.IdDetConvocacaoTrabInterm);
+    auto LConvocacao = std::make_unique<TTarvoESocialCamposInfoTrabIntermS2299>(FDadosDmDev.IdDetConvocacaoTrabInterm);
     LConvocacao->CarregarDados();
     infoTrabInterm.push_back(std::move(LConvocacao));
 }

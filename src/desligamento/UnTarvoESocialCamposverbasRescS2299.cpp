@@ -29,10 +29,9 @@ std::string SqlDosDemonstrativos(const TdmDevS2299IOP& ADmDev)
     const auto LFim = FormatarDataDB(ADmDev.GetUltimoDiaMesRescisao(), true);
 
     // Says only that a dismissal was calculated, in whatever month; its items are read from the monthly payroll.
-    const TRamoDeDemonstrativo LRescisao{
-        Rescisao, Colunas("0", "0", "0", "0"), JUNCAO_VERBAS,
-        "CALCULO.TIPO = '05'\n  AND CALCULO.SUBTIPO = 0" + std::string(SEM_BASE_DO_SALARIO_FAMILIA) +
-            "\n  AND CALCULO.VALOR > 0"};
+    const TRamoDeDemonstrativo LRescisao{Rescisao, Colunas("0", "0", "0", "0"), JUNCAO_VERBAS,
+                                         "CALCULO.TIPO = '05'\n  AND CALCULO.SUBTIPO = 0" +
+                                             std::string(SEM_BASE_DO_SALARIO_FAMILIA) + "\n  AND CALCULO.VALOR > 0"};
     const auto LComplementar = RamoRescisaoComplementar(
         ADmDev, Colunas("CALCULO.SUBTIPO", "COALESCE(RESC_COMPL.IDINFOGFIP650660, 0)", "0", "0"));
     const auto LOutros = RamoOutrosTiposNaCompetencia(ADmDev, Colunas("0", "0", "0", "0"));
@@ -49,7 +48,9 @@ std::string SqlDosDemonstrativos(const TdmDevS2299IOP& ADmDev)
                "  AND CALCULO.DATA_FIM BETWEEN %0:s AND %1:s",
                LInicio, LFim)};
 
-    const auto Ramo = [&](const TRamoDeDemonstrativo& ARamo) { return SqlDoRamo(ARamo, TIPO_CALC, ADmDev.IDEmpregado); };
+    const auto Ramo = [&](const TRamoDeDemonstrativo& ARamo) {
+        return SqlDoRamo(ARamo, TIPO_CALC, ADmDev.IDEmpregado);
+    };
     static constexpr std::string_view SQL = R"(SELECT * FROM (
 %0:s
 UNION

@@ -22,7 +22,9 @@ std::string SqlDosDemonstrativos(const TdmDevS2399IOP& ADmDev)
     LComplementar.Condicoes += std::string(SEM_INFORMATIVAS) + "\n  AND TAB_VERBAS.FORMULA <> '8J'";
     const auto LOutros = RamoOutrosTiposNaCompetencia(ADmDev, "0 AS SUBTIPO");
 
-    const auto Ramo = [&](const TRamoDeDemonstrativo& ARamo) { return SqlDoRamo(ARamo, TIPO_CALC, ADmDev.IDEmpregado); };
+    const auto Ramo = [&](const TRamoDeDemonstrativo& ARamo) {
+        return SqlDoRamo(ARamo, TIPO_CALC, ADmDev.IDEmpregado);
+    };
     static constexpr std::string_view SQL = R"(SELECT * FROM (
 %0:s
 UNION
