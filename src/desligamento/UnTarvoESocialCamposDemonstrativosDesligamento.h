@@ -1,6 +1,5 @@
 #pragma once
 
-#include <memory>
 #include <string>
 #include <string_view>
 
@@ -47,18 +46,5 @@ std::string FormarIdeDmDevDesligamento(const TdmDevDesligamentoIOP& ADmDev, std:
 /// transfer.
 bool ValidouEnvioDasVerbas(std::int64_t AIdEmpregado, TDateTime ADataDesligamento,
                            TDateTime ADataInicioEventosPeriodicos);
-
-/// Adds the judicial processes of the worker that were opened by the day of the dismissal.
-template <class TProcJudTrab>
-void CarregarProcJudTrab(TListaDeGrupos<TProcJudTrab>& ALista, std::int64_t AIdEmpresa, std::int64_t AIdEmpregado,
-                         TDateTime ADataDemissao)
-{
-    for (const auto& LId :
-         TTarvoConsultasEmpregado::BuscarProcessosDoEmpregado(AIdEmpresa, AIdEmpregado, "", ADataDemissao)) {
-        auto LProcesso = std::make_unique<TProcJudTrab>(StrToInt64Def(LId, 0));
-        LProcesso->CarregarDados();
-        ALista.push_back(std::move(LProcesso));
-    }
-}
 
 } // namespace tarvo::desligamento

@@ -20,7 +20,54 @@ std::string Colunas(std::string_view ASubTipo, std::string_view AAcordo, std::st
                   ASubTipo, AAcordo, ATipoComplementar, AConvocacao);
 }
 
-std::string SqlDosDemonstrativos(const TdmDevS2299IOP& ADmDev)
+} // namespace
+
+TTarvoESocialCamposProcCSS2299::TTarvoESocialCamposProcCSS2299(std::int64_t AIDEmpregado)
+    : TTarvoESocialCamposGrupoBase("{1306B918-E56E-414F-BC68-B769B22CF9E3}"), FIDEmpregado(AIDEmpregado)
+{}
+
+const TPropriedades& TTarvoESocialCamposProcCSS2299::Propriedades() const
+{
+    static const TPropriedades tabela{
+        {"nrProcJud", &TTarvoESocialCamposProcCSS2299::nrProcJud, TFieldRelacionado("NUMERO")}};
+    return tabela;
+}
+
+std::string TTarvoESocialCamposProcCSS2299::BuscarSQLDados()
+{
+    static constexpr std::string_view SQL = R"(SELECT ES02_SPPROC.*
+FROM ES02_SPPROC
+WHERE ES02_SPPROC.INDMATERIA IN (1,7)
+  AND ES02_SPPROC.IDFILIAL = (SELECT ALOC.IDFILIAL FROM SP_BUSCARALOCACAOEMPREGADO(
+    (SELECT FIRST 1 EMPREGADOS.DATA_DEMISSAO FROM EMPREGADOS WHERE EMPREGADOS.IDEMPREGADO = %0:d), NULL, %0:d) ALOC)
+  AND ES02_SPPROC.IDEMPREGADO IS NULL)";
+    return Format(SQL, FIDEmpregado);
+}
+
+TTarvoESocialCamposverbasRescS2299::TTarvoESocialCamposverbasRescS2299(std::int64_t AIdEmpregado)
+    : TTarvoESocialCamposverbasRescDesligamento("{4205BB77-1CCD-44B0-9F98-156349E751AB}", AIdEmpregado),
+      procCs(AIdEmpregado)
+{}
+
+const TPropriedades& TTarvoESocialCamposverbasRescS2299::Propriedades() const
+{
+    using Eu = TTarvoESocialCamposverbasRescS2299;
+    static const TPropriedades tabela{
+        {"dmDev", &Eu::dmDev},
+        {"procJudTrab", &Eu::procJudTrab},
+        {"infoMV", &Eu::infoMV},
+        {"procCs", &Eu::procCs},
+    };
+    return tabela;
+}
+
+void TTarvoESocialCamposverbasRescS2299::CarregarDados(const TListaCamposModificados* AListaCamposModificados)
+{
+    TTarvoESocialCamposverbasRescDesligamento::CarregarDados(AListaCamposModificados);
+    procCs.CarregarDados(AListaCamposModificados);
+}
+
+std::string TTarvoESocialCamposverbasRescS2299::SqlDosDemonstrativos(const TdmDevS2299IOP& ADmDev) const
 {
     using enum TTipoCalculoDesligamento;
     static const std::string JUNCOES_DO_ACORDO =
@@ -66,81 +113,13 @@ ORDER BY TIPO_CALC_S2299, DATA_INICIO, TIPO, SUBTIPO, IDDETCONVOCACAO)";
     return Format(SQL, Ramo(LRescisao), Ramo(LComplementar), Ramo(LOutros), Ramo(LAcordo), Ramo(LIntermitente));
 }
 
-} // namespace
-
-TTarvoESocialCamposProcCSS2299::TTarvoESocialCamposProcCSS2299(std::int64_t AIDEmpregado)
-    : TTarvoESocialCamposGrupoBase("{1306B918-E56E-414F-BC68-B769B22CF9E3}"), FIDEmpregado(AIDEmpregado)
-{}
-
-const TPropriedades& TTarvoESocialCamposProcCSS2299::Propriedades() const
+void TTarvoESocialCamposverbasRescS2299::AlimentarDemonstrativo(TdmDevS2299IOP& ADmDev,
+                                                                const TOvraClientDataSet& ACds) const
 {
-    static const TPropriedades tabela{
-        {"nrProcJud", &TTarvoESocialCamposProcCSS2299::nrProcJud, TFieldRelacionado("NUMERO")}};
-    return tabela;
-}
-
-std::string TTarvoESocialCamposProcCSS2299::BuscarSQLDados()
-{
-    static constexpr std::string_view SQL = R"(SELECT ES02_SPPROC.*
-FROM ES02_SPPROC
-WHERE ES02_SPPROC.INDMATERIA IN (1,7)
-  AND ES02_SPPROC.IDFILIAL = (SELECT ALOC.IDFILIAL FROM SP_BUSCARALOCACAOEMPREGADO(
-    (SELECT FIRST 1 EMPREGADOS.DATA_DEMISSAO FROM EMPREGADOS WHERE EMPREGADOS.IDEMPREGADO = %0:d), NULL, %0:d) ALOC)
-  AND ES02_SPPROC.IDEMPREGADO IS NULL)";
-    return Format(SQL, FIDEmpregado);
-}
-
-TTarvoESocialCamposverbasRescS2299::TTarvoESocialCamposverbasRescS2299(std::int64_t AIdEmpregado)
-    : TTarvoESocialCamposGrupoBase("{4205BB77-1CCD-44B0-9F98-156349E751AB}"), infoMV(AIdEmpregado),
-      procCs(AIdEmpregado), FIdEmpregado(AIdEmpregado),
-      FIDEmpresa(TTarvoConsultasEmpregado::BuscarIDEmpresaDoEmpregado(AIdEmpregado)),
-      FDataDemissao(TTarvoConsultasEmpregado::BuscarDataDemissao(AIdEmpregado))
-{}
-
-const TPropriedades& TTarvoESocialCamposverbasRescS2299::Propriedades() const
-{
-    using Eu = TTarvoESocialCamposverbasRescS2299;
-    static const TPropriedades tabela{
-        {"dmDev", &Eu::dmDev},
-        {"procJudTrab", &Eu::procJudTrab},
-        {"infoMV", &Eu::infoMV},
-        {"procCs", &Eu::procCs},
-    };
-    return tabela;
-}
-
-void TTarvoESocialCamposverbasRescS2299::CarregarDados(const TListaCamposModificados* AListaCamposModificados)
-{
-    TTarvoESocialCamposGrupoBase::CarregarDados(AListaCamposModificados);
-    CarregarDadosDmDev();
-    CarregarDadosProcJudTrab();
-    infoMV.CarregarDados(AListaCamposModificados);
-    procCs.CarregarDados(AListaCamposModificados);
-}
-
-void TTarvoESocialCamposverbasRescS2299::CarregarDadosDmDev()
-{
-    TdmDevS2299IOP LDmDev;
-    LDmDev.IDEmpregado = FIdEmpregado;
-    LDmDev.TipoQuebraEmpresa = TTarvoConsultasEmpresa::BuscarTipoQuebraGpsGfipEmpresa(FIDEmpresa);
-    LDmDev.DataDemissao = FDataDemissao;
-
-    const auto LCds = TTarvoConsultasGeral::BuscarRegistrosSomenteLeitura(SqlDosDemonstrativos(LDmDev));
-    for (; !LCds->Eof(); LCds->Next()) {
-        AlimentarDmDev(LDmDev, *LCds, TIPO_CALC);
-        LDmDev.TipoCalcComplem = LCds->FieldByName("TIPO_CALC_COMPL").AsInteger();
-        LDmDev.IdAcordoConvencaoDissidio = LCds->FieldByName("IDACORDO").AsLargeInt();
-        LDmDev.IdDetConvocacaoTrabInterm = LCds->FieldByName("IDDETCONVOCACAO").AsLargeInt();
-        auto LDemonstrativo = std::make_unique<TTarvoESocialCamposdmDevS2299>(LDmDev);
-        LDemonstrativo->CarregarDados();
-        if (!LDemonstrativo->Vazio())
-            dmDev.push_back(std::move(LDemonstrativo));
-    }
-}
-
-void TTarvoESocialCamposverbasRescS2299::CarregarDadosProcJudTrab()
-{
-    CarregarProcJudTrab(procJudTrab, FIDEmpresa, FIdEmpregado, FDataDemissao);
+    AlimentarDmDev(ADmDev, ACds, TIPO_CALC);
+    ADmDev.TipoCalcComplem = ACds.FieldByName("TIPO_CALC_COMPL").AsInteger();
+    ADmDev.IdAcordoConvencaoDissidio = ACds.FieldByName("IDACORDO").AsLargeInt();
+    ADmDev.IdDetConvocacaoTrabInterm = ACds.FieldByName("IDDETCONVOCACAO").AsLargeInt();
 }
 
 } // namespace tarvo::desligamento

@@ -3,6 +3,7 @@
 #include "desligamento/UnTarvoESocialCamposdmDevS2299.h"
 #include "desligamento/UnTarvoESocialCamposinfoMVDesligamento.h"
 #include "desligamento/UnTarvoESocialCamposprocJudTrabDesligamento.h"
+#include "desligamento/UnTarvoESocialCamposverbasRescDesligamento.h"
 
 namespace tarvo::desligamento {
 
@@ -24,27 +25,21 @@ private:
 
 /// S-2299 verbasResc: what the dismissal paid, one demonstrative a calculation. The constructor reads the company and
 /// the day of the dismissal. Sources: CALCULO, RESC_COMPL, the complementary calculations by agreement.
-class TTarvoESocialCamposverbasRescS2299 : public TTarvoESocialCamposGrupoBase {
+class TTarvoESocialCamposverbasRescS2299
+    : public TTarvoESocialCamposverbasRescDesligamento<TdmDevS2299IOP, TTarvoESocialCamposdmDevS2299,
+                                                       TTarvoESocialCamposprocJudTrabS2299,
+                                                       TTarvoESocialCamposinfoMVS2299> {
 public:
     explicit TTarvoESocialCamposverbasRescS2299(std::int64_t AIdEmpregado);
 
-    TListaDeGrupos<TTarvoESocialCamposdmDevS2299> dmDev;
-    TListaDeGrupos<TTarvoESocialCamposprocJudTrabS2299> procJudTrab;
-    TTarvoESocialCamposinfoMVS2299 infoMV;
     TTarvoESocialCamposProcCSS2299 procCs;
 
     void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
 
 protected:
     const TPropriedades& Propriedades() const override;
-
-private:
-    void CarregarDadosDmDev();
-    void CarregarDadosProcJudTrab();
-
-    std::int64_t FIdEmpregado;
-    std::int64_t FIDEmpresa;
-    TDateTime FDataDemissao;
+    std::string SqlDosDemonstrativos(const TdmDevS2299IOP& ADmDev) const override;
+    void AlimentarDemonstrativo(TdmDevS2299IOP& ADmDev, const TOvraClientDataSet& ACds) const override;
 };
 
 } // namespace tarvo::desligamento

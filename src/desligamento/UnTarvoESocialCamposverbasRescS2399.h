@@ -3,6 +3,7 @@
 #include "desligamento/UnTarvoESocialCamposideEstabLotDesligamento.h"
 #include "desligamento/UnTarvoESocialCamposinfoMVDesligamento.h"
 #include "desligamento/UnTarvoESocialCamposprocJudTrabDesligamento.h"
+#include "desligamento/UnTarvoESocialCamposverbasRescDesligamento.h"
 
 namespace tarvo::desligamento {
 
@@ -14,6 +15,9 @@ public:
 
     TListaDeGrupos<TTarvoESocialCamposideEstabLotS2399> ideEstabLot;
     std::string ideDmDev;
+
+    /// Nothing was paid: not reported.
+    bool Vazio() const { return ideEstabLot.empty(); }
 
     void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
 
@@ -28,26 +32,16 @@ private:
 
 /// S-2399 verbasResc: what the end of the work paid, one demonstrative a calculation. The constructor reads the company
 /// and the day of the end. Sources: CALCULO, RESC_COMPL.
-class TTarvoESocialCamposverbasRescS2399 : public TTarvoESocialCamposGrupoBase {
+class TTarvoESocialCamposverbasRescS2399
+    : public TTarvoESocialCamposverbasRescDesligamento<TdmDevS2399IOP, TTarvoESocialCamposdmDev2399,
+                                                       TTarvoESocialCamposprocJudTrabS2399,
+                                                       TTarvoESocialCamposinfoMVS2399> {
 public:
     explicit TTarvoESocialCamposverbasRescS2399(std::int64_t AIdEmpregado);
 
-    TListaDeGrupos<TTarvoESocialCamposdmDev2399> dmDev;
-    TListaDeGrupos<TTarvoESocialCamposprocJudTrabS2399> procJudTrab;
-    TTarvoESocialCamposinfoMVS2399 infoMV;
-
-    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
-
 protected:
-    const TPropriedades& Propriedades() const override;
-
-private:
-    void CarregarDadosDmDev();
-    void CarregarDadosProcJudTrab();
-
-    std::int64_t FIdEmpregado;
-    std::int64_t FIDEmpresa;
-    TDateTime FDataDemissao;
+    std::string SqlDosDemonstrativos(const TdmDevS2399IOP& ADmDev) const override;
+    void AlimentarDemonstrativo(TdmDevS2399IOP& ADmDev, const TOvraClientDataSet& ACds) const override;
 };
 
 } // namespace tarvo::desligamento
