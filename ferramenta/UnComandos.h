@@ -10,5 +10,7 @@ void RegistrarCriarBanco(CLI::App& AApp, TComandos& AComandos);
 void RegistrarEventos(CLI::App& AApp, TComandos& AComandos);
 void RegistrarCarregar(CLI::App& AApp, TComandos& AComandos);
 void RegistrarReverter(CLI::App& AApp, TComandos& AComandos);
+void RegistrarLote(CLI::App& AApp, TComandos& AComandos);
+void RegistrarIncidencias(CLI::App& AApp, TComandos& AComandos);
 
 } // namespace tarvo::ferramenta

@@ -9,6 +9,7 @@
 
 #include "ferramenta/UnErros.h"
 #include "imports/UnOvraEsocialReinfControleAmbientes.h"
+#include "imports/UnOvraUtilsDialogs.h"
 #include "imports/UnTarvoConexaoBrenco.h"
 
 namespace tarvo::ferramenta {
@@ -89,6 +90,7 @@ TContexto::TContexto(const TOpcoesDoContexto& AOpcoes)
     }
     BuscarInstanciaOvraEsocialReinfControleAmbientes().DefinirTpAmb(AOpcoes.Ambiente == "2" ? 2 : 1);
     DefinirOvraConnection(FConexao.get());
+    GOvraUtilsDialogs.DefinirReacao([](const std::string& AMensagem) { std::cerr << AMensagem << "\n"; });
     if (FRastro != nullptr) {
         for (auto* LConexao : {FConexao.get(), FBrenco.get()})
             if (LConexao != nullptr)
@@ -98,6 +100,7 @@ TContexto::TContexto(const TOpcoesDoContexto& AOpcoes)
 
 TContexto::~TContexto()
 {
+    GOvraUtilsDialogs.DefinirReacao(nullptr);
     DefinirOvraConnection(nullptr);
     BuscarInstanciaTarvoConexaoBrenco().DefinirConexao(nullptr);
     BuscarInstanciaTarvoConexaoBrencoUsuario().DefinirUsuarioTemPermissao(false);

@@ -35,9 +35,9 @@ const char* ExemploDoTipo(int ATipo)
     return "VALOR";
 }
 
-void AdicionarEventos(CLI::App& AComando, TEventoDaLinha& AEvento,
-                      const std::function<bool(const TEventoDoCatalogo&)>& AAceita,
-                      const std::function<std::string(const TEventoDoCatalogo&)>& AOmitir)
+void AdicionarEventos(
+    CLI::App& AComando, TEventoDaLinha& AEvento, const std::function<bool(const TEventoDoCatalogo&)>& AAceita,
+    const std::function<const std::vector<TArgumentoDeEvento>&(const TEventoDoCatalogo&)>& AArgumentos)
 {
     for (const auto& LEvento : CatalogoDeEventos()) {
         if (AAceita && !AAceita(LEvento))
@@ -45,11 +45,8 @@ void AdicionarEventos(CLI::App& AComando, TEventoDaLinha& AEvento,
         auto& LApp = *AComando.add_subcommand(LEvento.Codigo, LEvento.Titulo);
         LApp.ignore_case()->fallthrough()->allow_extras()->group("Eventos");
         LApp.footer("Mais as opções de 'esocial-campos " + AComando.get_name() + " --ajuda'.");
-        const std::string LOmitido = AOmitir ? AOmitir(LEvento) : std::string();
         auto& LValores = AEvento.Valores[LEvento.Codigo];
-        for (const auto& LArgumento : LEvento.Argumentos) {
-            if (LOmitido == LArgumento.Nome)
-                continue;
+        for (const auto& LArgumento : AArgumentos ? AArgumentos(LEvento) : LEvento.Argumentos) {
             std::string LNomes = std::string("--") + LArgumento.Nome;
             if (LArgumento.OutroNome != nullptr)
                 LNomes += std::string(",--") + LArgumento.OutroNome;

@@ -4,14 +4,16 @@
 #include <functional>
 #include <map>
 #include <string>
+#include <vector>
 
 namespace CLI {
 class App;
 }
 
 namespace tarvo {
+struct TArgumentoDeEvento;
 struct TEventoDoCatalogo;
-}
+} // namespace tarvo
 
 namespace tarvo::ferramenta {
 
@@ -43,11 +45,10 @@ struct TEventoDaLinha {
     std::map<std::string, std::string> Argumentos() const;
 };
 
-/// Lets a command take an event and the event's arguments as options; AOmitir is an argument that the command itself
-/// fills, of each event.
-void AdicionarEventos(CLI::App& AComando, TEventoDaLinha& AEvento,
-                      const std::function<bool(const TEventoDoCatalogo&)>& AAceita = {},
-                      const std::function<std::string(const TEventoDoCatalogo&)>& AOmitir = {});
+/// Lets a command take an event and its arguments as options: the event's own, or those that AArgumentos gives.
+void AdicionarEventos(
+    CLI::App& AComando, TEventoDaLinha& AEvento, const std::function<bool(const TEventoDoCatalogo&)>& AAceita = {},
+    const std::function<const std::vector<TArgumentoDeEvento>&(const TEventoDoCatalogo&)>& AArgumentos = {});
 
 /// The example of an argument's value: "ID", "AAAA-MM-DD".
 const char* ExemploDoTipo(int ATipo);

@@ -95,6 +95,8 @@ int main(int argc, char** argv)
     RegistrarEventos(LApp, LComandos);
     RegistrarCarregar(LApp, LComandos);
     RegistrarReverter(LApp, LComandos);
+    RegistrarLote(LApp, LComandos);
+    RegistrarIncidencias(LApp, LComandos);
     try {
         LApp.parse(argc, argv);
         return Executar(LApp, LComandos);

@@ -134,6 +134,35 @@ ORDER BY EMPREGADOS.IDEMPREGADO)";
                   FormatarDataDB(AArgumentos.Data("DataFim"), true), ASemVinculo ? ">=" : "<");
 }
 
+constexpr std::string_view CATS_DA_EMPRESA = R"(SELECT TABCAT.IDTABCAT AS AIDTABCAT
+FROM TABCAT
+JOIN SC00_EMPRESA ON (SC00_EMPRESA.EMPRESA = TABCAT.COD_EMPRESA)
+WHERE SC00_EMPRESA.IDEMPRESA = %0:d
+ORDER BY TABCAT.IDTABCAT)";
+constexpr std::string_view EMPREGADOS_DA_EMPRESA = R"(SELECT EMPREGADOS.IDEMPREGADO AS AIDEMPREGADO
+FROM EMPREGADOS
+WHERE EMPREGADOS.IDEMPRESA = %0:d
+ORDER BY EMPREGADOS.IDEMPREGADO)";
+constexpr std::string_view EXAMES_DA_EMPRESA =
+    R"(SELECT FP_EXAMETOXICOLOGICO.IDEXAMETOXICOLOGICO AS AIDEXAMETOXICOLOGICO
+FROM FP_EXAMETOXICOLOGICO
+JOIN EMPREGADOS ON (EMPREGADOS.IDEMPREGADO = FP_EXAMETOXICOLOGICO.IDEMPREGADO)
+WHERE EMPREGADOS.IDEMPRESA = %0:d
+ORDER BY FP_EXAMETOXICOLOGICO.IDEXAMETOXICOLOGICO)";
+constexpr std::string_view CURSOS_DA_EMPRESA = R"(SELECT FP_CURSOEMPREGADO.IDCURSOEMPREGADO AS AIDCURSOEMPREGADO
+FROM FP_CURSOEMPREGADO
+JOIN EMPREGADOS ON (EMPREGADOS.IDEMPREGADO = FP_CURSOEMPREGADO.IDEMPREGADO)
+WHERE EMPREGADOS.IDEMPRESA = %0:d
+ORDER BY FP_CURSOEMPREGADO.IDCURSOEMPREGADO)";
+
+/// The batch of an event whose keys are the rows of a company: Sql lists them, with the company as its argument.
+template <const std::string_view& Sql>
+TLoteDoEvento LoteDaEmpresa()
+{
+    return {{{"IdEmpresa", taId, "código interno da empresa"}},
+            [](const TArgumentosDeEvento& A) { return Format(Sql, A.Id("IdEmpresa")); }};
+}
+
 /// A value of a key as text of an argument, and as JSON.
 std::pair<std::string, std::string> LerChave(const TConjuntoDeLinhas& ALinhas, std::size_t ALinha, std::size_t AColuna)
 {
@@ -332,17 +361,20 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
         {"S-2210",
          "Comunicação de acidente de trabalho",
          {{"AIdTabCat", taId, "código interno da CAT"}},
-         [](const TArgumentosDeEvento& A) { return Evento<sst::TTarvoESocialCamposS2210>(A.Id("AIdTabCat")); }},
+         [](const TArgumentosDeEvento& A) { return Evento<sst::TTarvoESocialCamposS2210>(A.Id("AIdTabCat")); },
+         LoteDaEmpresa<CATS_DA_EMPRESA>()},
         {"S-2220",
          "Monitoramento da saúde do trabalhador",
          {{"AIDEmpregado", taId, "código interno do empregado"}},
-         [](const TArgumentosDeEvento& A) { return Evento<sst::TTarvoESocialCamposS2220>(A.Id("AIDEmpregado")); }},
+         [](const TArgumentosDeEvento& A) { return Evento<sst::TTarvoESocialCamposS2220>(A.Id("AIDEmpregado")); },
+         LoteDaEmpresa<EMPREGADOS_DA_EMPRESA>()},
         {"S-2221",
          "Exame toxicológico do motorista profissional",
          {{"AIdExameToxicologico", taId, "código interno do exame"}},
          [](const TArgumentosDeEvento& A) {
              return Evento<sst::TTarvoESocialCamposS2221>(A.Id("AIdExameToxicologico"));
-         }},
+         },
+         LoteDaEmpresa<EXAMES_DA_EMPRESA>()},
         {"S-2230",
          "Afastamento temporário",
          {{"AIdSituacao", taId, "código interno da situação"},
@@ -362,7 +394,8 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
         {"S-2245",
          "Treinamentos e capacitações",
          {{"AIdCursoEmpregado", taId, "código interno do curso do empregado"}},
-         [](const TArgumentosDeEvento& A) { return Evento<sst::TTarvoESocialCamposS2245>(A.Id("AIdCursoEmpregado")); }},
+         [](const TArgumentosDeEvento& A) { return Evento<sst::TTarvoESocialCamposS2245>(A.Id("AIdCursoEmpregado")); },
+         LoteDaEmpresa<CURSOS_DA_EMPRESA>()},
         {"S-2250",
          "Aviso prévio",
          {{"AIdAvisoPrevio", taId, "código interno do aviso prévio"}},

@@ -47,10 +47,4 @@ void TTarvoESocialCamposinfoSimplesDesligamento::AtribuirValoresManualmente()
     indSimples = IntToStr(TTarvoConsultasESocial::BuscarIndSimples(FIDEstabelecimento, FIDDepartamento, FDataBase));
 }
 
-const TPropriedades& TTarvoESocialCamposinfoSimples::Propriedades() const
-{
-    static const TPropriedades tabela{{"indSimples", &TTarvoESocialCamposinfoSimples::indSimples}};
-    return tabela;
-}
-
 } // namespace tarvo::desligamento

@@ -74,7 +74,7 @@ public:
 };
 
 /// Frame infoSimples: part of no tree, for the caller to fill.
-class TTarvoESocialCamposinfoSimples : public TTarvoESocialCamposQuadro {
+class TTarvoESocialCamposinfoSimples : public TTarvoESocialCamposQuadro<TTarvoESocialCamposinfoSimples> {
 public:
     explicit TTarvoESocialCamposinfoSimples(std::int64_t AIdEmpregado)
         : TTarvoESocialCamposQuadro("{6323EA37-C64A-4DA5-B84E-53BDE8ACEB28}", AIdEmpregado)
@@ -82,8 +82,7 @@ public:
 
     std::string indSimples;
 
-protected:
-    const TPropriedades& Propriedades() const override;
+    static TPropriedades Tags() { return {{"indSimples", &Eu::indSimples}}; }
 };
 
 } // namespace tarvo::desligamento

@@ -98,14 +98,4 @@ void TTarvoESocialCamposdetVerbasS2299::AtribuirValoresManualmente()
     vrUnit.clear();
 }
 
-const TPropriedades& TTarvoESocialCamposdetVerbas::Propriedades() const
-{
-    using Eu = TTarvoESocialCamposdetVerbas;
-    static const TPropriedades tabela{
-        {"codRubr", &Eu::codRubr},     {"ideTabRubr", &Eu::ideTabRubr}, {"qtdRubr", &Eu::qtdRubr},
-        {"fatorRubr", &Eu::fatorRubr}, {"vrUnit", &Eu::vrUnit},         {"vrRubr", &Eu::vrRubr},
-    };
-    return tabela;
-}
-
 } // namespace tarvo::desligamento

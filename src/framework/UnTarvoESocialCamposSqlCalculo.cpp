@@ -1,9 +1,22 @@
 #include "framework/UnTarvoESocialCamposSqlCalculo.h"
 
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
 #include "imports/UnOvraFormat.h"
 #include "imports/UnTarvoUtilsDb.h"
 
 namespace tarvo {
+
+double SomarQuantias(double A, double B)
+{
+    const double LSoma = A + B;
+    const double LExata = Currency(LSoma).ParaDouble();
+    // The binary noise of a sum is at most a few units of the last place of its greatest term.
+    const double LRuido = 4 * std::numeric_limits<double>::epsilon() * std::max(std::fabs(A), std::fabs(B));
+    return std::fabs(LSoma - LExata) <= LRuido ? LExata : LSoma;
+}
 
 std::string SqlFeriasComplementares(std::int64_t AIdEmpregado, std::string_view ATipoFolha, TDateTime ADataInicio,
                                     TDateTime ADataFim)

@@ -13,9 +13,9 @@ namespace tarvo {
 
 // Rules on calculated rows (CALCULO, CALC_QUEBRA, CALCCOMPL...) that hold alike for remuneration and for termination.
 
-/// Sum of two amounts that are held as floating numbers, exact to the fourth decimal: cents stay cents, where a binary
-/// sum would show 508.40999999999997.
-inline double SomarQuantias(double A, double B) { return (Currency(A) + Currency(B)).ParaDouble(); }
+/// Sum of two amounts that are held as floating numbers, not rounded: 508.41 where a binary sum would show
+/// 508.40999999999997, and the whole sum where an amount has more than four decimals.
+double SomarQuantias(double A, double B);
 
 /// The rows of CALCULO that the break table doesn't split.
 inline constexpr std::string_view CALCULO_SEM_QUEBRA =
@@ -45,8 +45,8 @@ inline constexpr std::string_view RESC_COMPL_DO_CALCULO =
 std::string SqlFeriasComplementares(std::int64_t AIdEmpregado, std::string_view ATipoFolha, TDateTime ADataInicio,
                                     TDateTime ADataFim);
 
-/// Adds the complementary vacation amounts, unrounded, to the first entry of a list that has their rubric. The
-/// reference stays, and an amount whose rubric isn't in the list is left out.
+/// Adds the complementary vacation amounts, unrounded as far as the list's type holds them, to the first entry of a
+/// list that has their rubric. The reference stays, and an amount whose rubric isn't in the list is left out.
 template <class TDado, class TValor>
 requires std::same_as<TValor, double> || std::same_as<TValor, Currency>
 void SomarFeriasComplementares(std::vector<TDado>& ALista, std::int64_t TDado::*AIdVerba, TValor TDado::*ABase,
@@ -54,7 +54,7 @@ void SomarFeriasComplementares(std::vector<TDado>& ALista, std::int64_t TDado::*
 {
     const auto Somar = [](TValor& AQuantia, const TField& AField) {
         if constexpr (std::same_as<TValor, double>)
-            AQuantia = SomarQuantias(AQuantia, AField.AsCurrency().ParaDouble());
+            AQuantia = SomarQuantias(AQuantia, AField.AsFloat());
         else
             AQuantia += AField.AsCurrency();
     };

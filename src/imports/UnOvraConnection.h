@@ -76,6 +76,12 @@ public:
     /// Major version of the engine, 3 for Firebird 3.0.
     int VersaoMaiorDoServidor();
 
+    /// Whether prepared statements are kept by their shape and run again with their literals as parameters (the
+    /// default). It changes the time of a load and nothing else.
+    void DefinirReaproveitamento(bool ALigado);
+    /// Prepared statements that are being kept.
+    std::size_t ComandosGuardados() const;
+
     /// One observer, called after each statement; an empty function removes it.
     void DefinirObservador(TObservadorSql AObservador);
 

@@ -6,9 +6,12 @@
 namespace tarvo::pagamento {
 
 /// S-1210 detPgtoBenPr: payment of a benefit of a public pension. No load of the event reaches it.
-class TTarvoESocialCamposDetPgtoBenPr : public TTarvoESocialCamposGrupoBase {
+class TTarvoESocialCamposDetPgtoBenPr : public TTarvoESocialCamposQuadro<TTarvoESocialCamposDetPgtoBenPr> {
 public:
-    explicit TTarvoESocialCamposDetPgtoBenPr(const TTarvoESocialCamposS1210IOP& AInfoBind);
+    explicit TTarvoESocialCamposDetPgtoBenPr(const TTarvoESocialCamposS1210IOP& AInfoBind)
+        : TTarvoESocialCamposQuadro("{35B33630-A1F2-4D1B-8C37-E8F076D2E80C}"), retPgtoTot(AInfoBind),
+          infoPgtoParc(AInfoBind.IdEmpregado)
+    {}
 
     std::string perRef;
     std::string ideDmDev;
@@ -17,10 +20,11 @@ public:
     TTarvoESocialCamposretPgtoTot retPgtoTot;
     TTarvoESocialCamposInfoPgtoParc infoPgtoParc;
 
-    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
-
-protected:
-    const TPropriedades& Propriedades() const override;
+    static TPropriedades Tags()
+    {
+        return {{"perRef", &Eu::perRef}, {"ideDmDev", &Eu::ideDmDev},     {"indPgtoTt", &Eu::indPgtoTt},
+                {"vrLiq", &Eu::vrLiq},   {"retPgtoTot", &Eu::retPgtoTot}, {"infoPgtoParc", &Eu::infoPgtoParc}};
+    }
 };
 
 } // namespace tarvo::pagamento

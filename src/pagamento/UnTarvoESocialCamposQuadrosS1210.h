@@ -1,15 +1,17 @@
 #pragma once
 
-#include "framework/UnTarvoESocialCamposGrupoBase.h"
-
-namespace tarvo::pagamento {
+#include "framework/UnTarvoESocialCamposQuadro.h"
 
 // Frames of S-1210 that declare tags and read nothing.
 
+namespace tarvo::pagamento {
+
 /// infoPgtoParc: a rubric of a partial payment. Nothing loads it.
-class TTarvoESocialCamposInfoPgtoParc : public TTarvoESocialCamposGrupoBase {
+class TTarvoESocialCamposInfoPgtoParc : public TTarvoESocialCamposQuadro<TTarvoESocialCamposInfoPgtoParc> {
 public:
-    explicit TTarvoESocialCamposInfoPgtoParc(std::int64_t AIdEmpregado);
+    explicit TTarvoESocialCamposInfoPgtoParc(std::int64_t AIdEmpregado)
+        : TTarvoESocialCamposQuadro("{D3C25E6A-57F1-43B1-99C3-9B5F5F86FA48}", AIdEmpregado)
+    {}
 
     std::string codRubr;
     std::string ideTabRubr;
@@ -19,48 +21,50 @@ public:
     std::string vrRubr;
     std::string Matricula;
 
-protected:
-    const TPropriedades& Propriedades() const override;
-
-private:
-    std::int64_t FIdEmpregado;
+    static TPropriedades Tags()
+    {
+        return {{"codRubr", &Eu::codRubr},     {"ideTabRubr", &Eu::ideTabRubr}, {"qtdRubr", &Eu::qtdRubr},
+                {"fatorRubr", &Eu::fatorRubr}, {"vrUnit", &Eu::vrUnit},         {"vrRubr", &Eu::vrRubr},
+                {"Matricula", &Eu::Matricula}};
+    }
 };
 
 /// InfoPgtoAnt: what was paid under one incidence of income tax, in reais. detPgtoAnt sets both.
-class TTarvoESocialCamposInfoPgtoAnt : public TTarvoESocialCamposGrupoBase {
+class TTarvoESocialCamposInfoPgtoAnt : public TTarvoESocialCamposQuadro<TTarvoESocialCamposInfoPgtoAnt> {
 public:
-    explicit TTarvoESocialCamposInfoPgtoAnt(std::int64_t AIdEmpregado);
+    explicit TTarvoESocialCamposInfoPgtoAnt(std::int64_t AIdEmpregado)
+        : TTarvoESocialCamposQuadro("{E2C9F164-3CF3-485E-9523-EC302D8BEA46}", AIdEmpregado)
+    {}
 
     std::string tpBcIRRF;
     long double vrBcIRRF = 0;
 
-protected:
-    const TPropriedades& Propriedades() const override;
-
-private:
-    std::int64_t FIdEmpregado;
+    static TPropriedades Tags() { return {{"tpBcIRRF", &Eu::tpBcIRRF}, {"vrBcIRRF", &Eu::vrBcIRRF}}; }
 };
 
 /// idePais: country of a beneficiary abroad. Nothing fills it.
-class TTarvoESocialCamposIdePais : public TTarvoESocialCamposGrupoBase {
+class TTarvoESocialCamposIdePais : public TTarvoESocialCamposQuadro<TTarvoESocialCamposIdePais> {
 public:
-    explicit TTarvoESocialCamposIdePais(std::int64_t AIdEmpregado);
+    explicit TTarvoESocialCamposIdePais(std::int64_t AIdEmpregado)
+        : TTarvoESocialCamposQuadro("{B4FB3B56-3FDB-40FF-8811-5D5F9656D337}", AIdEmpregado)
+    {}
 
     std::string codPais;
     std::string indNIF;
     std::string nifBenef;
 
-protected:
-    const TPropriedades& Propriedades() const override;
-
-private:
-    std::int64_t FIdEmpregado;
+    static TPropriedades Tags()
+    {
+        return {{"codPais", &Eu::codPais}, {"indNIF", &Eu::indNIF}, {"nifBenef", &Eu::nifBenef}};
+    }
 };
 
 /// endExt: address abroad. Nothing fills it.
-class TTarvoESocialCamposEndExt : public TTarvoESocialCamposGrupoBase {
+class TTarvoESocialCamposEndExt : public TTarvoESocialCamposQuadro<TTarvoESocialCamposEndExt> {
 public:
-    explicit TTarvoESocialCamposEndExt(std::int64_t AIdEmpregado);
+    explicit TTarvoESocialCamposEndExt(std::int64_t AIdEmpregado)
+        : TTarvoESocialCamposQuadro("{1FEB5350-B804-4BD8-BE9A-AA81B75D2973}", AIdEmpregado)
+    {}
 
     std::string dscLograd;
     std::string nrLograd;
@@ -69,26 +73,25 @@ public:
     std::string nmCid;
     std::string codPostal;
 
-protected:
-    const TPropriedades& Propriedades() const override;
-
-private:
-    std::int64_t FIdEmpregado;
+    static TPropriedades Tags()
+    {
+        return {{"dscLograd", &Eu::dscLograd}, {"nrLograd", &Eu::nrLograd}, {"complem", &Eu::complem},
+                {"bairro", &Eu::bairro},       {"nmCid", &Eu::nmCid},       {"codPostal", &Eu::codPostal}};
+    }
 };
 
 /// idePgtoExt: payment abroad. No load of the event reaches it. Its endExt has no object until a caller gives it one:
 /// a load without it raises EAccessViolation.
-class TTarvoESocialCamposIdePgtoExt : public TTarvoESocialCamposGrupoBase {
+class TTarvoESocialCamposIdePgtoExt : public TTarvoESocialCamposQuadro<TTarvoESocialCamposIdePgtoExt> {
 public:
-    explicit TTarvoESocialCamposIdePgtoExt(std::int64_t AIdEmpregado);
+    explicit TTarvoESocialCamposIdePgtoExt(std::int64_t AIdEmpregado)
+        : TTarvoESocialCamposQuadro("{694F11CA-6A18-49DF-91D0-6D2B8CD4806B}", AIdEmpregado), idePais(AIdEmpregado)
+    {}
 
     TTarvoESocialCamposIdePais idePais;
     std::unique_ptr<TTarvoESocialCamposEndExt> endExt;
 
-    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
-
-protected:
-    const TPropriedades& Propriedades() const override;
+    static TPropriedades Tags() { return {{"idePais", &Eu::idePais}, {"endExt", &Eu::endExt}}; }
 };
 
 } // namespace tarvo::pagamento

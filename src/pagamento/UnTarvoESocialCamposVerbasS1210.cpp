@@ -14,18 +14,6 @@
 
 namespace tarvo::pagamento {
 
-bool VerbaTemIncidIrrf(const TTarvoESocialCamposS1210IOP& AInfoBind, std::int64_t AIdVerba,
-                       bool (*AAceito)(std::int64_t ACodIncIrrf))
-{
-    const auto LProcessos = TTarvoConsultasVerbas::BuscarTiposDeTributosComProcessoParaVerbaNaEmpresa(
-        AIdVerba, AInfoBind.IdEmpresa, AInfoBind.DataInicio);
-    using enum tabelas::TTipoRetornoIncidVerbas;
-    const auto LCodigos = tabelas::TTarvoESocialCamposBuscaIncidVerbas::BuscarIncidencias(
-                              AIdVerba, trNormal, LProcessos.IRRF ? trProcesso : trNormal, trNormal, trNormal)
-                              .FListIrrf;
-    return std::any_of(LCodigos.begin(), LCodigos.end(), AAceito);
-}
-
 tabelas::TCodigosIncidenciaVerba BuscarCodigosDaVerbaRpa(std::int64_t AIdRpaTpValor)
 {
     static constexpr std::string_view SQL = R"(SELECT
@@ -63,18 +51,18 @@ const TPropriedades& TTarvoESocialCamposVerbaDoPagamento::Propriedades() const
     return tabela;
 }
 
-tabelas::TIncidVerba TTarvoESocialCamposVerbaDoPagamento::BuscarIncidenciasDaVerba() const
+const tabelas::TIncidVerba& TTarvoESocialCamposVerbaDoPagamento::BuscarIncidenciasDaVerba()
 {
-    return tabelas::TTarvoESocialCamposBuscaIncidVerbas::BuscarIncidencias(
+    FIncidVerba = tabelas::TTarvoESocialCamposBuscaIncidVerbas::BuscarIncidencias(
         IdVerba, TTarvoConsultasVerbas::BuscarTiposDeTributosComProcessoParaVerbaNaEmpresa(IdVerba, FInfoBind.IdEmpresa,
                                                                                            FInfoBind.DataInicio));
+    return FIncidVerba;
 }
 
-std::string TTarvoESocialCamposVerbaDoPagamento::ComporCodRubrDaVerba(const tabelas::TIncidVerba& AIncidVerba) const
+std::string TTarvoESocialCamposVerbaDoPagamento::ComporCodRubrDaVerba(std::string_view AFiltro) const
 {
-    const auto LCodigo =
-        TTarvoConsultasGeral::BuscarValor("TAB_VERBAS", "CODIGO", Format(" WHERE TAB_VERBAS.IDVERBA = %D ", IdVerba));
-    return tabelas::ComporCodRubr(StrToInt64Def(LCodigo, 0), tabelas::PrimeirosCodigos(AIncidVerba));
+    const auto LCodigo = TTarvoConsultasGeral::BuscarValor("TAB_VERBAS", "CODIGO", AFiltro);
+    return tabelas::ComporCodRubr(StrToInt64Def(LCodigo, 0), tabelas::PrimeirosCodigos(FIncidVerba));
 }
 
 std::string TTarvoESocialCamposVerbaDoPagamento::BuscarIdeTabRubr() const
@@ -183,7 +171,8 @@ void TTarvoESocialCamposVerbaDoPagamento::CarregarListaPensaoAlimenticia(
     static constexpr std::string_view DEPENDENTES_DO_EMPREGADO = R"(FROM DEPENDENTES
     JOIN EMPREGADOS ON (EMPREGADOS.COD_EMPRESA = DEPENDENTES.COD_EMPRESA
       AND EMPREGADOS.COD_EMPREGADO = DEPENDENTES.COD_EMPREGADO))";
-    if (!VerbaTemIncidIrrf(FInfoBind, IdVerba, AAceito))
+    const auto& LCodigos = FIncidVerba.FListIrrf;
+    if (std::none_of(LCodigos.begin(), LCodigos.end(), AAceito))
         return;
     const auto LCds = TTarvoConsultasGeral::BuscarRegistros(
         Format(SQL_PENSIONISTAS,

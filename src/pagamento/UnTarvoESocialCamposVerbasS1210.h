@@ -8,11 +8,6 @@
 
 namespace tarvo::pagamento {
 
-/// True when a code of income tax of the rubric passes the test; under a legal process of the rubric at the company the
-/// code is that of the process.
-bool VerbaTemIncidIrrf(const TTarvoESocialCamposS1210IOP& AInfoBind, std::int64_t AIdVerba,
-                       bool (*AAceito)(std::int64_t ACodIncIrrf));
-
 /// The incidences of a receipt's value (FP_RUBRICARELACRPA); 0 where it isn't related.
 tabelas::TCodigosIncidenciaVerba BuscarCodigosDaVerbaRpa(std::int64_t AIdRpaTpValor);
 
@@ -39,15 +34,17 @@ protected:
     /// Up to IdVerba; where penAlim stands differs.
     const TPropriedades& Propriedades() const override;
 
-    /// Under a legal process of the rubric the codes are those of the process, tribute by tribute.
-    tabelas::TIncidVerba BuscarIncidenciasDaVerba() const;
-    std::string ComporCodRubrDaVerba(const tabelas::TIncidVerba& AIncidVerba) const;
+    /// The incidences of IdVerba, for the code and the alimony. Under a legal process of the rubric the codes are those
+    /// of the process, tribute by tribute.
+    const tabelas::TIncidVerba& BuscarIncidenciasDaVerba();
+    /// AFiltro picks the rubric in TAB_VERBAS.
+    std::string ComporCodRubrDaVerba(std::string_view AFiltro) const;
     std::string BuscarIdeTabRubr() const;
     long double BuscarQtdRubr() const;
     long double BuscarFatorRubr() const;
     long double BuscarVrRubr() const;
-    /// The pensioners share the alimony of the demonstrative alike, not rounded; none where the rubric's income-tax
-    /// codes don't pass the test.
+    /// The pensioners share the alimony of the demonstrative alike, not rounded; none where no income-tax code of the
+    /// rubric passes the test.
     void CarregarListaPensaoAlimenticia(bool (*AAceito)(std::int64_t ACodIncIrrf),
                                         const TListaCamposModificados* AListaCamposModificados);
 
@@ -55,6 +52,8 @@ protected:
 
 private:
     long double BuscarValorTotalPensao() const;
+
+    tabelas::TIncidVerba FIncidVerba;
 };
 
 } // namespace tarvo::pagamento

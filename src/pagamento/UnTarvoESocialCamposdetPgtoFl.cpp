@@ -1,5 +1,7 @@
 #include "pagamento/UnTarvoESocialCamposdetPgtoFl.h"
 
+#include <algorithm>
+
 #include "imports/UnOvraConversoes.h"
 #include "imports/UnOvraEsocialReinfControleAmbientes.h"
 #include "imports/UnOvraExcecoes.h"
@@ -7,9 +9,11 @@
 #include "imports/UnTarvoConsultasESocial.h"
 #include "imports/UnTarvoConsultasEmpregado.h"
 #include "imports/UnTarvoConsultasGeral.h"
+#include "imports/UnTarvoConsultasVerbas.h"
 #include "pagamento/UnTarvoESocialCamposSqlS1210.h"
 #include "pagamento/UnTarvoESocialCamposVerbasS1210.h"
 #include "remuneracao/UnTarvoESocialCamposIdeDmDev.h"
+#include "tabelas/UnTarvoESocialCamposBuscaIncidVerbas.h"
 #include "tabelas/UnTarvoESocialCamposIncidIrrf.h"
 
 namespace tarvo::pagamento {
@@ -172,10 +176,12 @@ void TTarvoESocialCamposdetPgtoFl::AdicionarVerbasDeRetencao(const std::string& 
         // A rubric that fails is neither passed nor reported: it is tested once more, and then the load ends, since
         // what was withheld must not be left out in silence.
         if (!AValidar(LId)) {
-            if (LReprovada)
-                throw Exception(Format("%0:s sem incidência de IRRF de retenção (31 a 35, 51 a 55 ou 81 a 83), no "
-                                       "demonstrativo %1:s pago em %2:s",
-                                       ANomear(LId), ideDmDev, DateTimeToStr(FInfoBind.DataPagto)));
+            if (LReprovada) {
+                const auto [LCodigo, LNome] = ANomear(LId);
+                throw Exception(Format("Verba %0:s sem incidência de IRRF de retenção (31 a 35, 51 a 55 ou 81 a 83): "
+                                       "%1:s, no demonstrativo %2:s pago em %3:s",
+                                       LCodigo, LNome, ideDmDev, DateTimeToStr(FInfoBind.DataPagto)));
+            }
             LReprovada = true;
             continue;
         }
@@ -203,8 +209,8 @@ void TTarvoESocialCamposdetPgtoFl::BuscarListaretPgtoTotEmpregado()
         [this](std::int64_t AId) { return ValidouIncidenciaDaVerba(AId); },
         [](std::int64_t AId) {
             const auto LFiltro = Format("WHERE TAB_VERBAS.IDVERBA = %0:d", AId);
-            return Format("Verba %0:s (%1:s)", TTarvoConsultasGeral::BuscarValor("TAB_VERBAS", "CODIGO", LFiltro),
-                          TTarvoConsultasGeral::BuscarValor("TAB_VERBAS", "NOME", LFiltro));
+            return std::pair(TTarvoConsultasGeral::BuscarValor("TAB_VERBAS", "CODIGO", LFiltro),
+                             TTarvoConsultasGeral::BuscarValor("TAB_VERBAS", "NOME", LFiltro));
         });
 }
 
@@ -222,15 +228,22 @@ void TTarvoESocialCamposdetPgtoFl::BuscarListaretPgtoTotPrestServico()
                FiltroDoRecibo(FInfoBind, "RPATPVALOR.NOME = 'VLRIRRF' AND RPAVALOR.VALOR > 0")),
         "IDRPATPVALOR", [this](std::int64_t AId) { return ValidouIncidenciaDaVerbaRpa(AId); },
         [](std::int64_t AId) {
-            return Format("Verba %0:d de RPA (%1:s)", AId,
-                          TTarvoConsultasGeral::BuscarValor("RPATPVALOR", "DESCRICAO",
-                                                            Format("WHERE RPATPVALOR.IDRPATPVALOR = %0:d", AId)));
+            return std::pair(IntToStr(AId),
+                             TTarvoConsultasGeral::BuscarValor("RPATPVALOR", "DESCRICAO",
+                                                               Format("WHERE RPATPVALOR.IDRPATPVALOR = %0:d", AId)) +
+                                 " (RPA)");
         });
 }
 
 bool TTarvoESocialCamposdetPgtoFl::ValidouIncidenciaDaVerba(std::int64_t AIdVerba) const
 {
-    return VerbaTemIncidIrrf(FInfoBind, AIdVerba, tabelas::EhRetencaoDeIrrf);
+    using enum tabelas::TTipoRetornoIncidVerbas;
+    const auto LProcessos = TTarvoConsultasVerbas::BuscarTiposDeTributosComProcessoParaVerbaNaEmpresa(
+        AIdVerba, FInfoBind.IdEmpresa, FInfoBind.DataInicio);
+    const auto LCodigos = tabelas::TTarvoESocialCamposBuscaIncidVerbas::BuscarIncidencias(
+                              AIdVerba, trNormal, LProcessos.IRRF ? trProcesso : trNormal, trNormal, trNormal)
+                              .FListIrrf;
+    return std::any_of(LCodigos.begin(), LCodigos.end(), tabelas::EhRetencaoDeIrrf);
 }
 
 bool TTarvoESocialCamposdetPgtoFl::ValidouIncidenciaDaVerbaRpa(std::int64_t AId) const

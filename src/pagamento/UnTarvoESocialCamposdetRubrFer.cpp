@@ -1,6 +1,8 @@
 #include "pagamento/UnTarvoESocialCamposdetRubrFer.h"
 
+#include "imports/UnOvraConversoes.h"
 #include "imports/UnTarvoConsultasVerbas.h"
+#include "imports/UnTarvoUtilsDb.h"
 
 namespace tarvo::pagamento {
 
@@ -41,10 +43,11 @@ void TTarvoESocialCamposdetRubrFer::CarregarDados(const TListaCamposModificados*
     CarregarListaPensaoAlimenticia(EhPensaoSobreFerias, AListaCamposModificados);
 }
 
-std::string TTarvoESocialCamposdetRubrFer::BuscarCodRubr() const
+std::string TTarvoESocialCamposdetRubrFer::BuscarCodRubr()
 {
-    const auto LIncid = BuscarIncidenciasDaVerba();
-    return LIncid.FCodVerba == 0 ? std::string() : ComporCodRubrDaVerba(LIncid);
+    if (BuscarIncidenciasDaVerba().FCodVerba == 0)
+        return {};
+    return ComporCodRubrDaVerba(FormatarListaParaClausulaIN("TAB_VERBAS", "IDVERBA", IntToStr(IdVerba), " WHERE "));
 }
 
 } // namespace tarvo::pagamento

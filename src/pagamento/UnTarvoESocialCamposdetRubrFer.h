@@ -19,7 +19,7 @@ protected:
     const TPropriedades& Propriedades() const override;
 
 private:
-    std::string BuscarCodRubr() const;
+    std::string BuscarCodRubr();
 };
 
 } // namespace tarvo::pagamento

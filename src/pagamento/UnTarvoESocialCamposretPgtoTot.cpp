@@ -32,12 +32,18 @@ void TTarvoESocialCamposretPgtoTot::CarregarDados(const TListaCamposModificados*
 
 void TTarvoESocialCamposretPgtoTot::AlimentarPropriedadesDaTag()
 {
-    codRubr = EhPrestador() ? BuscarCodRubrPrestador() : ComporCodRubrDaVerba(BuscarIncidenciasDaVerba());
+    codRubr = EhPrestador() ? BuscarCodRubrPrestador() : BuscarCodRubrEmpregado();
     ideTabRubr = BuscarIdeTabRubr();
     qtdRubr = EhPrestador() ? 0 : BuscarQtdRubr();
     fatorRubr = EhPrestador() ? 0 : BuscarFatorRubr();
     vrUnit = 0;
     vrRubr = EhPrestador() ? BuscarVrRubrPrestador() : BuscarVrRubr();
+}
+
+std::string TTarvoESocialCamposretPgtoTot::BuscarCodRubrEmpregado()
+{
+    BuscarIncidenciasDaVerba();
+    return ComporCodRubrDaVerba(Format(" WHERE TAB_VERBAS.IDVERBA = %D ", IdVerba));
 }
 
 std::string TTarvoESocialCamposretPgtoTot::BuscarCodRubrPrestador() const

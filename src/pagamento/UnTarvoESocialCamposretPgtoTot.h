@@ -18,6 +18,7 @@ protected:
 private:
     bool EhPrestador() const { return FInfoBind.TipoTrabalhador == TTipoTrabalhador::Prestador; }
     void AlimentarPropriedadesDaTag();
+    std::string BuscarCodRubrEmpregado();
     std::string BuscarCodRubrPrestador() const;
     long double BuscarVrRubrPrestador() const;
 };

@@ -7,7 +7,7 @@
 namespace tarvo::remuneracao {
 
 /// Frame detPlano.
-class TTarvoESocialCamposdetPlano : public TTarvoESocialCamposQuadro {
+class TTarvoESocialCamposdetPlano : public TTarvoESocialCamposQuadro<TTarvoESocialCamposdetPlano> {
 public:
     explicit TTarvoESocialCamposdetPlano(std::int64_t AIdEmpregado)
         : TTarvoESocialCamposQuadro("{0A17B6E3-F3F5-4FC1-B3B7-73D9C1E4C795}", AIdEmpregado)
@@ -19,20 +19,17 @@ public:
     std::string dtNascto;
     std::string vlrPgDep;
 
-protected:
-    const TPropriedades& Propriedades() const override
+    static TPropriedades Tags()
     {
-        using Eu = TTarvoESocialCamposdetPlano;
-        static const TPropriedades tabela{
+        return {
             {"tpDep", &Eu::tpDep},       {"cpfDep", &Eu::cpfDep},     {"nmDep", &Eu::nmDep},
             {"dtNascto", &Eu::dtNascto}, {"vlrPgDep", &Eu::vlrPgDep},
         };
-        return tabela;
     }
 };
 
 /// Frame detOper.
-class TTarvoESocialCamposdetOper : public TTarvoESocialCamposQuadro {
+class TTarvoESocialCamposdetOper : public TTarvoESocialCamposQuadro<TTarvoESocialCamposdetOper> {
 public:
     explicit TTarvoESocialCamposdetOper(std::int64_t AIdEmpregado)
         : TTarvoESocialCamposQuadro("{43D016C7-72AE-4AD0-8E0F-16BBC759045A}", AIdEmpregado), detPlano(AIdEmpregado)
@@ -43,27 +40,19 @@ public:
     std::string vrPgTit;
     TTarvoESocialCamposdetPlano detPlano;
 
-    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override
+    static TPropriedades Tags()
     {
-        CarregarComFilhos(AListaCamposModificados, {&detPlano});
-    }
-
-protected:
-    const TPropriedades& Propriedades() const override
-    {
-        using Eu = TTarvoESocialCamposdetOper;
-        static const TPropriedades tabela{
+        return {
             {"cnpjOper", &Eu::cnpjOper},
             {"regANS", &Eu::regANS},
             {"vrPgTit", &Eu::vrPgTit},
             {"detPlano", &Eu::detPlano},
         };
-        return tabela;
     }
 };
 
 /// Frame infoSaudeColet.
-class TTarvoESocialCamposinfoSaudeColet : public TTarvoESocialCamposQuadro {
+class TTarvoESocialCamposinfoSaudeColet : public TTarvoESocialCamposQuadro<TTarvoESocialCamposinfoSaudeColet> {
 public:
     explicit TTarvoESocialCamposinfoSaudeColet(std::int64_t AIdEmpregado)
         : TTarvoESocialCamposQuadro("{260C19F9-B650-44D4-9D99-D738462F3723}", AIdEmpregado), detOper(AIdEmpregado)
@@ -71,22 +60,11 @@ public:
 
     TTarvoESocialCamposdetOper detOper;
 
-    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override
-    {
-        CarregarComFilhos(AListaCamposModificados, {&detOper});
-    }
-
-protected:
-    const TPropriedades& Propriedades() const override
-    {
-        using Eu = TTarvoESocialCamposinfoSaudeColet;
-        static const TPropriedades tabela{{"detOper", &Eu::detOper}};
-        return tabela;
-    }
+    static TPropriedades Tags() { return {{"detOper", &Eu::detOper}}; }
 };
 
 /// Frame infoAgNocivo.
-class TTarvoESocialCamposinfoAgNocivo : public TTarvoESocialCamposQuadro {
+class TTarvoESocialCamposinfoAgNocivo : public TTarvoESocialCamposQuadro<TTarvoESocialCamposinfoAgNocivo> {
 public:
     explicit TTarvoESocialCamposinfoAgNocivo(std::int64_t AIdEmpregado)
         : TTarvoESocialCamposQuadro("{683D9299-3F02-4207-BAFF-07C0A4A53AF1}", AIdEmpregado)
@@ -94,13 +72,7 @@ public:
 
     std::string grauExp;
 
-protected:
-    const TPropriedades& Propriedades() const override
-    {
-        using Eu = TTarvoESocialCamposinfoAgNocivo;
-        static const TPropriedades tabela{{"grauExp", &Eu::grauExp}};
-        return tabela;
-    }
+    static TPropriedades Tags() { return {{"grauExp", &Eu::grauExp}}; }
 };
 
 } // namespace tarvo::remuneracao

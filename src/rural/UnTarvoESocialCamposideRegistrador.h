@@ -5,7 +5,7 @@
 namespace tarvo::rural {
 
 /// ideRegistrador: who registers an event. It belongs to no event's tree; a caller fills it.
-class TTarvoESocialCamposideRegistrador : public TTarvoESocialCamposQuadro {
+class TTarvoESocialCamposideRegistrador : public TTarvoESocialCamposQuadro<TTarvoESocialCamposideRegistrador> {
 public:
     TTarvoESocialCamposideRegistrador() : TTarvoESocialCamposQuadro("{B87F5AF7-DCB0-4FEC-A962-9F6725480DF0}") {}
 
@@ -13,16 +13,13 @@ public:
     std::int32_t tpInsc = 0;
     std::string nrInsc;
 
-protected:
-    const TPropriedades& Propriedades() const override
+    static TPropriedades Tags()
     {
-        using Eu = TTarvoESocialCamposideRegistrador;
-        static const TPropriedades tabela{
+        return {
             {"tpRegistrador", &Eu::tpRegistrador},
             {"tpInsc", &Eu::tpInsc},
             {"nrInsc", &Eu::nrInsc},
         };
-        return tabela;
     }
 };
 

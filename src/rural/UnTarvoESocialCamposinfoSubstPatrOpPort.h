@@ -5,19 +5,18 @@
 namespace tarvo::rural {
 
 /// S-1280 infoSubstPatrOpPort: a port operator, filled by the caller alone.
-class TTarvoESocialCamposinfoSubstPatrOpPort : public TTarvoESocialCamposQuadro {
+class TTarvoESocialCamposinfoSubstPatrOpPort
+    : public TTarvoESocialCamposQuadro<TTarvoESocialCamposinfoSubstPatrOpPort> {
 public:
     TTarvoESocialCamposinfoSubstPatrOpPort() : TTarvoESocialCamposQuadro("{94EB1B9E-67F5-4668-9CDA-B53F15682D88}") {}
 
     std::string cnpjOpPortuario;
 
-protected:
-    const TPropriedades& Propriedades() const override
+    static TPropriedades Tags()
     {
-        static const TPropriedades tabela{
-            {"cnpjOpPortuario", &TTarvoESocialCamposinfoSubstPatrOpPort::cnpjOpPortuario},
+        return {
+            {"cnpjOpPortuario", &Eu::cnpjOpPortuario},
         };
-        return tabela;
     }
 };
 

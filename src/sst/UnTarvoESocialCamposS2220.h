@@ -6,7 +6,7 @@
 namespace tarvo::sst {
 
 /// S-2220 respMonit: who answers for the monitoring.
-class TTarvoESocialCamposrespMonit : public TTarvoESocialCamposQuadro {
+class TTarvoESocialCamposrespMonit : public TTarvoESocialCamposQuadro<TTarvoESocialCamposrespMonit> {
 public:
     TTarvoESocialCamposrespMonit() : TTarvoESocialCamposQuadro("{BBDB7727-0068-4027-AC99-DE57FAE70397}") {}
 
@@ -14,18 +14,14 @@ public:
     std::string NrConsClasse;
     std::string UfConsClasse;
 
-protected:
-    const TPropriedades& Propriedades() const override
+    static TPropriedades Tags()
     {
-        using Eu = TTarvoESocialCamposrespMonit;
-        static const TPropriedades tabela{
-            {"NisResp", &Eu::NisResp}, {"NrConsClasse", &Eu::NrConsClasse}, {"UfConsClasse", &Eu::UfConsClasse}};
-        return tabela;
+        return {{"NisResp", &Eu::NisResp}, {"NrConsClasse", &Eu::NrConsClasse}, {"UfConsClasse", &Eu::UfConsClasse}};
     }
 };
 
 /// S-2220 exame: one examination, added by the caller.
-class TTarvoESocialCamposexame : public TTarvoESocialCamposQuadro {
+class TTarvoESocialCamposexame : public TTarvoESocialCamposQuadro<TTarvoESocialCamposexame> {
 public:
     TTarvoESocialCamposexame() : TTarvoESocialCamposQuadro("{1F0E962E-2CFC-4A8F-B32B-7FBC1E033556}") {}
 
@@ -39,64 +35,38 @@ public:
     std::int32_t indResult = 0;
     TTarvoESocialCamposrespMonit respMonit;
 
-    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override
+    static TPropriedades Tags()
     {
-        CarregarComFilhos(AListaCamposModificados, {&respMonit});
-    }
-
-protected:
-    const TPropriedades& Propriedades() const override
-    {
-        using Eu = TTarvoESocialCamposexame;
-        static const TPropriedades tabela{
-            {"DtExm", &Eu::DtExm},           {"ProcRealizado", &Eu::ProcRealizado}, {"obsProc", &Eu::obsProc},
-            {"interprExm", &Eu::interprExm}, {"ordExame", &Eu::ordExame},           {"dtIniMonit", &Eu::dtIniMonit},
-            {"dtFimMonit", &Eu::dtFimMonit}, {"indResult", &Eu::indResult},         {"respMonit", &Eu::respMonit}};
-        return tabela;
+        return {{"DtExm", &Eu::DtExm},           {"ProcRealizado", &Eu::ProcRealizado}, {"obsProc", &Eu::obsProc},
+                {"interprExm", &Eu::interprExm}, {"ordExame", &Eu::ordExame},           {"dtIniMonit", &Eu::dtIniMonit},
+                {"dtFimMonit", &Eu::dtFimMonit}, {"indResult", &Eu::indResult},         {"respMonit", &Eu::respMonit}};
     }
 };
 
 /// S-2220 CRM.
-class TTarvoESocialCamposCrm : public TTarvoESocialCamposQuadro {
+class TTarvoESocialCamposCrm : public TTarvoESocialCamposQuadro<TTarvoESocialCamposCrm> {
 public:
     TTarvoESocialCamposCrm() : TTarvoESocialCamposQuadro("{CA0F88DC-569E-422E-B5C0-F1AB5275E5D8}") {}
 
     std::string NrCRM;
     std::string UfCRM;
 
-protected:
-    const TPropriedades& Propriedades() const override
-    {
-        using Eu = TTarvoESocialCamposCrm;
-        static const TPropriedades tabela{{"NrCRM", &Eu::NrCRM}, {"UfCRM", &Eu::UfCRM}};
-        return tabela;
-    }
+    static TPropriedades Tags() { return {{"NrCRM", &Eu::NrCRM}, {"UfCRM", &Eu::UfCRM}}; }
 };
 
 /// S-2220 medico.
-class TTarvoESocialCamposMedico : public TTarvoESocialCamposQuadro {
+class TTarvoESocialCamposMedico : public TTarvoESocialCamposQuadro<TTarvoESocialCamposMedico> {
 public:
     TTarvoESocialCamposMedico() : TTarvoESocialCamposQuadro("{FBA0A22A-9BF5-4909-B78E-66E86F9683AD}") {}
 
     std::string NmMed;
     TTarvoESocialCamposCrm CRM;
 
-    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override
-    {
-        CarregarComFilhos(AListaCamposModificados, {&CRM});
-    }
-
-protected:
-    const TPropriedades& Propriedades() const override
-    {
-        using Eu = TTarvoESocialCamposMedico;
-        static const TPropriedades tabela{{"NmMed", &Eu::NmMed}, {"CRM", &Eu::CRM}};
-        return tabela;
-    }
+    static TPropriedades Tags() { return {{"NmMed", &Eu::NmMed}, {"CRM", &Eu::CRM}}; }
 };
 
 /// S-2220 ideServSaude: the health service.
-class TTarvoESocialCamposIdeServSaude : public TTarvoESocialCamposQuadro {
+class TTarvoESocialCamposIdeServSaude : public TTarvoESocialCamposQuadro<TTarvoESocialCamposIdeServSaude> {
 public:
     TTarvoESocialCamposIdeServSaude() : TTarvoESocialCamposQuadro("{20396040-8FF2-43E2-9AFA-EA98945810D0}") {}
 
@@ -105,23 +75,14 @@ public:
     std::string Email;
     TTarvoESocialCamposMedico Medico;
 
-    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override
+    static TPropriedades Tags()
     {
-        CarregarComFilhos(AListaCamposModificados, {&Medico});
-    }
-
-protected:
-    const TPropriedades& Propriedades() const override
-    {
-        using Eu = TTarvoESocialCamposIdeServSaude;
-        static const TPropriedades tabela{
-            {"CodCNES", &Eu::CodCNES}, {"FrmCtt", &Eu::FrmCtt}, {"Email", &Eu::Email}, {"Medico", &Eu::Medico}};
-        return tabela;
+        return {{"CodCNES", &Eu::CodCNES}, {"FrmCtt", &Eu::FrmCtt}, {"Email", &Eu::Email}, {"Medico", &Eu::Medico}};
     }
 };
 
 /// S-2220 aso: the health certificate. Its examinations are not loaded: there is nothing to load.
-class TTarvoESocialCamposAso : public TTarvoESocialCamposQuadro {
+class TTarvoESocialCamposAso : public TTarvoESocialCamposQuadro<TTarvoESocialCamposAso> {
 public:
     TTarvoESocialCamposAso() : TTarvoESocialCamposQuadro("{75ACB68E-B0C6-494D-9A50-C25A0842C1AB}") {}
 
@@ -131,26 +92,18 @@ public:
     TListaDeGrupos<TTarvoESocialCamposexame> Exame;
     TTarvoESocialCamposIdeServSaude IdeServSaude;
 
-    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override
+    static TPropriedades Tags()
     {
-        CarregarComFilhos(AListaCamposModificados, {&IdeServSaude});
-    }
-
-protected:
-    const TPropriedades& Propriedades() const override
-    {
-        using Eu = TTarvoESocialCamposAso;
-        static const TPropriedades tabela{{"DtAso", &Eu::DtAso},
-                                          {"tpAso", &Eu::tpAso},
-                                          {"ResAso", &Eu::ResAso},
-                                          {"Exame", &Eu::Exame},
-                                          {"IdeServSaude", &Eu::IdeServSaude}};
-        return tabela;
+        return {{"DtAso", &Eu::DtAso},
+                {"tpAso", &Eu::tpAso},
+                {"ResAso", &Eu::ResAso},
+                {"Exame", &Eu::Exame},
+                {"IdeServSaude", &Eu::IdeServSaude}};
     }
 };
 
 /// Event S-2220: health monitoring of a worker. A frame that the caller fills; only ideVinculo reads the database.
-class TTarvoESocialCamposS2220 : public TTarvoESocialCamposQuadro {
+class TTarvoESocialCamposS2220 : public TTarvoESocialCamposQuadro<TTarvoESocialCamposS2220> {
 public:
     explicit TTarvoESocialCamposS2220(std::int64_t AIDEmpregado)
         : TTarvoESocialCamposQuadro("{B3BB7169-2FFC-46A1-AE0D-A0CD9E267116}", AIDEmpregado), ideVinculo(AIDEmpregado)
@@ -159,18 +112,7 @@ public:
     trabalhador::TTarvoESocialCamposideVinculo ideVinculo;
     TTarvoESocialCamposAso aso;
 
-    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override
-    {
-        CarregarComFilhos(AListaCamposModificados, {&ideVinculo, &aso});
-    }
-
-protected:
-    const TPropriedades& Propriedades() const override
-    {
-        using Eu = TTarvoESocialCamposS2220;
-        static const TPropriedades tabela{{"ideVinculo", &Eu::ideVinculo}, {"aso", &Eu::aso}};
-        return tabela;
-    }
+    static TPropriedades Tags() { return {{"ideVinculo", &Eu::ideVinculo}, {"aso", &Eu::aso}}; }
 };
 
 } // namespace tarvo::sst

@@ -1,84 +1,36 @@
 #pragma once
 
-#include "sst/UnTarvoESocialCamposinfoAmb.h"
+#include "sst/UnTarvoESocialCamposCondicao.h"
 #include "trabalhador/UnTarvoESocialCamposideVinculo.h"
 
 namespace tarvo::sst {
 
 /// S-2240 iniExpRisco.
-class TTarvoESocialCamposiniExpRisco : public TTarvoESocialCamposQuadro {
+class TTarvoESocialCamposiniExpRisco : public TTarvoESocialCamposIniCondicao {
 public:
     explicit TTarvoESocialCamposiniExpRisco(std::int64_t AIdFatRisco)
-        : TTarvoESocialCamposQuadro("{E5830759-F906-41C2-8516-8EB8A13A511E}", AIdFatRisco), infoAmb(AIdFatRisco)
+        : TTarvoESocialCamposIniCondicao("{E5830759-F906-41C2-8516-8EB8A13A511E}", AIdFatRisco)
     {}
-
-    TDateTime dtIniCondicao;
-    TTarvoESocialCamposinfoAmb infoAmb;
-
-    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override
-    {
-        CarregarComFilhos(AListaCamposModificados, {&infoAmb});
-    }
-
-protected:
-    const TPropriedades& Propriedades() const override
-    {
-        using Eu = TTarvoESocialCamposiniExpRisco;
-        static const TPropriedades tabela{{"dtIniCondicao", &Eu::dtIniCondicao}, {"infoAmb", &Eu::infoAmb}};
-        return tabela;
-    }
 };
 
 /// S-2240 altExpRisco.
-class TTarvoESocialCamposaltExpRisco : public TTarvoESocialCamposQuadro {
+class TTarvoESocialCamposaltExpRisco : public TTarvoESocialCamposAltCondicao {
 public:
     explicit TTarvoESocialCamposaltExpRisco(std::int64_t AIdFatRisco)
-        : TTarvoESocialCamposQuadro("{213EDDCD-2392-4550-B2C6-D9D31C44D6C3}", AIdFatRisco), infoAmb(AIdFatRisco)
+        : TTarvoESocialCamposAltCondicao("{213EDDCD-2392-4550-B2C6-D9D31C44D6C3}", AIdFatRisco)
     {}
-
-    TDateTime dtAltCondicao;
-    TTarvoESocialCamposinfoAmb infoAmb;
-
-    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override
-    {
-        CarregarComFilhos(AListaCamposModificados, {&infoAmb});
-    }
-
-protected:
-    const TPropriedades& Propriedades() const override
-    {
-        using Eu = TTarvoESocialCamposaltExpRisco;
-        static const TPropriedades tabela{{"dtAltCondicao", &Eu::dtAltCondicao}, {"infoAmb", &Eu::infoAmb}};
-        return tabela;
-    }
 };
 
 /// S-2240 fimExpRisco.
-class TTarvoESocialCamposfimExpRisco : public TTarvoESocialCamposQuadro {
+class TTarvoESocialCamposfimExpRisco : public TTarvoESocialCamposFimCondicao {
 public:
     explicit TTarvoESocialCamposfimExpRisco(std::int64_t AIdFatRisco)
-        : TTarvoESocialCamposQuadro("{AB520ECE-FD18-4573-A001-F31683129077}", AIdFatRisco), infoAmb(AIdFatRisco)
+        : TTarvoESocialCamposFimCondicao("{AB520ECE-FD18-4573-A001-F31683129077}", AIdFatRisco)
     {}
-
-    TDateTime dtFimCondicao;
-    TTarvoESocialCamposinfoAmb infoAmb;
-
-    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override
-    {
-        CarregarComFilhos(AListaCamposModificados, {&infoAmb});
-    }
-
-protected:
-    const TPropriedades& Propriedades() const override
-    {
-        using Eu = TTarvoESocialCamposfimExpRisco;
-        static const TPropriedades tabela{{"dtFimCondicao", &Eu::dtFimCondicao}, {"infoAmb", &Eu::infoAmb}};
-        return tabela;
-    }
 };
 
 /// S-2240 respReg: who answers for the register.
-class TTarvoESocialCamposrespReg : public TTarvoESocialCamposQuadro {
+class TTarvoESocialCamposrespReg : public TTarvoESocialCamposQuadro<TTarvoESocialCamposrespReg> {
 public:
     explicit TTarvoESocialCamposrespReg(std::int64_t AIdFatRisco)
         : TTarvoESocialCamposQuadro("{6AFA20DE-DD61-49BB-8E41-133E55FB45EE}", AIdFatRisco)
@@ -90,21 +42,18 @@ public:
     std::string nrOc;
     std::string ufOC;
 
-protected:
-    const TPropriedades& Propriedades() const override
+    static TPropriedades Tags()
     {
-        using Eu = TTarvoESocialCamposrespReg;
-        static const TPropriedades tabela{{"dtIni", &Eu::dtIni},
-                                          {"dtFim", &Eu::dtFim},
-                                          {"nisResp", &Eu::nisResp},
-                                          {"nrOc", &Eu::nrOc},
-                                          {"ufOC", &Eu::ufOC}};
-        return tabela;
+        return {{"dtIni", &Eu::dtIni},
+                {"dtFim", &Eu::dtFim},
+                {"nisResp", &Eu::nisResp},
+                {"nrOc", &Eu::nrOc},
+                {"ufOC", &Eu::ufOC}};
     }
 };
 
 /// S-2240 infoExpRisco. The end is created and loaded before the start; meant.
-class TTarvoESocialCamposinfoExpRisco : public TTarvoESocialCamposQuadro {
+class TTarvoESocialCamposinfoExpRisco : public TTarvoESocialCamposQuadro<TTarvoESocialCamposinfoExpRisco> {
 public:
     explicit TTarvoESocialCamposinfoExpRisco(std::int64_t AIdFatRisco)
         : TTarvoESocialCamposQuadro("{67F40B8F-0419-4F47-80AE-97358D285E1F}", AIdFatRisco), fimExpRisco(AIdFatRisco),
@@ -118,24 +67,25 @@ public:
 
     void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override
     {
-        CarregarComFilhos(AListaCamposModificados, {&fimExpRisco, &iniExpRisco, &altExpRisco, &respReg});
+        TTarvoESocialCamposGrupoBase::CarregarDados(AListaCamposModificados);
+        fimExpRisco.CarregarDados(AListaCamposModificados);
+        iniExpRisco.CarregarDados(AListaCamposModificados);
+        altExpRisco.CarregarDados(AListaCamposModificados);
+        respReg.CarregarDados(AListaCamposModificados);
     }
 
-protected:
-    const TPropriedades& Propriedades() const override
+    static TPropriedades Tags()
     {
-        using Eu = TTarvoESocialCamposinfoExpRisco;
-        static const TPropriedades tabela{{"iniExpRisco", &Eu::iniExpRisco},
-                                          {"altExpRisco", &Eu::altExpRisco},
-                                          {"fimExpRisco", &Eu::fimExpRisco},
-                                          {"respReg", &Eu::respReg}};
-        return tabela;
+        return {{"iniExpRisco", &Eu::iniExpRisco},
+                {"altExpRisco", &Eu::altExpRisco},
+                {"fimExpRisco", &Eu::fimExpRisco},
+                {"respReg", &Eu::respReg}};
     }
 };
 
 /// Event S-2240: exposure to risk. A frame that the caller fills; only ideVinculo reads the database, and takes the id
 /// of the risk factor as if it were a worker's; meant.
-class TTarvoESocialCamposS2240 : public TTarvoESocialCamposQuadro {
+class TTarvoESocialCamposS2240 : public TTarvoESocialCamposQuadro<TTarvoESocialCamposS2240> {
 public:
     explicit TTarvoESocialCamposS2240(std::int64_t AIdFatRisco)
         : TTarvoESocialCamposQuadro("{6CE14039-9979-402C-82A5-EFA4B946C25B}", AIdFatRisco), ideVinculo(AIdFatRisco),
@@ -145,18 +95,7 @@ public:
     trabalhador::TTarvoESocialCamposideVinculo ideVinculo;
     TTarvoESocialCamposinfoExpRisco infoExpRisco;
 
-    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override
-    {
-        CarregarComFilhos(AListaCamposModificados, {&ideVinculo, &infoExpRisco});
-    }
-
-protected:
-    const TPropriedades& Propriedades() const override
-    {
-        using Eu = TTarvoESocialCamposS2240;
-        static const TPropriedades tabela{{"ideVinculo", &Eu::ideVinculo}, {"infoExpRisco", &Eu::infoExpRisco}};
-        return tabela;
-    }
+    static TPropriedades Tags() { return {{"ideVinculo", &Eu::ideVinculo}, {"infoExpRisco", &Eu::infoExpRisco}}; }
 };
 
 } // namespace tarvo::sst

@@ -1,156 +1,60 @@
 #pragma once
 
-#include "sst/UnTarvoESocialCamposinfoAmb.h"
+#include "sst/UnTarvoESocialCamposCondicao.h"
 #include "trabalhador/UnTarvoESocialCamposideVinculo.h"
 
 namespace tarvo::sst {
 
 /// S-2241 iniInsalPeric.
-class TTarvoESocialCamposiniInsalPeric : public TTarvoESocialCamposQuadro {
+class TTarvoESocialCamposiniInsalPeric : public TTarvoESocialCamposIniCondicao {
 public:
     explicit TTarvoESocialCamposiniInsalPeric(std::int64_t AIdInsalPeric)
-        : TTarvoESocialCamposQuadro("{DEDDA557-E6A7-4211-8E4F-CF31329E90C7}", AIdInsalPeric), infoAmb(AIdInsalPeric)
+        : TTarvoESocialCamposIniCondicao("{DEDDA557-E6A7-4211-8E4F-CF31329E90C7}", AIdInsalPeric)
     {}
-
-    TDateTime dtIniCondicao;
-    TTarvoESocialCamposinfoAmb infoAmb;
-
-    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override
-    {
-        CarregarComFilhos(AListaCamposModificados, {&infoAmb});
-    }
-
-protected:
-    const TPropriedades& Propriedades() const override
-    {
-        using Eu = TTarvoESocialCamposiniInsalPeric;
-        static const TPropriedades tabela{{"dtIniCondicao", &Eu::dtIniCondicao}, {"infoAmb", &Eu::infoAmb}};
-        return tabela;
-    }
 };
 
 /// S-2241 altInsalPeric.
-class TTarvoESocialCamposaltInsalPeric : public TTarvoESocialCamposQuadro {
+class TTarvoESocialCamposaltInsalPeric : public TTarvoESocialCamposAltCondicao {
 public:
     explicit TTarvoESocialCamposaltInsalPeric(std::int64_t AIdInsalPeric)
-        : TTarvoESocialCamposQuadro("{C41EE4D7-5E9B-449E-845A-E6163D50A018}", AIdInsalPeric), infoAmb(AIdInsalPeric)
+        : TTarvoESocialCamposAltCondicao("{C41EE4D7-5E9B-449E-845A-E6163D50A018}", AIdInsalPeric)
     {}
-
-    TDateTime dtAltCondicao;
-    TTarvoESocialCamposinfoAmb infoAmb;
-
-    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override
-    {
-        CarregarComFilhos(AListaCamposModificados, {&infoAmb});
-    }
-
-protected:
-    const TPropriedades& Propriedades() const override
-    {
-        using Eu = TTarvoESocialCamposaltInsalPeric;
-        static const TPropriedades tabela{{"dtAltCondicao", &Eu::dtAltCondicao}, {"infoAmb", &Eu::infoAmb}};
-        return tabela;
-    }
 };
 
 /// S-2241 fimInsalPeric.
-class TTarvoESocialCamposfimInsalPeric : public TTarvoESocialCamposQuadro {
+class TTarvoESocialCamposfimInsalPeric : public TTarvoESocialCamposFimCondicao {
 public:
     explicit TTarvoESocialCamposfimInsalPeric(std::int64_t AIdInsalPeric)
-        : TTarvoESocialCamposQuadro("{9F9D3C82-0F9F-483F-8AB4-13872F0C0073}", AIdInsalPeric), infoAmb(AIdInsalPeric)
+        : TTarvoESocialCamposFimCondicao("{9F9D3C82-0F9F-483F-8AB4-13872F0C0073}", AIdInsalPeric)
     {}
-
-    TDateTime dtFimCondicao;
-    TTarvoESocialCamposinfoAmb infoAmb;
-
-    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override
-    {
-        CarregarComFilhos(AListaCamposModificados, {&infoAmb});
-    }
-
-protected:
-    const TPropriedades& Propriedades() const override
-    {
-        using Eu = TTarvoESocialCamposfimInsalPeric;
-        static const TPropriedades tabela{{"dtFimCondicao", &Eu::dtFimCondicao}, {"infoAmb", &Eu::infoAmb}};
-        return tabela;
-    }
 };
 
 /// S-2241 iniAposentEsp.
-class TTarvoESocialCamposiniAposentEsp : public TTarvoESocialCamposQuadro {
+class TTarvoESocialCamposiniAposentEsp : public TTarvoESocialCamposIniCondicao {
 public:
     explicit TTarvoESocialCamposiniAposentEsp(std::int64_t AIdInsalPeric)
-        : TTarvoESocialCamposQuadro("{89D47C59-6E27-42EF-AA70-0B458730671C}", AIdInsalPeric), infoAmb(AIdInsalPeric)
+        : TTarvoESocialCamposIniCondicao("{89D47C59-6E27-42EF-AA70-0B458730671C}", AIdInsalPeric)
     {}
-
-    TDateTime dtIniCondicao;
-    TTarvoESocialCamposinfoAmb infoAmb;
-
-    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override
-    {
-        CarregarComFilhos(AListaCamposModificados, {&infoAmb});
-    }
-
-protected:
-    const TPropriedades& Propriedades() const override
-    {
-        using Eu = TTarvoESocialCamposiniAposentEsp;
-        static const TPropriedades tabela{{"dtIniCondicao", &Eu::dtIniCondicao}, {"infoAmb", &Eu::infoAmb}};
-        return tabela;
-    }
 };
 
 /// S-2241 altAposentEsp.
-class TTarvoESocialCamposaltAposentEsp : public TTarvoESocialCamposQuadro {
+class TTarvoESocialCamposaltAposentEsp : public TTarvoESocialCamposAltCondicao {
 public:
     explicit TTarvoESocialCamposaltAposentEsp(std::int64_t AIdInsalPeric)
-        : TTarvoESocialCamposQuadro("{229E7B1D-6FB5-4787-9592-7C287751F347}", AIdInsalPeric), infoAmb(AIdInsalPeric)
+        : TTarvoESocialCamposAltCondicao("{229E7B1D-6FB5-4787-9592-7C287751F347}", AIdInsalPeric)
     {}
-
-    TDateTime dtAltCondicao;
-    TTarvoESocialCamposinfoAmb infoAmb;
-
-    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override
-    {
-        CarregarComFilhos(AListaCamposModificados, {&infoAmb});
-    }
-
-protected:
-    const TPropriedades& Propriedades() const override
-    {
-        using Eu = TTarvoESocialCamposaltAposentEsp;
-        static const TPropriedades tabela{{"dtAltCondicao", &Eu::dtAltCondicao}, {"infoAmb", &Eu::infoAmb}};
-        return tabela;
-    }
 };
 
 /// S-2241 fimAposentEsp.
-class TTarvoESocialCamposfimAposentEsp : public TTarvoESocialCamposQuadro {
+class TTarvoESocialCamposfimAposentEsp : public TTarvoESocialCamposFimCondicao {
 public:
     explicit TTarvoESocialCamposfimAposentEsp(std::int64_t AIdInsalPeric)
-        : TTarvoESocialCamposQuadro("{98897F87-C17E-4046-B21A-ABD156F86DCB}", AIdInsalPeric), infoAmb(AIdInsalPeric)
+        : TTarvoESocialCamposFimCondicao("{98897F87-C17E-4046-B21A-ABD156F86DCB}", AIdInsalPeric)
     {}
-
-    TDateTime dtFimCondicao;
-    TTarvoESocialCamposinfoAmb infoAmb;
-
-    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override
-    {
-        CarregarComFilhos(AListaCamposModificados, {&infoAmb});
-    }
-
-protected:
-    const TPropriedades& Propriedades() const override
-    {
-        using Eu = TTarvoESocialCamposfimAposentEsp;
-        static const TPropriedades tabela{{"dtFimCondicao", &Eu::dtFimCondicao}, {"infoAmb", &Eu::infoAmb}};
-        return tabela;
-    }
 };
 
 /// S-2241 insalPeric: unhealthy or dangerous work.
-class TTarvoESocialCamposinsalPeric : public TTarvoESocialCamposQuadro {
+class TTarvoESocialCamposinsalPeric : public TTarvoESocialCamposQuadro<TTarvoESocialCamposinsalPeric> {
 public:
     explicit TTarvoESocialCamposinsalPeric(std::int64_t AIdInsalPeric)
         : TTarvoESocialCamposQuadro("{7F32C9EF-1CED-4B6A-8E9A-FEB846F0E854}", AIdInsalPeric),
@@ -161,24 +65,16 @@ public:
     TTarvoESocialCamposaltInsalPeric altInsalPeric;
     TTarvoESocialCamposfimInsalPeric fimInsalPeric;
 
-    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override
+    static TPropriedades Tags()
     {
-        CarregarComFilhos(AListaCamposModificados, {&iniInsalPeric, &altInsalPeric, &fimInsalPeric});
-    }
-
-protected:
-    const TPropriedades& Propriedades() const override
-    {
-        using Eu = TTarvoESocialCamposinsalPeric;
-        static const TPropriedades tabela{{"iniInsalPeric", &Eu::iniInsalPeric},
-                                          {"altInsalPeric", &Eu::altInsalPeric},
-                                          {"fimInsalPeric", &Eu::fimInsalPeric}};
-        return tabela;
+        return {{"iniInsalPeric", &Eu::iniInsalPeric},
+                {"altInsalPeric", &Eu::altInsalPeric},
+                {"fimInsalPeric", &Eu::fimInsalPeric}};
     }
 };
 
 /// S-2241 aposentEsp: special retirement, its end first.
-class TTarvoESocialCamposaposentEsp : public TTarvoESocialCamposQuadro {
+class TTarvoESocialCamposaposentEsp : public TTarvoESocialCamposQuadro<TTarvoESocialCamposaposentEsp> {
 public:
     explicit TTarvoESocialCamposaposentEsp(std::int64_t AIdInsalPeric)
         : TTarvoESocialCamposQuadro("{E7EF4857-2E7B-4460-B91D-FE65914F64B4}", AIdInsalPeric),
@@ -189,25 +85,17 @@ public:
     TTarvoESocialCamposiniAposentEsp iniAposentEsp;
     TTarvoESocialCamposaltAposentEsp altAposentEsp;
 
-    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override
+    static TPropriedades Tags()
     {
-        CarregarComFilhos(AListaCamposModificados, {&fimAposentEsp, &iniAposentEsp, &altAposentEsp});
-    }
-
-protected:
-    const TPropriedades& Propriedades() const override
-    {
-        using Eu = TTarvoESocialCamposaposentEsp;
-        static const TPropriedades tabela{{"fimAposentEsp", &Eu::fimAposentEsp},
-                                          {"iniAposentEsp", &Eu::iniAposentEsp},
-                                          {"altAposentEsp", &Eu::altAposentEsp}};
-        return tabela;
+        return {{"fimAposentEsp", &Eu::fimAposentEsp},
+                {"iniAposentEsp", &Eu::iniAposentEsp},
+                {"altAposentEsp", &Eu::altAposentEsp}};
     }
 };
 
 /// Event S-2241: unhealthy or dangerous work and special retirement. A frame that the caller fills; only ideVinculo
 /// reads the database, and takes the id of the condition as if it were a worker's; meant.
-class TTarvoESocialCamposS2241 : public TTarvoESocialCamposQuadro {
+class TTarvoESocialCamposS2241 : public TTarvoESocialCamposQuadro<TTarvoESocialCamposS2241> {
 public:
     explicit TTarvoESocialCamposS2241(std::int64_t AIdInsalPeric)
         : TTarvoESocialCamposQuadro("{80A12DC3-308C-416B-A444-5BBA5D68AB44}", AIdInsalPeric), ideVinculo(AIdInsalPeric),
@@ -218,18 +106,9 @@ public:
     TTarvoESocialCamposinsalPeric insalPeric;
     TTarvoESocialCamposaposentEsp aposentEsp;
 
-    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override
+    static TPropriedades Tags()
     {
-        CarregarComFilhos(AListaCamposModificados, {&ideVinculo, &insalPeric, &aposentEsp});
-    }
-
-protected:
-    const TPropriedades& Propriedades() const override
-    {
-        using Eu = TTarvoESocialCamposS2241;
-        static const TPropriedades tabela{
-            {"ideVinculo", &Eu::ideVinculo}, {"insalPeric", &Eu::insalPeric}, {"aposentEsp", &Eu::aposentEsp}};
-        return tabela;
+        return {{"ideVinculo", &Eu::ideVinculo}, {"insalPeric", &Eu::insalPeric}, {"aposentEsp", &Eu::aposentEsp}};
     }
 };
 

@@ -5,7 +5,7 @@
 namespace tarvo::sst {
 
 /// S-2240 and S-2241 infoAtiv.
-class TTarvoESocialCamposinfoAtiv : public TTarvoESocialCamposQuadro {
+class TTarvoESocialCamposinfoAtiv : public TTarvoESocialCamposQuadro<TTarvoESocialCamposinfoAtiv> {
 public:
     explicit TTarvoESocialCamposinfoAtiv(std::int64_t AIdFatRisco)
         : TTarvoESocialCamposQuadro("{309D472A-A57A-4F90-AB7A-0206DF361F20}", AIdFatRisco)
@@ -13,17 +13,11 @@ public:
 
     std::string dscAtivDes;
 
-protected:
-    const TPropriedades& Propriedades() const override
-    {
-        using Eu = TTarvoESocialCamposinfoAtiv;
-        static const TPropriedades tabela{{"dscAtivDes", &Eu::dscAtivDes}};
-        return tabela;
-    }
+    static TPropriedades Tags() { return {{"dscAtivDes", &Eu::dscAtivDes}}; }
 };
 
 /// S-2240 and S-2241 epc: collective protection.
-class TTarvoESocialCamposepc : public TTarvoESocialCamposQuadro {
+class TTarvoESocialCamposepc : public TTarvoESocialCamposQuadro<TTarvoESocialCamposepc> {
 public:
     explicit TTarvoESocialCamposepc(std::int64_t AIdFatRisco)
         : TTarvoESocialCamposQuadro("{AF7A6EF4-92EB-4C96-B773-EFC27C8D7330}", AIdFatRisco)
@@ -32,17 +26,11 @@ public:
     std::string dscEpc;
     std::string eficEpc;
 
-protected:
-    const TPropriedades& Propriedades() const override
-    {
-        using Eu = TTarvoESocialCamposepc;
-        static const TPropriedades tabela{{"dscEpc", &Eu::dscEpc}, {"eficEpc", &Eu::eficEpc}};
-        return tabela;
-    }
+    static TPropriedades Tags() { return {{"dscEpc", &Eu::dscEpc}, {"eficEpc", &Eu::eficEpc}}; }
 };
 
 /// S-2240 and S-2241 epi: personal protection.
-class TTarvoESocialCamposepi : public TTarvoESocialCamposQuadro {
+class TTarvoESocialCamposepi : public TTarvoESocialCamposQuadro<TTarvoESocialCamposepi> {
 public:
     explicit TTarvoESocialCamposepi(std::int64_t AIdFatRisco)
         : TTarvoESocialCamposQuadro("{8203778E-D2BB-4C4C-AF9C-8BF76AEB1A1C}", AIdFatRisco)
@@ -56,23 +44,20 @@ public:
     std::string periodicTroca;
     std::string higienizacao;
 
-protected:
-    const TPropriedades& Propriedades() const override
+    static TPropriedades Tags()
     {
-        using Eu = TTarvoESocialCamposepi;
-        static const TPropriedades tabela{{"caEPI", &Eu::caEPI},
-                                          {"eficEpi", &Eu::eficEpi},
-                                          {"medProtecao", &Eu::medProtecao},
-                                          {"condFuncto", &Eu::condFuncto},
-                                          {"przValid", &Eu::przValid},
-                                          {"periodicTroca", &Eu::periodicTroca},
-                                          {"higienizacao", &Eu::higienizacao}};
-        return tabela;
+        return {{"caEPI", &Eu::caEPI},
+                {"eficEpi", &Eu::eficEpi},
+                {"medProtecao", &Eu::medProtecao},
+                {"condFuncto", &Eu::condFuncto},
+                {"przValid", &Eu::przValid},
+                {"periodicTroca", &Eu::periodicTroca},
+                {"higienizacao", &Eu::higienizacao}};
     }
 };
 
 /// S-2240 and S-2241 epcEpi.
-class TTarvoESocialCamposepcEpi : public TTarvoESocialCamposQuadro {
+class TTarvoESocialCamposepcEpi : public TTarvoESocialCamposQuadro<TTarvoESocialCamposepcEpi> {
 public:
     explicit TTarvoESocialCamposepcEpi(std::int64_t AIdFatRisco)
         : TTarvoESocialCamposQuadro("{4423441C-0909-4766-9260-CA9FE61EC9FC}", AIdFatRisco), epc(AIdFatRisco),
@@ -84,23 +69,14 @@ public:
     TTarvoESocialCamposepc epc;
     TTarvoESocialCamposepi epi;
 
-    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override
+    static TPropriedades Tags()
     {
-        CarregarComFilhos(AListaCamposModificados, {&epc, &epi});
-    }
-
-protected:
-    const TPropriedades& Propriedades() const override
-    {
-        using Eu = TTarvoESocialCamposepcEpi;
-        static const TPropriedades tabela{
-            {"utilizEPC", &Eu::utilizEPC}, {"utilizEPI", &Eu::utilizEPI}, {"epc", &Eu::epc}, {"epi", &Eu::epi}};
-        return tabela;
+        return {{"utilizEPC", &Eu::utilizEPC}, {"utilizEPI", &Eu::utilizEPI}, {"epc", &Eu::epc}, {"epi", &Eu::epi}};
     }
 };
 
 /// S-2240 and S-2241 fatRisco: a risk factor.
-class TTarvoESocialCamposfatRisco : public TTarvoESocialCamposQuadro {
+class TTarvoESocialCamposfatRisco : public TTarvoESocialCamposQuadro<TTarvoESocialCamposfatRisco> {
 public:
     explicit TTarvoESocialCamposfatRisco(std::int64_t AIdFatRisco)
         : TTarvoESocialCamposQuadro("{4A82EA32-5808-4964-8211-4D8DF83E770D}", AIdFatRisco), epcEpi(AIdFatRisco)
@@ -111,25 +87,17 @@ public:
     std::string tecMedicao;
     TTarvoESocialCamposepcEpi epcEpi;
 
-    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override
+    static TPropriedades Tags()
     {
-        CarregarComFilhos(AListaCamposModificados, {&epcEpi});
-    }
-
-protected:
-    const TPropriedades& Propriedades() const override
-    {
-        using Eu = TTarvoESocialCamposfatRisco;
-        static const TPropriedades tabela{{"codFatRis", &Eu::codFatRis},
-                                          {"intConc", &Eu::intConc},
-                                          {"tecMedicao", &Eu::tecMedicao},
-                                          {"epcEpi", &Eu::epcEpi}};
-        return tabela;
+        return {{"codFatRis", &Eu::codFatRis},
+                {"intConc", &Eu::intConc},
+                {"tecMedicao", &Eu::tecMedicao},
+                {"epcEpi", &Eu::epcEpi}};
     }
 };
 
 /// S-2240 and S-2241 infoAmb: the environment, shared by both events.
-class TTarvoESocialCamposinfoAmb : public TTarvoESocialCamposQuadro {
+class TTarvoESocialCamposinfoAmb : public TTarvoESocialCamposQuadro<TTarvoESocialCamposinfoAmb> {
 public:
     explicit TTarvoESocialCamposinfoAmb(std::int64_t AIdFatRisco)
         : TTarvoESocialCamposQuadro("{066CB063-9D13-411D-A39B-169A9BE8BB5B}", AIdFatRisco), infoAtiv(AIdFatRisco),
@@ -140,18 +108,9 @@ public:
     TTarvoESocialCamposinfoAtiv infoAtiv;
     TTarvoESocialCamposfatRisco fatRisco;
 
-    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override
+    static TPropriedades Tags()
     {
-        CarregarComFilhos(AListaCamposModificados, {&infoAtiv, &fatRisco});
-    }
-
-protected:
-    const TPropriedades& Propriedades() const override
-    {
-        using Eu = TTarvoESocialCamposinfoAmb;
-        static const TPropriedades tabela{
-            {"codAmb", &Eu::codAmb}, {"infoAtiv", &Eu::infoAtiv}, {"fatRisco", &Eu::fatRisco}};
-        return tabela;
+        return {{"codAmb", &Eu::codAmb}, {"infoAtiv", &Eu::infoAtiv}, {"fatRisco", &Eu::fatRisco}};
     }
 };
 

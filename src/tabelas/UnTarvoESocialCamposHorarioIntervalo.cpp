@@ -10,7 +10,7 @@ TTarvoESocialCamposHorarioIntervalo::TTarvoESocialCamposHorarioIntervalo(std::in
                                                                          std::int64_t AIdHorarioDet,
                                                                          TDiaSemana ADiaSemana)
     : TTarvoESocialCamposGrupoBase("{8A212C51-D97A-4E48-A558-AC44DDF00147}"), DiaSemana(ADiaSemana),
-      FIdHorario(AIdHorario), FIdHorarioDet(AIdHorarioDet)
+      FIdHorario(AIdHorario), FIdHorarioDet(AIdHorarioDet), FDiaSemana(ADiaSemana)
 {}
 
 const TPropriedades& TTarvoESocialCamposHorarioIntervalo::Propriedades() const
@@ -46,7 +46,7 @@ std::string TTarvoESocialCamposHorarioIntervalo::BuscarSqlConformeODia() const
        TAB_HORARIOS.DURINTERV%0:s AS INTERVALO
 FROM TAB_HORARIOS
 WHERE TAB_HORARIOS.IDHORARIO = %1:d )";
-    return Format(SQL, PrefixoDoDia(DiaSemana), FIdHorario);
+    return Format(SQL, PrefixoDoDia(FDiaSemana), FIdHorario);
 }
 
 } // namespace tarvo::tabelas

@@ -15,7 +15,7 @@ public:
     std::string durInterv;
     std::string iniInterv;
     std::string termInterv;
-    /// Kept for the caller; the weekday form reads its columns by it.
+    /// Kept for the caller; the columns are read by the weekday of the constructor.
     TDiaSemana DiaSemana;
 
 protected:
@@ -27,6 +27,7 @@ private:
 
     std::int64_t FIdHorario;
     std::int64_t FIdHorarioDet;
+    TDiaSemana FDiaSemana;
 };
 
 } // namespace tarvo::tabelas

@@ -1,6 +1,7 @@
 #include "tabelas/UnTarvoESocialCamposIdeProcesso.h"
 
 #include "imports/UnOvraFormat.h"
+#include "tabelas/UnTarvoESocialCamposSqlProcesso.h"
 
 namespace tarvo::tabelas {
 
@@ -24,11 +25,11 @@ std::string TTarvoESocialCamposIdeProcesso::BuscarSQLDados()
 {
     static constexpr std::string_view SQL = R"(SELECT
   ES02_SPPROC.TPPROCESSO,
-  (SELECT SP_BUSCARSOMENTENUMEROS.RESULT FROM SP_BUSCARSOMENTENUMEROS(ES02_SPPROC.NUMERO)) AS NUMERO,
+  %1:s,
   ES02_SPPROC.DATAABERTURA
 FROM ES02_SPPROC
 WHERE ES02_SPPROC.IDSPPROC = %0:D)";
-    return Format(SQL, FIdProcesso);
+    return Format(SQL, FIdProcesso, NUMERO_DO_PROCESSO);
 }
 
 } // namespace tarvo::tabelas

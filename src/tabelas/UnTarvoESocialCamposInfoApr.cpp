@@ -53,16 +53,14 @@ FROM FP_INFOGERALCFG
 WHERE FP_INFOGERALCFG.ORIGEM = 90
   AND FP_INFOGERALCFG.ESPECIE = 58
   AND FP_INFOGERALCFG.TP = 1
-  AND FP_INFOGERALCFG.%0:s IN (
-    SELECT %1:s.%0:s
-    FROM %1:s
-    WHERE %2:s
-      AND %3:s))";
+  AND FP_INFOGERALCFG.%0:s = (%1:s))";
     const auto LCfg = FLugar.Cfg();
-    // The row still counts on the day of its DATAFIM, unlike in the group's own statement; meant.
-    const auto LCds = TTarvoConsultasGeral::BuscarRegistros(Format(
-        SQL, FLugar.EhDepto ? "IDDEPARTAMENTOCFG" : "IDFILIALCFG", LCfg.Nome,
-        CondicaoDaChave(LCfg, FLugar.Id, APRENDIZES), CondicaoDaValidade(LCfg, FData, TFimDaValidade::Inclusive)));
+    const std::string_view LColuna = FLugar.EhDepto ? "IDDEPARTAMENTOCFG" : "IDFILIALCFG";
+    // The row still counts on the day of its DATAFIM, unlike in the group's own statement; meant. On the day on which
+    // one row follows another the newer one is taken.
+    const auto LCds = TTarvoConsultasGeral::BuscarRegistros(
+        Format(SQL, LColuna,
+               SqlConfiguracaoVigente(Format("%0:s.%1:s", LCfg.Nome, LColuna), LCfg, FLugar.Id, APRENDIZES, FData)));
     AcrescentarUmPorLinha(InfoEntEduc, LCds, "IDINFOGERALCFG");
 }
 

@@ -20,7 +20,7 @@ const TPropriedades& TTarvoESocialCamposInfoEstagiario::Propriedades() const
         {"areaAtuacao", &Eu::areaAtuacao, TFieldRelacionado("AREAATUACAO")},
         {"nrApol", &Eu::nrApol, TFieldRelacionado("NRAPOL")},
         {"vlrBolsa", &Eu::vlrBolsa, TFieldRelacionado("SALARIOMENSAL")},
-        {"DataInicioContrato", &Eu::DataInicioContrato, TFieldRelacionado("DATA_ADMISSAO")},
+        {"DataInicoContrato", &Eu::DataInicoContrato, TFieldRelacionado("DATA_ADMISSAO")},
         {"NumDiasContrato", &Eu::NumDiasContrato, TFieldRelacionado("DIAS")},
         {"UnidadeMedidaContrato", &Eu::UnidadeMedidaContrato, TFieldRelacionado("UNIDADETEMPOCONTRATO")},
         {"DescricaoNatEstagio", &Eu::DescricaoNatEstagio, TFieldRelacionado("DESCNATESTAGIO")},

@@ -18,7 +18,8 @@ public:
     std::string nrApol;
     /// Amount of a month, with a decimal comma.
     std::string vlrBolsa;
-    TDateTime DataInicioContrato;
+    /// The name is spelt so in the tree that is transmitted; meant.
+    TDateTime DataInicoContrato;
     /// First term and extension together.
     std::int32_t NumDiasContrato = 0;
     std::int32_t UnidadeMedidaContrato = 0;

@@ -137,6 +137,8 @@ void TTesteComBanco::TearDown()
     DefinirOvraConnection(nullptr);
 }
 
+void FecharConexoes() { Conexoes().clear(); }
+
 TOvraConnection& TTesteComBanco::Conexao() { return *Conexoes()[ComExemplo()]; }
 
 void ConferirGolden(const std::string& ANome, const std::string& AJson)

@@ -1,7 +1,12 @@
 #include <gtest/gtest.h>
 
+#include "apoio/UnBancoDeTeste.h"
+
 int main(int argc, char** argv)
 {
     ::testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
+    const int LResultado = RUN_ALL_TESTS();
+    // While the client library still lives: at the end of the process its own order of ending is not ours to know.
+    tarvo::testes::FecharConexoes();
+    return LResultado;
 }

@@ -81,6 +81,31 @@ TEST_F(TTesteChavesDoLote, PagamentosVaoPelosMesmosCpfsComOsSeusArgumentos)
         EArgumentoInvalido);
 }
 
+TEST_F(TTesteChavesDoLote, SaudeESegurancaVaoPelosRegistrosDaEmpresa)
+{
+    for (const int LEmpresa : {1, 2}) {
+        Inserir("SC00_EMPRESA", {{"IDEMPRESA", LEmpresa}, {"EMPRESA", 40 + LEmpresa}});
+        for (const int LNumero : {2, 1}) {
+            const int LId = LEmpresa * 10 + LNumero;
+            Inserir("EMPREGADOS", {{"IDEMPREGADO", LId}, {"IDEMPRESA", LEmpresa}});
+            Inserir("TABCAT", {{"IDTABCAT", LId + 100}, {"COD_EMPRESA", 40 + LEmpresa}});
+            Inserir("FP_EXAMETOXICOLOGICO", {{"IDEXAMETOXICOLOGICO", LId + 200}, {"IDEMPREGADO", LId}});
+            Inserir("FP_CURSOEMPREGADO", {{"IDCURSOEMPREGADO", LId + 300}, {"IDEMPREGADO", LId}});
+        }
+    }
+    for (const auto& [LEvento, LEsperado] :
+         {std::pair{"S-2210", "121 122 "}, {"S-2220", "21 22 "}, {"S-2221", "221 222 "}, {"S-2245", "321 322 "}}) {
+        std::string LTexto;
+        for (const auto& LChave : BuscarChavesDoLote(LEvento, {{"IdEmpresa", "2"}})) {
+            LTexto += LChave.Json + " ";
+            // The company is no argument of the event.
+            EXPECT_EQ(1u, LChave.Argumentos.size());
+            EXPECT_NO_THROW(ConstruirEvento(LEvento, LChave.Argumentos));
+        }
+        EXPECT_EQ(LEsperado, LTexto) << LEvento;
+    }
+}
+
 TEST_F(TTesteChavesDoLote, ArgumentoErradoOuEventoSemLote)
 {
     EXPECT_THROW(BuscarChavesDoLote("S-1000", {}), EArgumentoInvalido);

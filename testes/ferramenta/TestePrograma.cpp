@@ -1,12 +1,10 @@
 #include <rapidjson/document.h>
-#include <sys/wait.h>
 
-#include <cstdio>
-#include <filesystem>
 #include <fstream>
 #include <sstream>
 
 #include "apoio/UnBancoDeTeste.h"
+#include "apoio/UnPrograma.h"
 #include "imports/UnOvraExcecoes.h"
 
 // The real program, run as a person would.
@@ -14,46 +12,12 @@
 namespace tarvo::testes {
 namespace {
 
-struct TSaida {
-    int Codigo = -1;
-    std::string Padrao;
-    std::string Erros;
-};
-
-std::string EntreAspas(const std::string& ATexto)
-{
-    std::string LTexto = "'";
-    for (const char LChar : ATexto)
-        LTexto += LChar == '\'' ? std::string("'\\''") : std::string(1, LChar);
-    return LTexto + "'";
-}
-
 std::string LerArquivo(const std::string& ANome)
 {
     std::ifstream LArquivo(ANome);
     std::stringstream LTexto;
     LTexto << LArquivo.rdbuf();
     return LTexto.str();
-}
-
-TSaida Rodar(const std::vector<std::string>& AArgumentos)
-{
-    static const std::string LErros = std::tmpnam(nullptr);
-    std::string LLinha = EntreAspas(PROGRAMA);
-    for (const auto& LArgumento : AArgumentos)
-        LLinha += " " + EntreAspas(LArgumento);
-    TSaida LSaida;
-    FILE* LProcesso = popen((LLinha + " 2>" + LErros + " </dev/null").c_str(), "r");
-    if (LProcesso == nullptr)
-        throw std::runtime_error("popen");
-    char LBuffer[4096];
-    for (std::size_t LLidos; (LLidos = fread(LBuffer, 1, sizeof LBuffer, LProcesso)) > 0;)
-        LSaida.Padrao.append(LBuffer, LLidos);
-    const int LEstado = pclose(LProcesso);
-    LSaida.Codigo = WIFEXITED(LEstado) ? WEXITSTATUS(LEstado) : -1;
-    LSaida.Erros = LerArquivo(LErros);
-    std::filesystem::remove(LErros);
-    return LSaida;
 }
 
 /// The sample company's database of these tests, made by the program itself.

@@ -252,7 +252,18 @@ TEST_F(TTesteDatasDePagamento, ReciboDaEmpresaNoPeriodo)
     Recibo(10, 7, D(2021, 2, 1), D(2021, 3, 10), 500.25);
     Recibo(11, 8, D(2018, 7, 1), D(2021, 3, 10), 0);
     Recibo(12, 7, D(2021, 2, 1), D(2021, 3, 10), 70, 2);
-    Recibo(13, 7, D(2021, 2, 1), D(2021, 4, 1), 80);
+    Recibo(13, 7, D(2021, 2, 1), ABR1, 80);
+    Recibo(14, 7, D(2021, 2, 1), FEV28, 80);
+    Recibo(15, 7, D(2021, 2, 1), MAR1, 90);
+    Recibo(16, 7, D(2021, 2, 1), MAR31, 90);
+    // A competence before the layout, on a day of the period: a date without a demonstrative, which goes.
+    Recibo(17, 7, D(2018, 6, 30), MAR5, 90);
+    std::vector<TDateTime> LDatas;
+    const auto LTodos = Carregar();
+    for (const auto& LPgto : LTodos.Pagamentos())
+        LDatas.push_back(LPgto->dtPgto);
+    EXPECT_EQ((std::vector<TDateTime>{MAR1, MAR10, MAR31}), LDatas);
+    Executar("DELETE FROM RPA WHERE IDRPA > 13");
     const auto LPagamento = Carregar();
     ASSERT_EQ(1U, LPagamento.Pagamentos().size());
     const auto& LDetalhes = LPagamento.Pagamentos()[0]->detPgtoFl;

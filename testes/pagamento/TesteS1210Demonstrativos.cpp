@@ -255,7 +255,7 @@ TEST_F(TTesteDemonstrativos, VerbaRetidaSemIncidenciaDeRetencaoInterrompeACarga)
     Calculo({.Verba = vIrrf});
     Verba(77, "5EX");
     Calculo({.Verba = 77, .Valor = 10});
-    EXPECT_EQ("Verba 77 (Verba 77) sem incidência de IRRF de retenção (31 a 35, 51 a 55 ou 81 a 83), no demonstrativo "
+    EXPECT_EQ("Verba 77 sem incidência de IRRF de retenção (31 a 35, 51 a 55 ou 81 a 83): Verba 77, no demonstrativo "
               "01_000_0_03_2021 pago em 31/03/2021",
               Falha([] { Carregar(); }));
     // Without a value it isn't withheld.
@@ -266,7 +266,7 @@ TEST_F(TTesteDemonstrativos, VerbaRetidaSemIncidenciaDeRetencaoInterrompeACarga)
     Processo(vIrrf, 6);
     EXPECT_EQ("00026P000I031F000C000", Unico(Carregar()).retPgtoTot.at(0)->codRubr.substr(0, 21));
     Executar("UPDATE ES02_SPPROC SET INDMATERIATPTRIB = 1");
-    EXPECT_EQ(0U, Falha([] { Carregar(); }).find("Verba 26 (Verba 26) sem incidência"));
+    EXPECT_EQ(0U, Falha([] { Carregar(); }).find("Verba 26 sem incidência de IRRF de retenção"));
     Executar("UPDATE ES02_SPPROC SET DATAABERTURA = '02.03.2021'");
     EXPECT_EQ(1U, Unico(Carregar()).retPgtoTot.size());
 }
@@ -278,7 +278,7 @@ TEST_F(TTesteDemonstrativos, ReciboComImpostoRetido)
     Recibo(11, 7, D(2021, 2, 1), D(2021, 3, 10), 90);
     Inserir("RPATPVALOR", {{"IDRPATPVALOR", 3}, {"NOME", "VLRIRRF"}, {"DESCRICAO", "IRRF retido"}});
     Inserir("RPAVALOR", {{"IDRPA", 10}, {"IDRPATPVALOR", 3}, {"VALOR", 75.25}});
-    EXPECT_EQ("Verba 3 de RPA (IRRF retido) sem incidência de IRRF de retenção (31 a 35, 51 a 55 ou 81 a 83), no "
+    EXPECT_EQ("Verba 3 sem incidência de IRRF de retenção (31 a 35, 51 a 55 ou 81 a 83): IRRF retido (RPA), no "
               "demonstrativo 97_0000000010_10_03_2021 pago em 10/03/2021",
               Falha([] { Carregar(); }));
 

@@ -117,6 +117,9 @@ TEST_F(TTestePeriodoAnterior, RescisaoComplementarVaiParaOMesDaRescisao)
     EXPECT_EQ("1/0:MAT1=50", Itens());
     Calculo(1, 999, {.Tipo = "05", .Inicio = D(2019, 3, 1), .Fim = D(2019, 3, 15), .IdEmpregado = 2});
     EXPECT_EQ(D(2020, 6, 20), PerRef()) << "that of another contract doesn't count";
+    Calculo(1, 999,
+            {.Tipo = "05", .SubTipo = 1, .Inicio = D(2018, 1, 1), .Fim = D(2018, 1, 15), .Pagto = D(2018, 1, 20)});
+    EXPECT_EQ(D(2020, 6, 20), PerRef()) << "nor a complementary one";
     Calculo(1, 999, {.Tipo = "05", .Inicio = D(2019, 3, 1), .Fim = D(2019, 3, 15)});
     EXPECT_EQ(D(2019, 3, 1), PerRef());
     Info.Chave = 5;
@@ -181,9 +184,9 @@ TEST_F(TTestePeriodoAnterior, NoDepartamentoContaOMesInteiroENaoHaTesteDeAdmissa
 
 TEST_F(TTestePeriodoAnterior, OQueCadaContratoLeva)
 {
-    // The regime of the event's month counts, not that of the earlier one.
+    // The regime at the end of the event's month counts, not that of the earlier one.
     for (const auto& [LInicio, LFim, LInd] :
-         {std::tuple{D(2018, 1, 1), TValorSql(D(2020, 12, 31)), "1"}, {D(2021, 1, 1), TValorSql(nullptr), "2"}})
+         {std::tuple{D(2018, 1, 1), TValorSql(D(2021, 3, 30)), "1"}, {D(2021, 3, 31), TValorSql(nullptr), "2"}})
         Inserir("SC00_FILIALCFG", {{"IDFILIAL", 1},
                                    {"ORIGEM", 90},
                                    {"ESPECIE", 60},

@@ -1,6 +1,11 @@
+#include <array>
+#include <random>
 #include <regex>
+#include <set>
+#include <tuple>
 
 #include "imports/UnOvraExcecoes.h"
+#include "imports/UnTarvoUtilsDatas.h"
 #include "remuneracao/UnCenarioDeFolha.h"
 #include "remuneracao/UnTarvoESocialCamposS1200.h"
 
@@ -192,6 +197,19 @@ TEST_F(TTesteS1200, UmaPassagemPorCategoria)
     EXPECT_EQ("1/0:MAT1=100 1/0:MAT2=200", Itens(*LDeUma));
 }
 
+TEST_F(TTesteS1200, ACategoriaDoIdentificadorVaiPelosContratosDoInicioDaFolha)
+{
+    // The identifier is formed before the parameter object goes back from the agreement's run to the month.
+    OutroContrato(2, 103);
+    Acordo(9, D(2021, 3, 10));
+    Complementar(2, 1, D(2018, 6, 1), D(2018, 6, 30), D(2021, 3, 31), 9);
+    Calculo(1, 100);
+    Calculo(1, 137.5, {.SubTipo = 4, .Inicio = D(2018, 6, 1), .Fim = D(2018, 6, 30)});
+    EXPECT_EQ("01_000_0_03_2021_101 01_004_1_06_2018", Identificadores());
+    Executar("UPDATE EMPREGADOS SET DATA_ADMISSAO = '01.06.2018' WHERE IDEMPREGADO = 2");
+    EXPECT_EQ("01_000_0_03_2021_101 01_004_1_06_2018_101", Identificadores());
+}
+
 TEST_F(TTesteS1200, CodigoLongoDeCategoriaValeParaContratoENaoParaPrestador)
 {
     Executar("UPDATE EMPREGADOS SET IDCATEGORIAESOCIAL = 723");
@@ -244,6 +262,17 @@ TEST_F(TTesteS1200, LotacoesPeloTipoDeQuebra)
         Executar("UPDATE SC00_DEPTO SET TIPODEPTO = " + std::to_string(LTipoDepto));
         EXPECT_EQ(LInscricao, Carregar()->dmDev[0]->infoPerApur.ideEstabLot[2]->nrInsc);
     }
+}
+
+TEST_F(TTesteS1200, EstabelecimentoQueSoAQuebraConhece)
+{
+    TipoDeQuebra(2);
+    const auto LPartido = Calculo(1, 300);
+    Quebra(LPartido, 2, nullptr, 300, 31);
+    EXPECT_EQ("2/0:MAT1=300", Itens());
+    Executar("UPDATE CALC_QUEBRA SET IDDEPARTAMENTO = 20, COD_DEPTO = 20");
+    TipoDeQuebra(3);
+    EXPECT_EQ("0/20:MAT1=300", Itens());
 }
 
 TEST_F(TTesteS1200, NoDepartamentoOCalculoContaPeloUltimoDiaDoPeriodo)
@@ -311,11 +340,9 @@ TEST_F(TTesteS1200, ReciboDepoisDeUmAcordoVaiParaOPeriodoAnterior)
     Prestador(5, "11122233396", 101);
     Recibo(1, 1234, 5, D(2021, 3, 5), 60);
     const auto LEvento = Carregar();
-    EXPECT_EQ("01_004_1_06_2020", Identificadores(*LEvento).substr(0, 16));
-    for (const auto& LDmDev : LEvento->dmDev) {
-        EXPECT_TRUE(LDmDev->GerarInfoPerAnt);
-        EXPECT_FALSE(LDmDev->GerarInfoPerApur);
-    }
+    EXPECT_EQ("01_004_1_06_2020", Identificadores(*LEvento)) << "where it finds nothing";
+    EXPECT_TRUE(LEvento->dmDev[0]->GerarInfoPerAnt);
+    EXPECT_FALSE(LEvento->dmDev[0]->GerarInfoPerApur);
     EXPECT_EQ(5, Info.Chave);
     EXPECT_TRUE(Info.DataInicio().Vazia()) << "a receipt has no month to go back to";
     EXPECT_TRUE(Info.DataFim().Vazia());
@@ -334,6 +361,14 @@ TEST_F(TTesteS1200, RescisaoComplementarDeAcordoTemODiaNoIdentificador)
     Executar("UPDATE RESC_COMPL SET IDINFOGFIP650660 = 9");
     EXPECT_EQ("05_002_15_01_2019", Identificadores());
     EXPECT_EQ(6, Info.Chave);
+    // Calculated under another employer's code it is a run all the same; there is nothing of it to report here.
+    Executar("UPDATE CALCULO SET COD_EMPRESA = 8");
+    Executar("UPDATE RESC_COMPL SET COD_EMPRESA = 8");
+    Info.Chave = 0;
+    EXPECT_EQ("", Identificadores());
+    EXPECT_EQ(6, Info.Chave);
+    Executar("UPDATE CALCULO SET COD_EMPRESA = 7");
+    Executar("UPDATE RESC_COMPL SET COD_EMPRESA = 7");
     Executar("UPDATE CALCULO SET DATA_PAGTO = '01.04.2021'");
     Executar("UPDATE RESC_COMPL SET DATA_PGTO = '01.04.2021'");
     EXPECT_EQ("", Identificadores());
@@ -350,41 +385,156 @@ TEST_F(TTesteS1200, ALotacaoESeusFilhosCarregamComQualquerLista)
     EXPECT_EQ("", LEvento.IdeTrabalhador.nisTrab);
 }
 
-/// What holds for every worker of the sample company.
-class TTesteS1200Exemplo : public TTesteComExemplo {};
+/// What holds for every worker of the sample company, in every month in which it calculated or paid.
+class TTesteS1200Exemplo : public TTesteComExemplo {
+protected:
+    using TItens = TListaDeGrupos<remuneracao::TTarvoESocialCamposItensRemunS1200>;
+
+    void ConferirItens(const TItens& AItens)
+    {
+        EXPECT_FALSE(AItens.empty());
+        for (const auto& LItem : AItens) {
+            ++FQuantidade;
+            EXPECT_TRUE(std::regex_match(LItem->codRubr, FCodigo)) << LItem->codRubr;
+            EXPECT_GT(LItem->vrRubr, 0) << LItem->codRubr;
+        }
+    }
+    void Conferir(const remuneracao::TTarvoESocialCamposDmDevS1200& ADmDev)
+    {
+        EXPECT_TRUE(ADmDev.infoPerApur.ideEstabLot.empty() != ADmDev.infoPerAnt.ideAdc.empty()) << ADmDev.ideDmDev;
+        for (const auto& LLotacao : ADmDev.infoPerApur.ideEstabLot) {
+            EXPECT_FALSE(LLotacao->remunPerApur.empty());
+            for (const auto& LRemuneracao : LLotacao->remunPerApur) {
+                ConferirItens(LRemuneracao->itensRemun);
+                Mostrar("infoTrabInterm", !LRemuneracao->infoTrabInterm.empty());
+                Mostrar("recibo", LRemuneracao->matricula == "0");
+                Mostrar("exposto", LRemuneracao->infoAgNocivo.grauExp > 1);
+                Mostrar("departamento", LRemuneracao->IdDepto != 0);
+                Mostrar("estabelecimento", LRemuneracao->IdFilial != 0);
+                for (const auto& LOperadora : LRemuneracao->InfoSaudeColet.detOper)
+                    Mostrar("detPlano", !LOperadora->detPlano.empty());
+            }
+        }
+        for (const auto& LAcordo : ADmDev.infoPerAnt.ideAdc)
+            for (const auto& LPeriodo : LAcordo->idePeriodo)
+                for (const auto& LLotacao : LPeriodo->ideEstabLot)
+                    for (const auto& LRemuneracao : LLotacao->remunPerAnt) {
+                        ConferirItens(LRemuneracao->itensRemun);
+                        Mostrar(LAcordo->tpAcConv == 6 ? "rescisão complementar" : "acordo", true);
+                    }
+    }
+    void Mostrar(const char* ARamo, bool AMostra)
+    {
+        if (AMostra)
+            FRamos.insert(ARamo);
+    }
+
+    const std::regex FCodigo{"[0-9]{5}P[0-9]{3}I[0-9]{3}F[0-9]{3}C[0-9]{3}(RPA)?"};
+    std::set<std::string> FRamos;
+    int FQuantidade = 0;
+};
 
 TEST_F(TTesteS1200Exemplo, TodoItemTemCodigoBemFormadoEValorPositivo)
 {
-    const std::regex LCodigo("[0-9]{5}P[0-9]{3}I[0-9]{3}F[0-9]{3}C[0-9]{3}(RPA)?");
-    int LQuantidade = 0;
-    const auto LCds = Conexao().Consultar("SELECT DISTINCT IDEMPRESA, CPF FROM EMPREGADOS UNION "
-                                          "SELECT 1, CPF FROM PREST_SERVICO WHERE CPF IS NOT NULL");
-    for (std::size_t LLinha = 0; LLinha < LCds.QuantidadeDeLinhas(); ++LLinha) {
-        TTarvoESocialCamposS1200IOP LInfo;
-        LInfo.SetIdEmpresa(LCds.Inteiro(LLinha, 0));
-        LInfo.SetCpf(LCds.Texto(LLinha, 1));
-        LInfo.SetDataInicio(D(2021, 3, 1));
-        LInfo.SetDataFim(D(2021, 3, 31));
-        LInfo.SetIndApuracao(tpIndApuracao::Mensal);
-        TTarvoESocialCamposS1200 LEvento(LInfo);
-        LEvento.CarregarDados();
-        const auto LDemonstrativos = LEvento.dmDev.size();
-        for (const auto& LDmDev : LEvento.dmDev)
-            for (const auto& LLotacao : LDmDev->infoPerApur.ideEstabLot) {
-                EXPECT_FALSE(LLotacao->remunPerApur.empty());
-                for (const auto& LRemuneracao : LLotacao->remunPerApur) {
-                    EXPECT_FALSE(LRemuneracao->itensRemun.empty());
-                    for (const auto& LItem : LRemuneracao->itensRemun) {
-                        ++LQuantidade;
-                        EXPECT_TRUE(std::regex_match(LItem->codRubr, LCodigo)) << LItem->codRubr;
-                        EXPECT_GT(LItem->vrRubr, 0) << LItem->codRubr;
-                    }
-                }
+    const auto LCasos = Conexao().Consultar(R"(SELECT MESES.IDEMPRESA, MESES.CPF, MESES.MES
+FROM (
+  SELECT EMPREGADOS.IDEMPRESA, EMPREGADOS.CPF, CALCULO.DATA_INICIO AS MES
+  FROM CALCULO
+  JOIN EMPREGADOS ON (EMPREGADOS.IDEMPREGADO = CALCULO.IDEMPREGADO)
+  UNION SELECT EMPREGADOS.IDEMPRESA, EMPREGADOS.CPF, CALCULO.DATA_PAGTO
+  FROM CALCULO
+  JOIN EMPREGADOS ON (EMPREGADOS.IDEMPREGADO = CALCULO.IDEMPREGADO)
+  UNION SELECT SC00_FILIAL.IDEMPRESA, PREST_SERVICO.CPF, RPA.DATAPAGTO
+  FROM RPA
+  JOIN SC00_FILIAL ON (SC00_FILIAL.IDFILIAL = RPA.IDFILIAL)
+  JOIN PREST_SERVICO ON (PREST_SERVICO.IDPRESTSERVICO = RPA.IDPRESTSERVICO)
+) AS MESES)");
+    std::set<std::tuple<std::int64_t, std::string, TDateTime>> LMeses;
+    for (std::size_t LLinha = 0; LLinha < LCasos.QuantidadeDeLinhas(); ++LLinha)
+        LMeses.emplace(LCasos.Inteiro(LLinha, 0), LCasos.Texto(LLinha, 1), PrimeiroDiaDoMes(LCasos.Data(LLinha, 2)));
+    for (const auto& [LIdEmpresa, LCpf, LMes] : LMeses)
+        for (const auto LIndApuracao : {tpIndApuracao::Mensal, tpIndApuracao::Anual}) {
+            TTarvoESocialCamposS1200IOP LInfo;
+            LInfo.SetIdEmpresa(LIdEmpresa);
+            LInfo.SetCpf(LCpf);
+            LInfo.SetDataInicio(LMes);
+            LInfo.SetDataFim(UltimoDiaDoMes(LMes));
+            LInfo.SetIndApuracao(LIndApuracao);
+            TTarvoESocialCamposS1200 LEvento(LInfo);
+            LEvento.CarregarDados();
+            for (const auto& LDmDev : LEvento.dmDev)
+                Conferir(*LDmDev);
+            Mostrar("procJudTrab", !LEvento.IdeTrabalhador.procJudTrab.empty());
+            Mostrar("remunOutrEmpr", !LEvento.IdeTrabalhador.InfoMV.remunOutrEmpr.empty());
+            Mostrar("infoComplem", LEvento.IdeTrabalhador.infoComplem.PossuiInformacao());
+            Mostrar("infoInterm", LEvento.IdeTrabalhador.infoInterm.qtdDiasInterm > 0);
+
+            // A second load adds the same demonstratives behind the first.
+            const auto LQuantos = LEvento.dmDev.size();
+            LEvento.CarregarDados();
+            ASSERT_EQ(2 * LQuantos, LEvento.dmDev.size()) << LCpf;
+            for (std::size_t LIndice = 0; LIndice < LQuantos; ++LIndice)
+                EXPECT_EQ(LEvento.dmDev[LIndice]->ToJson().AsJSON(),
+                          LEvento.dmDev[LQuantos + LIndice]->ToJson().AsJSON());
+        }
+    EXPECT_GT(FQuantidade, 100);
+    const std::set<std::string> LTodos{"acordo",      "departamento", "detPlano",      "estabelecimento",
+                                       "exposto",     "infoComplem",  "infoInterm",    "infoTrabInterm",
+                                       "procJudTrab", "recibo",       "remunOutrEmpr", "rescisão complementar"};
+    EXPECT_EQ(LTodos, FRamos) << "the sample company shows every branch";
+}
+
+// Rows of the sample's rubrics at random, each prefix of a list against the one before it.
+TEST_F(TTesteS1200Exemplo, SoAPrimeiraLinhaDecideDoItem)
+{
+    const auto LVerbas = Conexao().Consultar("SELECT IDVERBA, CODIGO, FORMULA, HORAS FROM TAB_VERBAS "
+                                             "WHERE CODIGO IN (1, 3, 9, 17, 26, 46, 59) ORDER BY CODIGO");
+    ASSERT_EQ(7u, LVerbas.QuantidadeDeLinhas());
+    TTarvoESocialCamposS1200IOP LInfo;
+    LInfo.SetIdEmpresa(1);
+    LInfo.SetTipoEmpregado(TTipoTrabalhador::Empregado);
+    LInfo.SetDataInicio(D(2021, 3, 1));
+    std::mt19937 LSorteio(20210301);
+    const auto Sortear = [&](std::size_t AQuantos) { return std::size_t{LSorteio()} % AQuantos; };
+    const auto Texto = [](const TItens& AItens) {
+        std::vector<std::string> LTextos;
+        for (const auto& LItem : AItens)
+            LTextos.push_back(LItem->ToJson().AsJSON());
+        return LTextos;
+    };
+    for (int LVez = 0; LVez < 40; ++LVez) {
+        LInfo.SetIdEmpregado(LVez % 2 == 0 ? 1 : 8); // with and without a bond
+        std::vector<remuneracao::TDadosCalculo> LLinhas;
+        std::vector<std::string> LAntes;
+        std::size_t LVerba = 0;
+        while (LLinhas.size() < 6) {
+            if (LLinhas.empty() || Sortear(2) == 0)
+                LVerba = Sortear(LVerbas.QuantidadeDeLinhas());
+            remuneracao::TDadosCalculo LDados;
+            LDados.IdVerba = LVerbas.Inteiro(LVerba, 0);
+            LDados.Cod_Verba = static_cast<std::int32_t>(LVerbas.Inteiro(LVerba, 1));
+            LDados.Formula = LVerbas.Texto(LVerba, 2);
+            LDados.Horas = LVerbas.Texto(LVerba, 3);
+            LDados.Valor = std::array{-12.5, 0.0, 0.01, 30.0}[Sortear(4)];
+            LDados.Base = -LDados.Valor;
+            LLinhas.push_back(LDados);
+
+            TItens LItens;
+            remuneracao::GerarListaItensRemun(LInfo, LLinhas, nullptr, LItens);
+            auto LAgora = Texto(LItens);
+            if (LItens.size() > LAntes.size()) {
+                ASSERT_EQ(LAntes.size() + 1, LItens.size());
+                EXPECT_GT(LItens.back()->vrRubr, 0);
+                EXPECT_TRUE(std::regex_match(LItens.back()->codRubr, FCodigo)) << LItens.back()->codRubr;
+            } else {
+                ASSERT_EQ(LAntes.size(), LItens.size()) << "no item goes again";
             }
-        LEvento.CarregarDados();
-        EXPECT_EQ(2 * LDemonstrativos, LEvento.dmDev.size()) << LInfo.Cpf();
+            // Only the last item may have grown.
+            for (std::size_t LIndice = 0; LIndice + 1 < LAntes.size(); ++LIndice)
+                EXPECT_EQ(LAntes[LIndice], LAgora[LIndice]);
+            LAntes = std::move(LAgora);
+        }
     }
-    EXPECT_GT(LQuantidade, 50);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "framework/UnTarvoESocialCamposSqlCalculo.h"
 #include "imports/UnOvraExcecoes.h"
 #include "remuneracao/UnCenarioDeFolha.h"
 #include "remuneracao/UnTarvoESocialCamposS1200DadosCalculo.h"
@@ -115,6 +116,29 @@ TEST_F(TTesteDadosCalculo, FeriasComplementaresSomamNaPrimeiraVerbaIgual)
     EXPECT_EQ(30, LLista[0].Referencia);
     Executar("UPDATE CALCCOMPLPER SET DATA_FIM = '30.03.2021'");
     EXPECT_EQ("1=1000 2=0 3=5", Texto(Lista()));
+}
+
+TEST_F(TTesteDadosCalculo, ASomaDeQuantiasNaoArredonda)
+{
+    const struct {
+        double A;
+        double B;
+        double Soma;
+    } LCasos[] = {
+        {483.33, 25.08, 508.41},       {0.1, 0.2, 0.3},           {1000.01, -1000, 0.01},           {10, -10.01, -0.01},
+        {1000, 0.123456, 1000.123456}, {0.00004, 0.00004, 8e-05}, {1e9, 0.00049, 1000000000.00049}, {0.3, -0.3, 0},
+    };
+    for (const auto& LCaso : LCasos)
+        EXPECT_EQ(LCaso.Soma, SomarQuantias(LCaso.A, LCaso.B)) << LCaso.A << " " << LCaso.B;
+
+    std::vector<remuneracao::TDadosCalculo> LLista(1);
+    LLista[0].IdVerba = 1001;
+    LLista[0].Valor = 1000;
+    SomarFeriasComplementares(LLista, &remuneracao::TDadosCalculo::IdVerba, &remuneracao::TDadosCalculo::Base,
+                              &remuneracao::TDadosCalculo::Valor,
+                              "SELECT 1001 AS IDVERBA, 0 AS BASE, CAST(0.123456 AS DOUBLE PRECISION) AS VALOR "
+                              "FROM RDB$DATABASE");
+    EXPECT_EQ(1000.123456, LLista[0].Valor) << "of a column with more decimals than money has";
 }
 
 TEST_F(TTesteDadosCalculo, AQuebraSubstituiALinhaDoCalculo)

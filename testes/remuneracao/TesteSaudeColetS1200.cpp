@@ -203,6 +203,8 @@ TEST_F(TTesteSaudeColetS1200, FolhaComplementarEReciboNaoTemPlano)
                    std::to_string(LPlano.IdFilial) + " ";
     }
     EXPECT_EQ("01_000_0_03_2021=1/1 01_004_2_03_2021=0/0 97_0000001234_05_03_2021=0/1 ", LPlanos);
+    EXPECT_EQ(0, Info.SubTipoFolha()) << "the receipt's own, not those of the run before";
+    EXPECT_EQ(0, Info.TipoFolhaCompl());
 }
 
 TEST_F(TTesteSaudeColetS1200, DependenteSemTipoFicaNaListaSemValor)

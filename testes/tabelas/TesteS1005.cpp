@@ -163,6 +163,32 @@ TEST_F(TTesteS1005, ALinhaNaoValeMaisNoDiaDoSeuFim)
     }
 }
 
+TEST_F(TTesteS1005, NemAsAliquotasProcessosEFapDeCadaNivelValemNoDiaDoFim)
+{
+    const TValidade LValidade{D(2020, 1, 1), D(2020, 6, 30)};
+    Processo(2, "P2");
+    Processo(3, "P3");
+    Processo(4, "P4");
+    Configurar(SC00_FILIALCFG, FAP, LValidade, "1,75", "2");
+    Configurar(SC00_FILIALCFG, RAT, LValidade, "3", "3");
+    const auto Resumo = [](const TTarvoESocialCamposS1005& AEvento) {
+        return Aliquotas(AEvento) + " " + ProcessoDoRat(AEvento) + " " + ProcessoDoFap(AEvento);
+    };
+    const std::string LFora = "/0 0//// 0////";
+    for (const auto LData : {D(2020, 1, 1), D(2020, 6, 29)}) {
+        EXPECT_EQ("3/1,75 3/2/P3//1 2/2/P2//1", Resumo(*CarregarEstab(LData)));
+        EXPECT_EQ("3/1,75 3/2/P3// 2/2/P2//1", Resumo(*CarregarDepto(LData)));
+    }
+    for (const auto LData : {D(2019, 12, 31), D(2020, 6, 30)}) {
+        EXPECT_EQ(LFora, Resumo(*CarregarEstab(LData)));
+        EXPECT_EQ(LFora, Resumo(*CarregarDepto(LData)));
+    }
+    // The department's own rate and process.
+    Configurar(SC00_DEPARTAMENTOCFG, RAT, LValidade, "2", "4");
+    EXPECT_EQ("2/1,75 4/2/P4// 2/2/P2//1", Resumo(*CarregarDepto(D(2020, 6, 29))));
+    EXPECT_EQ(LFora, Resumo(*CarregarDepto(D(2020, 6, 30))));
+}
+
 TEST_F(TTesteS1005, AsEntidadesEducacionaisAindaValemNoDiaDoFim)
 {
     Inserir("PREST_SERVICO", {{"IDPRESTSERVICO", 8}, {"INSCRICAO", "88112233000127"}});
@@ -207,6 +233,30 @@ TEST_F(TTesteS1005, AsEntidadesEducacionaisAindaValemNoDiaDoFim)
     LGrupo.CarregarDados();
     EXPECT_EQ(2U, LGrupo.InfoEntEduc.size());
     EXPECT_EQ("4", LGrupo.contApr);
+}
+
+TEST_F(TTesteS1005, DeDuasLinhasNoMesmoDiaAsEntidadesSaoDaMaisNova)
+{
+    Inserir("PREST_SERVICO", {{"IDPRESTSERVICO", 8}, {"INSCRICAO", "88112233000127"}});
+    Inserir("PREST_SERVICO", {{"IDPRESTSERVICO", 9}, {"INSCRICAO", "99112233000109"}});
+    for (const auto LTabela : {SC00_FILIALCFG, SC00_DEPARTAMENTOCFG}) {
+        Configurar(LTabela, APRENDIZES, {D(2020, 6, 30), nullptr}, "5");
+        Configurar(LTabela, APRENDIZES, {D(2020, 1, 1), D(2020, 6, 30)}, "4");
+        const std::string LChave = LTabela.Nome == "SC00_FILIALCFG" ? "IDFILIALCFG" : "IDDEPARTAMENTOCFG";
+        Executar("INSERT INTO FP_INFOGERALCFG (" + LChave + ", ORIGEM, ESPECIE, TP, INFORMACAO1) SELECT " + LChave +
+                 ", ORIGEM, ESPECIE, TP, IIF(INFORMACAO1 = '5', '9', '8') FROM " + std::string(LTabela.Nome));
+    }
+    const auto Entidades = [](std::int64_t AEstab, std::int64_t ADepto, TDateTime AData) {
+        const TTarvoESocialCamposInfoApr LGrupo(AEstab, ADepto, AData);
+        std::string LTexto;
+        for (const auto& LItem : LGrupo.InfoEntEduc)
+            LTexto += LItem->nrInsc + " ";
+        return LTexto;
+    };
+    for (const auto& [LEstab, LDepto] : {std::pair{1, 0}, {0, 10}}) {
+        EXPECT_EQ("88112233000127 ", Entidades(LEstab, LDepto, D(2020, 6, 29)));
+        EXPECT_EQ("99112233000109 ", Entidades(LEstab, LDepto, D(2020, 6, 30)));
+    }
 }
 
 TEST_F(TTesteS1005, AtividadeMaisNovaDoEstabelecimentoEMaisAntigaDoDepartamento)

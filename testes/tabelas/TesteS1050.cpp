@@ -37,6 +37,11 @@ TEST_F(TTesteS1050, CadaDiaDaSemanaTemAsSuasColunas)
         EXPECT_EQ("101: 080" + N + "-170" + N + " 48" + N + "S 2 6" + N + " 120" + N + "-130" + N,
                   Texto(1, 0, static_cast<TDiaSemana>(LDia)));
     }
+    // The weekday that the caller is given is no setting of the load.
+    tabelas::TTarvoESocialCamposHorarioIntervalo LIntervalo(1, 0, TDiaSemana::Segunda);
+    LIntervalo.DiaSemana = TDiaSemana::Sexta;
+    LIntervalo.CarregarDados();
+    EXPECT_EQ("1201", LIntervalo.iniInterv);
     EXPECT_THROW(ConstruirEvento("S-1050", {{"AIdHorario", "1"}, {"AIdHorarioDet", "0"}, {"ADiaSemana", "7"}}),
                  EArgumentoInvalido);
 }

@@ -165,6 +165,57 @@ TEST_F(TTesteAfastamentoTemporario, OrdemDosDoisLados)
     EXPECT_EQ(LDoTermino, OrdemDaCarga(LTermino, LDoTermino));
 }
 
+TEST_F(TTesteAfastamentoTemporario, AListaAlcancaCadaGrupoESoEle)
+{
+    Situacao(1, 1815);
+    TTarvoESocialCamposS2230 LInicio(1, TTipoEventoS2230::Inicio);
+    const auto& LInfo = LInicio.infoAfastamento;
+    ConferirListaDeUmGrupo(
+        LInicio,
+        {&LInicio.ideVinculo, &LInfo.iniAfastamento, &LInfo.iniAfastamento.infoCessao,
+         &LInfo.iniAfastamento.infoMandSind, &LInfo.infoRetif},
+        {"COD_CATEG", "COD_MOT_AFAST", "FP_EMPREGADOSDET.TP = 1\n", "FP_EMPREGADOSDET.TP = 2", "ES02_SPPROC"});
+    // The side that isn't reported can't be reached.
+    const TListaCamposModificados LLista{std::string(LInfo.fimAfastamento.GuidClasse())};
+    EXPECT_TRUE(OrdemDaCarga(LInicio, {"SITUACOES.DATA_FIM"}, &LLista).empty());
+    TTarvoESocialCamposS2230 LTermino(1, TTipoEventoS2230::Termino);
+    EXPECT_EQ(1U, OrdemDaCarga(LTermino, {"SITUACOES.DATA_FIM"}, &LLista).size());
+}
+
+TEST_F(TTesteAfastamentoTemporario, FalhaNaRetificacaoGuardaOQueJaVeio)
+{
+    Situacao(1, 1803, "09", D(2021, 3, 10));
+    Detalhe(5, 1, {"1", "2", "1", "PROC-60"});
+    TTarvoESocialCamposS2230 LEvento(1, TTipoEventoS2230::Inicio);
+    EXPECT_THROW(LEvento.CarregarDados(), EDatabaseError);
+    EXPECT_EQ("MAT-7/SIM/", LEvento.ideVinculo.matricula + "/" + LEvento.infoAfastamento.iniAfastamento.infoMesmoMtv +
+                                "/" + LEvento.infoAfastamento.infoRetif.origRetif);
+    EXPECT_EQ(1U, LEvento.infoAfastamento.iniAfastamento.infoAtestado.size());
+    Executar("UPDATE FP_EMPREGADOSDET SET INFORMACAO4 = NULL");
+    LEvento.CarregarDados();
+    EXPECT_EQ("2", LEvento.infoAfastamento.infoRetif.origRetif);
+    EXPECT_EQ(1U, LEvento.infoAfastamento.iniAfastamento.infoAtestado.size());
+}
+
+TEST_F(TTesteAfastamentoTemporario, MotivoNovoEListaDeAtestadosNaRecarga)
+{
+    Situacao(1, 1801);
+    Inserir("FP_SITUACAOATESTADO", {{"IDSITUACAO", 1}, {"QTDDIASAFAST", 2}});
+    TTarvoESocialCamposiniAfastamento LGrupo(1);
+    LGrupo.CarregarDados();
+    // The list of certificates follows the table at once, the reason only when the group itself is read again.
+    Executar("UPDATE SITUACOES SET IDESOCIALTABELA18 = 1803, TIPOACIDENTE = NULL, OBSERVACAOESOCIAL = 'nova'");
+    Executar("UPDATE FP_SITUACAOATESTADO SET IDSITUACAO = 2");
+    const TListaCamposModificados LLista{std::string(LGrupo.infoCessao.GuidClasse())};
+    LGrupo.CarregarDados(&LLista);
+    EXPECT_TRUE(LGrupo.infoAtestado.empty());
+    LGrupo.CarregarDados();
+    ASSERT_EQ(1U, LGrupo.infoAtestado.size());
+    // A column that is null keeps the former value.
+    EXPECT_EQ(2, LGrupo.tpAcidTransito);
+    EXPECT_EQ("nova", LGrupo.Observacao);
+}
+
 TEST_F(TTesteAfastamentoTemporario, CatalogoRecusaOrdinalQueNaoExiste)
 {
     for (const char* LTipo : {"3", "-1", "257"})
@@ -284,6 +335,58 @@ TEST_F(TTesteEventosDoVinculo, ConvocacaoDoDiaELocalSoComTipoDeLogradouro)
     const std::vector<std::string> LOrdem{"COD_CATEG", "DATAPAGAMENTO", "LOCALPRESTACAO", "ABREVESOCIAL",
                                           "CODHORCONTRAT"};
     EXPECT_EQ(LOrdem, OrdemDaCarga(LEvento, LOrdem));
+}
+
+TEST_F(TTesteEventosDoVinculo, DataDaConvocacaoComHoraSoAchaAMesmaHora)
+{
+    Convocar(D(2021, 3, 10), nullptr, 3);
+    Convocar(D(2021, 3, 11) + EncodeTime(8, 0, 0), nullptr, 3);
+    for (const auto& [LData, LEsperado] : {std::pair{D(2021, 3, 10), "1"},
+                                           {D(2021, 3, 10) + EncodeTime(8, 0, 0), ""},
+                                           {D(2021, 3, 11), ""},
+                                           {D(2021, 3, 11) + EncodeTime(8, 0, 0), "1"}}) {
+        TTarvoESocialCamposLocalTrab LGrupo(ID, LData);
+        LGrupo.CarregarDados();
+        EXPECT_EQ(LEsperado, LGrupo.indLocal);
+    }
+}
+
+TEST_F(TTesteEventosDoVinculo, AListaAlcancaCadaGrupoESoEle)
+{
+    TTarvoESocialCamposS2260 LConvocacao(ID, D(2021, 3, 10));
+    const auto& LInfo = LConvocacao.InfoConvInterm;
+    ConferirListaDeUmGrupo(
+        LConvocacao,
+        {&LConvocacao.ideVinculo, &LInfo, &LInfo.LocalTrab, &LInfo.LocalTrab.LocalTrabInterm, &LInfo.Jornada},
+        {"COD_CATEG", "DATAPAGAMENTO", "LOCALPRESTACAO", "ABREVESOCIAL", "CODHORCONTRAT"});
+    TTarvoESocialCamposS2250 LAviso(1);
+    ConferirListaDeUmGrupo(LAviso,
+                           {&LAviso.ideVinculo, &LAviso.infoAvPrevio.detAvPrevio, &LAviso.infoAvPrevio.cancAvPrevio},
+                           {"COD_CATEG", "DATAAVISO", "DATACANCELAMENTO"});
+    Evento(1, "S-2300", ID);
+    TTarvoESocialCamposS3000 LExclusao(1);
+    const auto& LEvento = LExclusao.InfoExclusao;
+    ConferirListaDeUmGrupo(LExclusao, {&LEvento, &LEvento.ideTrabalhador, &LEvento.ideFolhaPagto},
+                           {"REINFDET", "EMPREGADOS.PIS", "INDAPUR"});
+    const std::vector<std::string> LOrdem{"REINFDET", "EMPREGADOS.PIS", "INDAPUR"};
+    EXPECT_EQ(LOrdem, OrdemDaCarga(LExclusao, LOrdem));
+}
+
+TEST_F(TTesteEventosDoVinculo, EventoSemTrabalhadorAindaCarregaORestante)
+{
+    TTarvoESocialCamposS2260 LConvocacao(99, D(2021, 3, 10));
+    LConvocacao.ideVinculo.matricula = "antes";
+    LConvocacao.CarregarDados();
+    EXPECT_EQ("antes", LConvocacao.ideVinculo.matricula);
+    Inserir("FP_AVISOPREVIO", {{"IDAVISOPREVIO", 4}, {"OBSERVACAOAVISO", "sem dono"}});
+    TTarvoESocialCamposS2250 LAviso(4);
+    LAviso.CarregarDados();
+    EXPECT_EQ("/sem dono", LAviso.ideVinculo.matricula + "/" + LAviso.infoAvPrevio.detAvPrevio.observacao);
+    Inserir("SITUACOES", {{"IDSITUACAO", 9}, {"DATA_FIM", D(2021, 3, 31)}});
+    TTarvoESocialCamposS2230 LTermino(9, TTipoEventoS2230::Termino);
+    LTermino.CarregarDados();
+    EXPECT_EQ("", LTermino.ideVinculo.matricula);
+    EXPECT_EQ(D(2021, 3, 31), LTermino.infoAfastamento.fimAfastamento.dtTermAfast);
 }
 
 TEST_F(TTesteEventosDoVinculo, ReintegracaoSoTemAIdentificacao)

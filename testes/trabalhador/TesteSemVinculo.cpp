@@ -150,7 +150,7 @@ TEST_F(TTesteSemVinculo, EstagioSemDetalheMantemABolsaESemSalarioNaoTemNada)
     const auto Resumo = [](TDateTime AData) {
         TTarvoESocialCamposInfoEstagiario LGrupo(ID, AData);
         LGrupo.CarregarDados();
-        EXPECT_EQ(LGrupo.vlrBolsa.empty() ? TDateTime() : D(2021, 2, 1), LGrupo.DataInicioContrato);
+        EXPECT_EQ(LGrupo.vlrBolsa.empty() ? TDateTime() : D(2021, 2, 1), LGrupo.DataInicoContrato);
         return LGrupo.vlrBolsa + "/" + std::to_string(LGrupo.NumDiasContrato) + "/" +
                std::to_string(LGrupo.UnidadeMedidaContrato) + "/" + LGrupo.natEstagio + LGrupo.nivEstagio + "/" +
                LGrupo.instEnsino.nmRazao + "/" + LGrupo.ageIntegracao.nmRazao + "/" + LGrupo.supervisorEstagio.nmSuperv;
@@ -223,6 +223,78 @@ TEST_F(TTesteSemVinculo, TudoCarregaNaOrdemQualquerQueSejaACategoria)
                                                 "1FP_EMPREGADOSDET.INFORMACAO7"};
     TTarvoESocialCamposS2306 LAlteracao(ID, D(2021, 3, 1));
     EXPECT_EQ(LDaAlteracao, OrdemDaCarga(LAlteracao, LDaAlteracao));
+}
+
+TEST_F(TTesteSemVinculo, AListaAlcancaCadaGrupoESoEle)
+{
+    TTarvoESocialCamposS2300 LInicio(ID, D(2021, 3, 1));
+    const auto& LTsv = LInicio.infoTSVInicio;
+    const auto& LCompl = LTsv.InfoComplementares;
+    ConferirListaDeUmGrupo(LInicio,
+                           {&LInicio.Trabalhador, &LTsv, &LCompl.CargoFuncao, &LCompl.Remuneracao, &LCompl.FGTS,
+                            &LCompl.InfoDirSind, &LCompl.InfoTrabCedido, &LCompl.InfoEstagiario,
+                            &LCompl.InfoEstagiario.instEnsino, &LCompl.InfoEstagiario.ageIntegracao,
+                            &LCompl.InfoEstagiario.supervisorEstagio, &LTsv.Afastamento, &LTsv.Termino},
+                           {"RACACOR AS", "TRUNC(", "TPCARGOPUBLICO", "DESCNIVEL", "CONTRATO_DESC", "CATEGORIGEM",
+                            "CNPJCEDNT", "DESCNIVESTAGIO", "1FP_EMPREGADOSDET.INFORMACAO5",
+                            "1FP_EMPREGADOSDET.INFORMACAO6", "1FP_EMPREGADOSDET.INFORMACAO7", "FROM SITUACOES",
+                            "TAB_RESCISAO"});
+    TTarvoESocialCamposS2306 LAlteracao(ID, D(2021, 3, 1));
+    const auto& LDepois = LAlteracao.infoTSVAlteracao.infoComplementares2306;
+    ConferirListaDeUmGrupo(
+        LAlteracao,
+        {&LAlteracao.ideTrabSemVinculo, &LAlteracao.infoTSVAlteracao, &LDepois.cargoFuncao, &LDepois.remuneracao,
+         &LDepois.infoEstagiario, &LDepois.infoEstagiario.supervisorEstagio},
+        {"COD_CATEG", "TIPOVINCULO", "TPCARGOPUBLICO", "DESCNIVEL", "DESCNIVESTAGIO", "1FP_EMPREGADOSDET.INFORMACAO7"});
+}
+
+TEST_F(TTesteSemVinculo, DataComHoraAlcancaOQueComecouNoDia)
+{
+    Inserir("FP_CARGOSDESCR", {{"IDCARGOSDESCR", 1}, {"CODIGOESOCIAL", "C1"}});
+    Inserir("CARGOS", {{"IDEMPREGADO", ID}, {"DATA", D(2021, 3, 10)}, {"IDCARGOSDESCR", 1}});
+    Salario(D(2021, 3, 10), 900.0);
+    for (const auto& [LData, LEsperado] : {std::pair{D(2021, 3, 10) - 0.25, "/"},
+                                           {D(2021, 3, 10), "C1/900"},
+                                           {D(2021, 3, 10) + EncodeTime(17, 30, 0), "C1/900"}}) {
+        TTarvoESocialCamposS2306 LEvento(ID, LData);
+        LEvento.CarregarDados();
+        const auto& LGrupo = LEvento.infoTSVAlteracao.infoComplementares2306;
+        EXPECT_EQ(LEsperado, LGrupo.cargoFuncao.codCargo + "/" + LGrupo.infoEstagiario.vlrBolsa);
+    }
+}
+
+TEST_F(TTesteSemVinculo, IdDoEstagioQueNaoEhNumeroFalhaEGuardaOQueJaVeio)
+{
+    Salario(D(2021, 2, 1), 900.0);
+    Inserir("PREST_SERVICO", {{"IDPRESTSERVICO", 5}, {"NOME", "Faculdade"}});
+    Detalhe(1, 4, {"1", "4", "Direito", "AP-1", "5", "seis", nullptr});
+    TTarvoESocialCamposS2300 LEvento(ID, D(2021, 3, 1));
+    EXPECT_THROW(LEvento.CarregarDados(), EDatabaseError);
+    const auto& LTsv = LEvento.infoTSVInicio;
+    EXPECT_EQ("Faculdade/", LTsv.InfoComplementares.InfoEstagiario.instEnsino.nmRazao + "/" +
+                                LTsv.InfoComplementares.InfoEstagiario.ageIntegracao.nmRazao);
+    EXPECT_EQ(D(2021, 2, 1), LTsv.dtInicio);
+    Executar("UPDATE FP_EMPREGADOSDET SET INFORMACAO6 = '5'");
+    LEvento.CarregarDados();
+    EXPECT_EQ("Faculdade", LTsv.InfoComplementares.InfoEstagiario.ageIntegracao.nmRazao);
+}
+
+TEST_F(TTesteSemVinculo, RecargaSemLinhaGuardaOsValores)
+{
+    Salario(D(2021, 2, 1), 900.0);
+    Detalhe(1, 4, {"1", "4", "Direito", "AP-1"});
+    Detalhe(1, 5, {"612", "10/01/2005", "SIND-33", nullptr});
+    TTarvoESocialCamposInfoComplementaresEmpregado LGrupo(ID, D(2021, 3, 1));
+    LGrupo.CarregarDados();
+    Executar("DELETE FROM FP_EMPREGADOSDET");
+    Executar("UPDATE SALARIO SET SALARIOMENSAL = 950");
+    LGrupo.CarregarDados();
+    EXPECT_EQ("612/SIND-33", LGrupo.InfoDirSind.cnpjOrigem + "/" + LGrupo.InfoDirSind.matricOrig);
+    // Of a row whose join is gone the salary is new and the rest stays.
+    EXPECT_EQ("950/1/4/Direito/1-Obrigatório", LGrupo.InfoEstagiario.vlrBolsa + "/" + LGrupo.InfoEstagiario.natEstagio +
+                                                   "/" + LGrupo.InfoEstagiario.nivEstagio + "/" +
+                                                   LGrupo.InfoEstagiario.areaAtuacao + "/" +
+                                                   LGrupo.InfoEstagiario.DescricaoNatEstagio);
 }
 
 TEST_F(TTesteSemVinculo, IdentificacaoRecarregaPeloGuidDoVinculo)

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "apoio/UnBancoDeTeste.h"
+#include "framework/UnTarvoESocialCamposGrupoBase.h"
 
 namespace tarvo::testes {
 
@@ -87,7 +88,8 @@ protected:
 
     /// What tells each statement of a load apart: the first of the given words that it holds, in the order of the load.
     template <class T>
-    std::vector<std::string> OrdemDaCarga(T& AGrupo, const std::vector<std::string>& APalavras)
+    std::vector<std::string> OrdemDaCarga(T& AGrupo, const std::vector<std::string>& APalavras,
+                                          const std::vector<std::string>* ALista = nullptr)
     {
         std::vector<std::string> LOrdem;
         Conexao().DefinirObservador([&](const TExecucaoSql& AExecucao) {
@@ -97,9 +99,21 @@ protected:
                     return;
                 }
         });
-        AGrupo.CarregarDados();
+        AGrupo.CarregarDados(ALista);
         Conexao().DefinirObservador({});
         return LOrdem;
+    }
+
+    /// A list that names one group of the tree runs that group's statement alone: AGrupos[i] has APalavras[i].
+    template <class T>
+    void ConferirListaDeUmGrupo(T& AEvento, const std::vector<const TTarvoESocialCamposGrupoBase*>& AGrupos,
+                                const std::vector<std::string>& APalavras)
+    {
+        ASSERT_EQ(AGrupos.size(), APalavras.size());
+        for (std::size_t i = 0; i < AGrupos.size(); ++i) {
+            const TListaCamposModificados LLista{std::string(AGrupos[i]->GuidClasse())};
+            EXPECT_EQ(std::vector<std::string>{APalavras[i]}, OrdemDaCarga(AEvento, APalavras, &LLista)) << LLista[0];
+        }
     }
 };
 

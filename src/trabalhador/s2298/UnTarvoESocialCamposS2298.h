@@ -6,7 +6,7 @@
 namespace tarvo::trabalhador {
 
 /// S-2298 infoReintegr: the reinstatement, all of it for the caller.
-class TTarvoESocialCamposinfoReintegr : public TTarvoESocialCamposQuadro {
+class TTarvoESocialCamposinfoReintegr : public TTarvoESocialCamposQuadro<TTarvoESocialCamposinfoReintegr> {
 public:
     explicit TTarvoESocialCamposinfoReintegr(std::int64_t AIdEmpregado)
         : TTarvoESocialCamposQuadro("{B0FA6BD7-79DD-4DDA-9132-7E3A3D734BEA}", AIdEmpregado)
@@ -19,22 +19,19 @@ public:
     TDateTime dtEfetRetorno;
     TDateTime dtEfeito;
 
-protected:
-    const TPropriedades& Propriedades() const override
+    static TPropriedades Tags()
     {
-        using Eu = TTarvoESocialCamposinfoReintegr;
-        static const TPropriedades tabela{{"tpReint", &Eu::tpReint},
-                                          {"nrProcJud", &Eu::nrProcJud},
-                                          {"nrLeiAnistia", &Eu::nrLeiAnistia},
-                                          {"indPagtoJuizo", &Eu::indPagtoJuizo},
-                                          {"dtEfetRetorno", &Eu::dtEfetRetorno},
-                                          {"dtEfeito", &Eu::dtEfeito}};
-        return tabela;
+        return {{"tpReint", &Eu::tpReint},
+                {"nrProcJud", &Eu::nrProcJud},
+                {"nrLeiAnistia", &Eu::nrLeiAnistia},
+                {"indPagtoJuizo", &Eu::indPagtoJuizo},
+                {"dtEfetRetorno", &Eu::dtEfetRetorno},
+                {"dtEfeito", &Eu::dtEfeito}};
     }
 };
 
 /// Event S-2298: reinstatement of a worker. A frame that the caller fills; only ideVinculo reads the database.
-class TTarvoESocialCamposS2298 : public TTarvoESocialCamposQuadro {
+class TTarvoESocialCamposS2298 : public TTarvoESocialCamposQuadro<TTarvoESocialCamposS2298> {
 public:
     /// AIdEmpregado: EMPREGADOS.IDEMPREGADO.
     explicit TTarvoESocialCamposS2298(std::int64_t AIdEmpregado)
@@ -45,18 +42,7 @@ public:
     TTarvoESocialCamposideVinculo ideVinculo;
     TTarvoESocialCamposinfoReintegr infoReintegr;
 
-    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override
-    {
-        CarregarComFilhos(AListaCamposModificados, {&ideVinculo, &infoReintegr});
-    }
-
-protected:
-    const TPropriedades& Propriedades() const override
-    {
-        using Eu = TTarvoESocialCamposS2298;
-        static const TPropriedades tabela{{"ideVinculo", &Eu::ideVinculo}, {"infoReintegr", &Eu::infoReintegr}};
-        return tabela;
-    }
+    static TPropriedades Tags() { return {{"ideVinculo", &Eu::ideVinculo}, {"infoReintegr", &Eu::infoReintegr}}; }
 };
 
 } // namespace tarvo::trabalhador

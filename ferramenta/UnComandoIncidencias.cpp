@@ -1,0 +1,158 @@
+#include <CLI/CLI.hpp>
+#include <rapidjson/stringbuffer.h>
+#include <rapidjson/writer.h>
+#include <unistd.h>
+
+#include <array>
+#include <memory>
+
+#include "ferramenta/UnBarraDeProgresso.h"
+#include "ferramenta/UnCarga.h"
+#include "ferramenta/UnComandos.h"
+#include "ferramenta/UnContexto.h"
+#include "ferramenta/UnErros.h"
+#include "imports/UnOvraConversoes.h"
+#include "imports/UnOvraFormat.h"
+#include "imports/UnTarvoConsultasGeral.h"
+#include "tabelas/UnTarvoESocialCamposBuscaIncidVerbas.h"
+
+namespace tarvo::ferramenta {
+
+namespace {
+
+using tabelas::TTarvoESocialCamposBuscaIncidVerbas;
+using tabelas::TTipoRetornoIncidVerbas;
+
+/// The tributes in the order of the search's arguments.
+constexpr std::array<const char*, 4> TRIBUTOS{"--inss", "--irrf", "--fgts", "--cs"};
+
+struct TOpcoes {
+    TOpcoesDoContexto Contexto;
+    std::string Verba;
+    std::array<std::string, 4> Tipos;
+    std::string Atualizar;
+    bool CargaInicial = false;
+};
+
+std::int64_t LerVerba(const char* AOpcao, const std::string& ATexto)
+{
+    try {
+        return StrToInt64(ATexto);
+    } catch (const EConvertError&) {
+        throw EUsoErrado(std::string(AOpcao) + ": '" + ATexto + "' não é um número inteiro");
+    }
+}
+
+TTipoRetornoIncidVerbas LerTipo(const char* AOpcao, const std::string& ATexto)
+{
+    if (ATexto.size() != 1 || ATexto.front() < '0' || ATexto.front() > '3')
+        throw EUsoErrado(std::string(AOpcao) + " é 0 (todos os códigos), 1 (normal), 2 (RRA) ou 3 (processo), e não '" +
+                         ATexto + "'");
+    return static_cast<TTipoRetornoIncidVerbas>(ATexto.front() - '0');
+}
+
+int Mostrar(std::int64_t AIdVerba, const std::array<TTipoRetornoIncidVerbas, 4>& ATipos)
+{
+    const auto LIncid =
+        TTarvoESocialCamposBuscaIncidVerbas::BuscarIncidencias(AIdVerba, ATipos[0], ATipos[1], ATipos[2], ATipos[3]);
+    rapidjson::StringBuffer LBuffer;
+    rapidjson::Writer<rapidjson::StringBuffer> LEscritor(LBuffer);
+    const auto Lista = [&](const char* ANome, const std::vector<std::int32_t>& ACodigos) {
+        LEscritor.Key(ANome);
+        LEscritor.StartArray();
+        for (const auto LCodigo : ACodigos)
+            LEscritor.Int(LCodigo);
+        LEscritor.EndArray();
+    };
+    LEscritor.StartObject();
+    LEscritor.Key("FCodVerba");
+    LEscritor.Int(LIncid.FCodVerba);
+    Lista("FListInss", LIncid.FListInss);
+    Lista("FListIrrf", LIncid.FListIrrf);
+    Lista("FListFgts", LIncid.FListFgts);
+    Lista("FListCs", LIncid.FListCs);
+    LEscritor.EndObject();
+    EscreverResultado(std::string(LBuffer.GetString()) + "\n");
+    return SAIDA_FEITO;
+}
+
+int Atualizar(std::int64_t AIdVerba)
+{
+    // The library stores code 0 for any id, also for one that no rubric has.
+    if (!TTarvoConsultasGeral::EncontrouRegistros(
+            Format("SELECT TAB_VERBAS.IDVERBA FROM TAB_VERBAS WHERE TAB_VERBAS.IDVERBA = %0:d", AIdVerba)))
+        throw Exception("A verba " + std::to_string(AIdVerba) + " não existe");
+    TTarvoESocialCamposBuscaIncidVerbas LBusca(AIdVerba);
+    LBusca.AtualizarIncidVerba();
+    if (!LBusca.ResultStatus().Sucesso)
+        throw Exception("Verba " + std::to_string(AIdVerba) + ": " + LBusca.ResultStatus().Mensagem);
+    return SAIDA_FEITO;
+}
+
+/// Each rubric that fails is named, and the others go on.
+int EfetuarCargaInicial()
+{
+    int LSaida = SAIDA_FEITO;
+    TBarraDeProgresso LBarra(STDERR_FILENO, "Incidências");
+    TTarvoESocialCamposBuscaIncidVerbas::EfetuarCargaInicialIncidencias(
+        [&](std::int64_t AIdVerba, const TResultStatus& AStatus, std::size_t AFeitas, std::size_t ATotal) {
+            LBarra.Avancar(AFeitas, ATotal);
+            if (AStatus.Sucesso)
+                return;
+            LSaida = SAIDA_FALHA;
+            LBarra.EscreverLinha("Verba " + std::to_string(AIdVerba) + ": " + AStatus.Mensagem);
+        });
+    return LSaida;
+}
+
+int Executar(const CLI::App& AApp, const TOpcoes& AOpcoes)
+{
+    const bool LMostrar = AApp.count("--verba") > 0;
+    const bool LAtualizar = AApp.count("--atualizar") > 0;
+    if (int{LMostrar} + int{LAtualizar} + int{AOpcoes.CargaInicial} != 1)
+        throw EUsoErrado("Informe um de --verba, --atualizar e --carga-inicial");
+    std::array<TTipoRetornoIncidVerbas, 4> LTipos{};
+    for (std::size_t i = 0; i < TRIBUTOS.size(); ++i) {
+        if (AApp.count(TRIBUTOS[i]) == 0)
+            continue;
+        if (!LMostrar)
+            throw EUsoErrado(std::string(TRIBUTOS[i]) + " só vai com --verba");
+        LTipos[i] = LerTipo(TRIBUTOS[i], AOpcoes.Tipos[i]);
+    }
+    const auto LIdVerba = LMostrar     ? LerVerba("--verba", AOpcoes.Verba)
+                          : LAtualizar ? LerVerba("--atualizar", AOpcoes.Atualizar)
+                                       : 0;
+    TContexto LContexto(AOpcoes.Contexto);
+    const int LSaida = LMostrar ? Mostrar(LIdVerba, LTipos) : LAtualizar ? Atualizar(LIdVerba) : EfetuarCargaInicial();
+    LContexto.ConferirRastro();
+    return LSaida;
+}
+
+} // namespace
+
+void RegistrarIncidencias(CLI::App& AApp, TComandos& AComandos)
+{
+    auto LOpcoes = std::make_shared<TOpcoes>();
+    auto& LApp = AdicionarComando(
+        AApp, AComandos, "incidencias", "mostra as incidências de uma verba ou grava as de uma ou de todas",
+        "esocial-campos incidencias --banco LIGACAO --verba ID [--inss K] [--irrf K] [--fgts K] "
+        "[--cs K] | --atualizar ID | --carga-inicial");
+    AdicionarOpcoesDoContexto(LApp, LOpcoes->Contexto);
+    LApp.add_option("--verba", LOpcoes->Verba, "mostra os códigos de incidência desta verba")
+        ->ignore_case()
+        ->type_name("ID");
+    constexpr std::array DESCRICOES{"previdência social", "imposto de renda", "FGTS", "contribuição sindical"};
+    for (std::size_t i = 0; i < TRIBUTOS.size(); ++i)
+        LApp.add_option(TRIBUTOS[i], LOpcoes->Tipos[i],
+                        std::string("códigos pedidos para ") + DESCRICOES[i] + ": 0 todos, 1 normal, 2 RRA, 3 processo")
+            ->ignore_case()
+            ->type_name("K");
+    LApp.add_option("--atualizar", LOpcoes->Atualizar, "grava de novo os códigos desta verba")
+        ->ignore_case()
+        ->type_name("ID");
+    LApp.add_flag("--carga-inicial", LOpcoes->CargaInicial, "grava de novo os códigos de todas as verbas")
+        ->ignore_case();
+    AComandos.back().Executar = [LOpcoes, &LApp] { return Executar(LApp, *LOpcoes); };
+}
+
+} // namespace tarvo::ferramenta

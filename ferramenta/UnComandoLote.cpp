@@ -1,0 +1,109 @@
+#include <CLI/CLI.hpp>
+#include <unistd.h>
+
+#include <memory>
+
+#include "ferramenta/UnBarraDeProgresso.h"
+#include "ferramenta/UnCarga.h"
+#include "ferramenta/UnComandos.h"
+#include "ferramenta/UnContexto.h"
+#include "ferramenta/UnErros.h"
+#include "framework/UnOvraSerializacaoObject.h"
+#include "framework/UnTarvoESocialCamposCaminhos.h"
+#include "framework/UnTarvoESocialCamposGrupoBase.h"
+#include "imports/UnOvraConversoes.h"
+
+namespace tarvo::ferramenta {
+
+namespace {
+
+struct TOpcoes {
+    TEventoDaLinha Evento;
+    TOpcoesDoContexto Contexto;
+    TOpcoesDaCarga Carga;
+    std::string Parte;
+};
+
+/// Every Numero-th key of Total, counted from 1.
+struct TParte {
+    std::size_t Numero = 1;
+    std::size_t Total = 1;
+};
+
+TParte LerParte(const std::string& ATexto)
+{
+    const auto LBarra = ATexto.find('/');
+    const auto LNumero = StrToInt64Def(ATexto.substr(0, LBarra), 0);
+    const auto LTotal = LBarra == std::string::npos ? 0 : StrToInt64Def(ATexto.substr(LBarra + 1), 0);
+    if (LNumero < 1 || LTotal < LNumero)
+        throw EUsoErrado("--parte é K/N, com K de 1 a N, e não '" + ATexto + "'");
+    return {static_cast<std::size_t>(LNumero), static_cast<std::size_t>(LTotal)};
+}
+
+/// The line of one key; false when its load failed.
+bool CarregarChave(TOvraConnection& AConexao, const std::string& ACodigo, const TChaveDoLote& AChave,
+                   const TOpcoesDaCarga& AOpcoes, std::string& ALinha)
+{
+    ALinha = "{\"chave\":" + AChave.Json;
+    try {
+        // One snapshot a key: all the figures of an event are of the same moment.
+        AConexao.Desfazer();
+        AConexao.IniciarTransacao(TOvraConnection::TIsolamento::Instantaneo);
+        ALinha += ",\"evento\":" + Carregar(ACodigo, AChave.Argumentos, AOpcoes).Evento->ToJson().AsJSON() + "}\n";
+        return true;
+    } catch (const ECaminhoInvalido&) {
+        throw;
+    } catch (const std::exception& LErro) {
+        ALinha += ",\"erro\":" + TextoJson(LErro.what()) + "}\n";
+        return false;
+    }
+}
+
+int CarregarLote(const TOpcoes& AOpcoes)
+{
+    const auto LCodigo = AOpcoes.Evento.Codigo();
+    const auto LArgumentos = AOpcoes.Evento.Argumentos();
+    TArgumentosDeEvento(BuscarEventoDoCatalogo(LCodigo).Lote->Argumentos, LArgumentos);
+    const auto LParte = AOpcoes.Parte.empty() ? TParte() : LerParte(AOpcoes.Parte);
+    TContexto LContexto(AOpcoes.Contexto);
+    const auto LChaves = BuscarChavesDoLote(LCodigo, LArgumentos);
+
+    int LSaida = SAIDA_FEITO;
+    TBarraDeProgresso LBarra(STDERR_FILENO, LCodigo);
+    const auto LMinhas = LChaves.size() < LParte.Numero ? 0 : (LChaves.size() - LParte.Numero) / LParte.Total + 1;
+    std::size_t LFeitas = 0;
+    for (auto LIndice = LParte.Numero - 1; LIndice < LChaves.size(); LIndice += LParte.Total) {
+        LBarra.Avancar(LFeitas, LMinhas);
+        std::string LLinha;
+        if (!CarregarChave(LContexto.Conexao(), LCodigo, LChaves[LIndice], AOpcoes.Carga, LLinha))
+            LSaida = SAIDA_FALHA;
+        LBarra.Apagar();
+        EscreverResultado(LLinha);
+        LBarra.Avancar(++LFeitas, LMinhas);
+    }
+    LContexto.ConferirRastro();
+    return LSaida;
+}
+
+} // namespace
+
+void RegistrarLote(CLI::App& AApp, TComandos& AComandos)
+{
+    auto LOpcoes = std::make_shared<TOpcoes>();
+    auto& LApp = AdicionarComando(AApp, AComandos, "lote",
+                                  "carrega um evento para toda a empresa, uma linha JSON por trabalhador ou chave",
+                                  "esocial-campos lote EVENTO --banco LIGACAO --ARGUMENTO VALOR ... [--parte K/N]");
+    AdicionarOpcoesDoContexto(LApp, LOpcoes->Contexto);
+    AdicionarOpcoesDaCarga(LApp, LOpcoes->Carga);
+    LApp.add_option("--parte", LOpcoes->Parte, "carrega só cada N-ésima chave, a partir da K-ésima")
+        ->ignore_case()
+        ->type_name("K/N");
+    AdicionarEventos(
+        LApp, LOpcoes->Evento, [](const TEventoDoCatalogo& AEvento) { return AEvento.Lote.has_value(); },
+        [](const TEventoDoCatalogo& AEvento) -> const std::vector<TArgumentoDeEvento>& {
+            return AEvento.Lote->Argumentos;
+        });
+    AComandos.back().Executar = [LOpcoes] { return CarregarLote(*LOpcoes); };
+}
+
+} // namespace tarvo::ferramenta

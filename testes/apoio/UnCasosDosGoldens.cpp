@@ -1,0 +1,33 @@
+#include "apoio/UnCasosDosGoldens.h"
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+namespace tarvo::testes {
+
+void PrintTo(const TCasoDoGolden& ACaso, std::ostream* ASaida) { *ASaida << ACaso.Evento << "/" << ACaso.Nome; }
+
+std::vector<TCasoDoGolden> LerCasosDosGoldens()
+{
+    std::vector<TCasoDoGolden> LCasos;
+    for (const auto& LItem : std::filesystem::directory_iterator(PASTA_DOS_GOLDENS)) {
+        if (LItem.path().extension() != ".casos")
+            continue;
+        std::ifstream LArquivo(LItem.path());
+        for (std::string LLinha; std::getline(LArquivo, LLinha);) {
+            if (LLinha.empty() || LLinha.front() == '#')
+                continue;
+            std::istringstream LPalavras(LLinha);
+            TCasoDoGolden LCaso{LItem.path().stem().string(), {}, {}};
+            LPalavras >> LCaso.Nome;
+            for (std::string LPalavra; LPalavras >> LPalavra;)
+                LCaso.Argumentos.emplace(LPalavra.substr(0, LPalavra.find('=')),
+                                         LPalavra.substr(LPalavra.find('=') + 1));
+            LCasos.push_back(LCaso);
+        }
+    }
+    return LCasos;
+}
+
+} // namespace tarvo::testes

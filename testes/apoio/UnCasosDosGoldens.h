@@ -1,0 +1,23 @@
+#pragma once
+
+#include <map>
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace tarvo::testes {
+
+/// A line of a file goldens/S-XXXX.casos: a name, then the event's arguments as NAME=VALUE. The expected JSON is
+/// goldens/S-XXXX/name.json.
+struct TCasoDoGolden {
+    std::string Evento;
+    std::string Nome;
+    std::map<std::string, std::string> Argumentos;
+};
+
+void PrintTo(const TCasoDoGolden& ACaso, std::ostream* ASaida);
+
+/// The cases of every event.
+std::vector<TCasoDoGolden> LerCasosDosGoldens();
+
+} // namespace tarvo::testes
