@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <limits>
 
+#include "desligamento/UnTarvoESocialCamposS2299.h"
+#include "desligamento/UnTarvoESocialCamposS2399.h"
 #include "framework/UnOvraSerializacaoObject.h"
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
 #include "imports/UnOvraConnection.h"
@@ -115,6 +117,21 @@ WHERE CHAVES.ORDEM = CHAVES.PRIMEIRA
 ORDER BY CHAVES.ORDEM, CHAVES.CPF)";
     return Format(SQL, AArgumentos.Id("IdEmpresa"), FormatarDataDB(AArgumentos.Data("DataInicio"), true),
                   FormatarDataDB(AArgumentos.Data("DataFim"), true));
+}
+
+/// The workers of a company whose work ended in a period, by dismissal; those without a bond have a category from 700.
+template <bool ASemVinculo>
+std::string SqlDosDesligados(const TArgumentosDeEvento& AArgumentos)
+{
+    static constexpr std::string_view SQL = R"(SELECT EMPREGADOS.IDEMPREGADO AS "AIdEmpregado"
+FROM EMPREGADOS
+LEFT JOIN FP_ESOCIALTABELA ON (FP_ESOCIALTABELA.IDESOCIALTABELA = EMPREGADOS.IDCATEGORIAESOCIAL)
+WHERE EMPREGADOS.IDEMPRESA = %0:d
+  AND EMPREGADOS.DATA_DEMISSAO BETWEEN %1:s AND %2:s
+  AND COALESCE(FP_ESOCIALTABELA.CODIGO, '') %3:s '700'
+ORDER BY EMPREGADOS.IDEMPREGADO)";
+    return Format(SQL, AArgumentos.Id("IdEmpresa"), FormatarDataDB(AArgumentos.Data("DataInicio"), true),
+                  FormatarDataDB(AArgumentos.Data("DataFim"), true), ASemVinculo ? ">=" : "<");
 }
 
 constexpr std::string_view CATS_DA_EMPRESA = R"(SELECT TABCAT.IDTABCAT AS AIDTABCAT
@@ -397,6 +414,19 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          [](const TArgumentosDeEvento& A) {
              return Evento<trabalhador::TTarvoESocialCamposS2298>(A.Id("AIdEmpregado"));
          }},
+        {"S-2299",
+         "Desligamento",
+         {{"AIdEmpregado", taId, "código interno do empregado"},
+          {"ADataInicioEventosPeriodicos", taData, "início dos eventos periódicos da empresa"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<desligamento::TTarvoESocialCamposS2299>(A.Id("AIdEmpregado"),
+                                                                   A.Data("ADataInicioEventosPeriodicos"));
+         },
+         TLoteDoEvento{{{"IdEmpresa", taId, "código interno da empresa"},
+                        {"DataInicio", taData, "primeiro dia do período do desligamento"},
+                        {"DataFim", taData, "último dia do período do desligamento"},
+                        {"ADataInicioEventosPeriodicos", taData, "início dos eventos periódicos da empresa"}},
+                       SqlDosDesligados<false>}},
         {"S-2300",
          "Trabalhador sem vínculo de emprego, início",
          {{"AIdEmpregado", taId, "código interno do empregado"}, {"ADataGeracao", taData, "data de referência"}},
@@ -409,6 +439,19 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          [](const TArgumentosDeEvento& A) {
              return Evento<trabalhador::TTarvoESocialCamposS2306>(A.Id("AIdEmpregado"), A.Data("AData"));
          }},
+        {"S-2399",
+         "Trabalhador sem vínculo de emprego, término",
+         {{"AIdEmpregado", taId, "código interno do empregado"},
+          {"ADataInicioEventosPeriodicos", taData, "início dos eventos periódicos da empresa"}},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<desligamento::TTarvoESocialCamposS2399>(A.Id("AIdEmpregado"),
+                                                                   A.Data("ADataInicioEventosPeriodicos"));
+         },
+         TLoteDoEvento{{{"IdEmpresa", taId, "código interno da empresa"},
+                        {"DataInicio", taData, "primeiro dia do período do desligamento"},
+                        {"DataFim", taData, "último dia do período do desligamento"},
+                        {"ADataInicioEventosPeriodicos", taData, "início dos eventos periódicos da empresa"}},
+                       SqlDosDesligados<true>}},
         {"S-3000",
          "Exclusão de evento",
          {{"AIdEvento", taId, "código interno do evento enviado"}},
