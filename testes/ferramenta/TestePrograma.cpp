@@ -308,9 +308,12 @@ TEST(TTestePrograma, AjudaEEventosEmPortugues)
 
 TEST(TTestePrograma, SenhaErradaFalhaComOTextoDoServidor)
 {
-    if (std::getenv("TESTES_LIGACAO") == nullptr)
-        GTEST_SKIP() << "Só um servidor confere a senha";
     const auto LSaida = Rodar(S1000({"--senha", "errada"}));
+    // The embedded engine trusts whoever may read the file.
+    if (std::getenv("TESTES_LIGACAO") == nullptr) {
+        EXPECT_EQ(0, LSaida.Codigo) << LSaida.Erros;
+        return;
+    }
     EXPECT_EQ(1, LSaida.Codigo);
     EXPECT_EQ("", LSaida.Padrao);
     EXPECT_NE(std::string::npos, LSaida.Erros.find("user name and password are not defined")) << LSaida.Erros;
