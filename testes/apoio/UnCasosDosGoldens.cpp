@@ -4,6 +4,9 @@
 #include <fstream>
 #include <sstream>
 
+#include "catalogo/UnTarvoESocialCamposCatalogo.h"
+#include "framework/UnTarvoESocialCamposGrupoBase.h"
+
 namespace tarvo::testes {
 
 void PrintTo(const TCasoDoGolden& ACaso, std::ostream* ASaida) { *ASaida << ACaso.Evento << "/" << ACaso.Nome; }
@@ -28,6 +31,13 @@ std::vector<TCasoDoGolden> LerCasosDosGoldens()
         }
     }
     return LCasos;
+}
+
+std::string CarregarCaso(const TCasoDoGolden& ACaso)
+{
+    const auto LEvento = ConstruirEvento(ACaso.Evento, ACaso.Argumentos);
+    LEvento.Evento->CarregarDados();
+    return LEvento.Evento->ToJson().AsJSON();
 }
 
 } // namespace tarvo::testes

@@ -19,5 +19,7 @@ void PrintTo(const TCasoDoGolden& ACaso, std::ostream* ASaida);
 
 /// The cases of every event.
 std::vector<TCasoDoGolden> LerCasosDosGoldens();
+/// Loads a case on the current connection: its JSON on one line.
+std::string CarregarCaso(const TCasoDoGolden& ACaso);
 
 } // namespace tarvo::testes
