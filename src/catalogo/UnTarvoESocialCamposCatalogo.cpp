@@ -11,6 +11,8 @@
 #include "imports/UnTarvoUtilsDb.h"
 #include "pagamento/UnTarvoESocialCamposS1210.h"
 #include "remuneracao/UnTarvoESocialCamposS1200.h"
+#include "rural/UnTarvoESocialCamposS1250.h"
+#include "rural/UnTarvoESocialCamposS1260.h"
 #include "rural/UnTarvoESocialCamposS1280.h"
 #include "rural/UnTarvoESocialCamposS1295.h"
 #include "rural/UnTarvoESocialCamposS1298.h"
@@ -137,6 +139,17 @@ FROM FP_CURSOEMPREGADO
 JOIN EMPREGADOS ON (EMPREGADOS.IDEMPREGADO = FP_CURSOEMPREGADO.IDEMPREGADO)
 WHERE EMPREGADOS.IDEMPRESA = %0:d
 ORDER BY FP_CURSOEMPREGADO.IDCURSOEMPREGADO)";
+constexpr std::string_view ESTABELECIMENTOS_DA_EMPRESA = R"(SELECT SC00_FILIAL.IDFILIAL AS AIDESTABELECIMENTO
+FROM SC00_FILIAL
+WHERE SC00_FILIAL.IDEMPRESA = %0:d
+ORDER BY SC00_FILIAL.IDFILIAL)";
+constexpr std::string_view FILIAIS_DA_EMPRESA = R"(SELECT SC00_FILIAL.IDFILIAL AS AIDFILIAL
+FROM SC00_FILIAL
+WHERE SC00_FILIAL.IDEMPRESA = %0:d
+ORDER BY SC00_FILIAL.IDFILIAL)";
+
+constexpr TArgumentoDeEvento TIPO_CONEXAO{
+    "ATipoConexao", taInteiro, "1 folha, 2 Brenco no banco da folha, outro valor Brenco em banco próprio (--brenco)"};
 
 /// The batch of an event whose keys are the rows of a company: Sql lists them, with the company as its argument.
 template <const std::string_view& Sql>
@@ -283,6 +296,27 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
               {"TipoTrabalhador", taInteiro, "0 empregado (padrão), 1 prestador de serviço", false, 1},
               {"DataInicioVigencia", taData, "início do leiaute: o que é anterior vai como pagamento anterior", false}},
              SqlDosCpfs}},
+        {"S-1250",
+         "Aquisição de produção rural",
+         {{"AIDEstabelecimento", taId, "código interno do estabelecimento"},
+          {"ADataInicio", taData, "primeiro dia do período"},
+          {"ADataFim", taData, "último dia do período"},
+          TIPO_CONEXAO},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<rural::TTarvoESocialCamposS1250>(A.Id("AIDEstabelecimento"), A.Data("ADataInicio"),
+                                                            A.Data("ADataFim"),
+                                                            static_cast<TTipoConexao>(A.Inteiro("ATipoConexao")));
+         },
+         TLoteDoEvento{{{"IdEmpresa", taId, "código interno da empresa"},
+                        {"ADataInicio", taData, "primeiro dia do período"},
+                        {"ADataFim", taData, "último dia do período"},
+                        TIPO_CONEXAO},
+                       LoteDaEmpresa<ESTABELECIMENTOS_DA_EMPRESA>().SqlDasChaves}},
+        {"S-1260",
+         "Comercialização da produção rural própria",
+         {{"AIdFilial", taId, "código interno do estabelecimento"}},
+         [](const TArgumentosDeEvento& A) { return Evento<rural::TTarvoESocialCamposS1260>(A.Id("AIdFilial")); },
+         LoteDaEmpresa<FILIAIS_DA_EMPRESA>()},
         {"S-1280",
          "Informações complementares aos eventos periódicos",
          {{"AIdEmpresa", taId, "código interno da empresa"}, {"ACompetencia", taData, "primeiro dia da competência"}},
