@@ -1,3 +1,5 @@
+#include <set>
+
 #include "apoio/UnBancoDeTeste.h"
 #include "catalogo/UnTarvoESocialCamposCatalogo.h"
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
@@ -122,6 +124,30 @@ TEST_F(TTesteChavesDoLote, ArgumentoErradoOuEventoSemLote)
                                                    {"DataFim", "2021-03-31"},
                                                    {"IndApuracao", LIndicador}}),
                      EArgumentoInvalido);
+}
+
+class TTesteLoteDoExemplo : public TTesteComExemplo {};
+
+TEST_F(TTesteLoteDoExemplo, CadaChaveDaEmpresaCarrega)
+{
+    for (const auto& LEvento : CatalogoDeEventos()) {
+        if (!LEvento.Lote)
+            continue;
+        std::map<std::string, std::string> LArgumentos;
+        for (const auto& LArgumento : LEvento.Lote->Argumentos)
+            if (LArgumento.Obrigatorio)
+                LArgumentos[LArgumento.Nome] = LArgumento.Tipo != TTipoArgumento::taData           ? "1"
+                                               : std::string_view(LArgumento.Nome) == "DataInicio" ? "2021-03-01"
+                                                                                                   : "2021-03-31";
+        const auto LChaves = BuscarChavesDoLote(LEvento.Codigo, LArgumentos);
+        EXPECT_FALSE(LChaves.empty()) << LEvento.Codigo;
+        std::set<std::string> LDistintas;
+        for (const auto& LChave : LChaves) {
+            EXPECT_TRUE(LDistintas.insert(LChave.Json).second) << LEvento.Codigo << " twice: " << LChave.Json;
+            EXPECT_NO_THROW(ConstruirEvento(LEvento.Codigo, LChave.Argumentos).Evento->CarregarDados())
+                << LEvento.Codigo << " " << LChave.Json;
+        }
+    }
 }
 
 } // namespace

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "desligamento/UnTarvoESocialCamposinfoDeslig.h"
+#include "trabalhador/UnTarvoESocialCamposideVinculo.h"
+
+namespace tarvo::desligamento {
+
+/// Event S-2299: dismissal of a worker. The constructor already reads the database.
+class TTarvoESocialCamposS2299 : public TTarvoESocialCamposGrupoBase {
+public:
+    /// AIdEmpregado: EMPREGADOS.IDEMPREGADO. ADataInicioEventosPeriodicos: from when the amounts are reported.
+    TTarvoESocialCamposS2299(std::int64_t AIdEmpregado, TDateTime ADataInicioEventosPeriodicos);
+
+    trabalhador::TTarvoESocialCamposideVinculo ideVinculo;
+    TTarvoESocialCamposinfoDeslig infoDeslig;
+
+    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
+
+protected:
+    const TPropriedades& Propriedades() const override;
+};
+
+} // namespace tarvo::desligamento

@@ -1,0 +1,170 @@
+#include "desligamento/UnTS2299DadosCalculos.h"
+#include "desligamento/UnTS2399DadosCalculos.h"
+#include "imports/UnOvraConversoes.h"
+#include "remuneracao/UnCenarioDeFolha.h"
+
+namespace tarvo::testes {
+namespace {
+
+using namespace desligamento;
+
+class TTesteLeitorDoDesligamento : public TTesteDeFolha {
+protected:
+    template <class TDados>
+    static void Alimentar(TDados& ADados, TTipoCalculoDesligamento ATipo, const char* ATipoFolha, int AQuebra)
+    {
+        ADados.IDEmpregado = 1;
+        ADados.TipoCalculo = ATipo;
+        ADados.TipoFolha = ATipoFolha;
+        ADados.DataInicio = D(2021, 3, 1);
+        ADados.DataFim = D(2021, 3, 31);
+        ADados.DataPagamento = D(2021, 3, 31);
+        ADados.DataDemissao = D(2021, 3, 20);
+        ADados.TipoQuebraEmpresa = static_cast<TTipoQuebraGpsGfip>(AQuebra);
+    }
+    /// "rubric@establishment/department=value" of each amount.
+    static std::string Texto(const TDadosCalculosDesligamento& ALeitor)
+    {
+        std::string LTexto;
+        for (const auto& A : ALeitor.ListaDadosCalculo())
+            LTexto += (LTexto.empty() ? "" : " ") + std::to_string(A.IDVerba - 1000) + "@" +
+                      std::to_string(A.IDEstabelecimento) + "/" + std::to_string(A.IdDepto) + "=" + CurrToStr(A.Valor);
+        return LTexto;
+    }
+    std::string S2299(TTipoCalculoDesligamento ATipo, const char* ATipoFolha = "01", int AQuebra = 0,
+                      std::int64_t AConvocacao = 0)
+    {
+        TdmDevS2299IOP LDados;
+        Alimentar(LDados, ATipo, ATipoFolha, AQuebra);
+        LDados.IdDetConvocacaoTrabInterm = AConvocacao;
+        TS2299DadosCalculos LLeitor(LDados);
+        LLeitor.CarregarRegistrosCalculo();
+        return Texto(LLeitor);
+    }
+    std::string S2399(TTipoCalculoDesligamento ATipo, const char* ATipoFolha = "01", int AQuebra = 0)
+    {
+        TdmDevS2399IOP LDados;
+        Alimentar(LDados, ATipo, ATipoFolha, AQuebra);
+        TS2399DadosCalculos LLeitor(LDados);
+        LLeitor.CarregarRegistrosCalculo();
+        return Texto(LLeitor);
+    }
+};
+
+using enum TTipoCalculoDesligamento;
+
+TEST_F(TTesteLeitorDoDesligamento, RetidoNasFeriasVaiParaOLiquidoSoNoS2299)
+{
+    Verba(1, "99H");
+    Verba(2, "5EA");
+    Verba(3, "7L");
+    for (const char* LFormula : {"5E", "5EC", "5EB", "99F", "99G", "99GA", "99HA", "99I", "99K", "99M"}) {
+        static int LCodigo = 10;
+        Verba(++LCodigo, LFormula);
+        Calculo(LCodigo, 1, {.SubTipo = 104});
+    }
+    Calculo(1, 10.5, {.SubTipo = 104});
+    Calculo(2, 20, {.SubTipo = 105});
+    // Without a net the sum is lost.
+    EXPECT_EQ("", S2299(Rescisao));
+    Calculo(3, 1000, {.SubTipo = 104});
+    EXPECT_EQ("3@1/0=1030,5", S2299(Rescisao));
+    EXPECT_EQ("3@1/0=1000", S2399(Rescisao));
+    EXPECT_EQ("", S2299(Nenhum));
+    EXPECT_EQ("", S2399(Intermitente));
+}
+
+TEST_F(TTesteLeitorDoDesligamento, SoLinhasVizinhasSeJuntam)
+{
+    Verba(1, "1A");
+    Verba(2, "1B");
+    Calculo(1, 10, {.SubTipo = 104, .Base = 5, .Referencia = 3});
+    Calculo(1, 20, {.SubTipo = 105, .Base = 7, .Referencia = 4});
+    Calculo(2, 1, {.SubTipo = 104});
+    Calculo(1, 30, {.SubTipo = 104, .Filial = 2});
+    TdmDevS2299IOP LDados;
+    Alimentar(LDados, Rescisao, "01", 0);
+    TS2299DadosCalculos LLeitor(LDados);
+    LLeitor.CarregarRegistrosCalculo();
+    EXPECT_EQ("1@1/0=30 2@1/0=1 1@2/0=30", Texto(LLeitor));
+    EXPECT_EQ(R("12"), LLeitor.ListaDadosCalculo()[0].Base);
+    const auto LReferencia = LLeitor.ListaDadosCalculo()[0].Referencia;
+    EXPECT_TRUE(LReferencia == R("3") || LReferencia == R("4"));
+    ASSERT_EQ(2u, LLeitor.LotacoesDoCalculo().size());
+    EXPECT_EQ((TDadosLotacao{2, 0}), LLeitor.LotacoesDoCalculo()[1]);
+    // A second reading starts anew.
+    LLeitor.CarregarRegistrosCalculo();
+    EXPECT_EQ(3u, LLeitor.ListaDadosCalculo().size());
+    EXPECT_EQ(2u, LLeitor.LotacoesDoCalculo().size());
+}
+
+TEST_F(TTesteLeitorDoDesligamento, QuebraMostraSoAsLinhasQuebradasNoS2299ETodasNoS2399)
+{
+    Verba(1, "1A");
+    Verba(2, "1B");
+    const auto LQuebrada = Calculo(1, 100, {.SubTipo = 104, .Depto = 10});
+    Quebra(LQuebrada, 2, 20, 60, 12);
+    Quebra(LQuebrada, 1, 10, 40, 8);
+    Calculo(2, 7, {.SubTipo = 104, .Depto = 10});
+    EXPECT_EQ("1@1/10=40 1@2/20=60", S2299(Rescisao, "01", 3));
+    EXPECT_EQ("1@1/0=40 1@2/0=60", S2299(Rescisao, "01", 1));
+    EXPECT_EQ("1@1/0=100 2@1/0=7", S2299(Rescisao, "01", 0));
+    const auto LTodas = S2399(Rescisao, "01", 3);
+    for (const char* LParte : {"1@1/10=40", "1@2/20=60", "2@1/10=7"})
+        EXPECT_NE(std::string::npos, LTodas.find(LParte)) << LTodas;
+    // A department that isn't there leaves the establishment.
+    Executar("UPDATE SC00_DEPTO SET DEPTO = 99 WHERE IDDEPTO = 20");
+    EXPECT_EQ("1@1/10=40 1@2/0=60", S2299(Rescisao, "01", 3));
+}
+
+TEST_F(TTesteLeitorDoDesligamento, CadaTipoLeSuasLinhas)
+{
+    for (int LCodigo = 1; LCodigo <= 9; ++LCodigo)
+        Verba(LCodigo, "1A");
+    Calculo(1, 1, {.Tipo = "01", .SubTipo = 104});
+    Calculo(1, 99, {.Tipo = "01", .SubTipo = 104, .Inicio = D(2021, 2, 1), .Fim = D(2021, 2, 28)});
+    Calculo(2, 2, {.Tipo = "05", .SubTipo = 2});
+    // The day of payment alone counts.
+    Calculo(2, 3, {.Tipo = "05", .SubTipo = 1, .Inicio = D(2020, 1, 1), .Fim = D(2020, 1, 5)});
+    Calculo(2, 99, {.Tipo = "05", .SubTipo = 2, .Pagto = D(2021, 3, 30)});
+    const auto LAdiantamento = Calculo(3, 4, {.Tipo = "02", .Depto = 10});
+    Quebra(LAdiantamento, 2, 20, 4, 9);
+    Calculo(4, 5, {.Tipo = "02", .Pagto = D(2021, 3, 10), .Depto = 10});
+    Calculo(5, 6, {.Tipo = "01", .SubTipo = 4});
+    Calculo(5, 99, {.Tipo = "01", .SubTipo = 4, .Pagto = D(2021, 3, 30)});
+    Calculo(6, 7, {.Convocacao = 5});
+    Calculo(6, 99, {.Convocacao = 6});
+
+    EXPECT_EQ("1@1/0=1", S2299(Rescisao, "05"));
+    EXPECT_EQ("2@1/0=5", S2299(RescisaoComplementar, "05"));
+    EXPECT_EQ("2@1/0=5", S2399(RescisaoComplementar, "05"));
+    EXPECT_EQ("4@1/10=5 3@2/20=4", S2299(OutroDaCompetencia, "02", 3));
+    EXPECT_EQ("4@1/0=5 3@2/0=4", S2399(OutroDaCompetencia, "02"));
+    EXPECT_EQ("5@1/0=6", S2299(ComplementarPagoNaCompet));
+    EXPECT_EQ("6@1/0=7", S2299(Intermitente, "01", 0, 5));
+    EXPECT_EQ("6@1/0=7", S2299(Intermitente, "01", 3, 5));
+}
+
+TEST_F(TTesteLeitorDoDesligamento, FeriasPagasAntesTrazemAsComplementares)
+{
+    Verba(1, "7A");
+    Verba(2, "7D");
+    Verba(3, "7B");
+    Calculo(1, 100, {.SubTipo = 104, .Base = 10});
+    Inserir("CALCCOMPL", {{"IDCALCCOMPL", 1}, {"COD_EMPRESA", 7}, {"TIPO", "04"}});
+    Inserir("CALCCOMPLPER", {{"IDCALCCOMPLPER", 1},
+                             {"IDCALCCOMPL", 1},
+                             {"TIPO", "01"},
+                             {"DATA_INICIO", D(2021, 3, 1)},
+                             {"DATA_FIM", D(2021, 3, 31)}});
+    for (const int LVerba : {1, 3})
+        Inserir("CALCCOMPLDET",
+                {{"IDCALCCOMPLPER", 1}, {"COD_EMPREGADO", 101}, {"COD_VERBA", LVerba}, {"BASE", 5}, {"VALOR", 2.25}});
+    EXPECT_EQ("1@1/0=100", S2299(Rescisao));
+    Calculo(2, 50, {.SubTipo = 104});
+    EXPECT_EQ("1@1/0=102,25 2@1/0=50", S2299(Rescisao));
+    EXPECT_EQ("1@1/0=100 2@1/0=50", S2399(Rescisao));
+}
+
+} // namespace
+} // namespace tarvo::testes

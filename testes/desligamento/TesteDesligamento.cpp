@@ -1,0 +1,329 @@
+#include "desligamento/UnTarvoESocialCamposConversoresDesligamento.h"
+#include "desligamento/UnTarvoESocialCamposS2299.h"
+#include "desligamento/UnTarvoESocialCamposS2399.h"
+#include "imports/UnOvraExcecoes.h"
+#include "remuneracao/UnCenarioDeFolha.h"
+
+namespace tarvo::testes {
+namespace {
+
+using namespace desligamento;
+
+TEST(TConversoresDoDesligamento, PelosDigitosIniciais)
+{
+    const struct {
+        const char* Valor;
+        const char* Motivo;
+        const char* Pensao;
+    } LCasos[] = {{"10-Com justa causa", "1", ""},
+                  {"11", "2", ""},
+                  {"12", "6", ""},
+                  {"13", "3", ""},
+                  {"14", "4", ""},
+                  {"15", "5", ""},
+                  {"16", "26", ""},
+                  {"20", "17", ""},
+                  {"80", "17", ""},
+                  {"21", "7", ""},
+                  {"33", "33", ""},
+                  {"60abc", "10", ""},
+                  {"62", "10", ""},
+                  {"63", "10", ""},
+                  {"64", "10", ""},
+                  {"70", "20", ""},
+                  {"72", "19", ""},
+                  {"75", "18", ""},
+                  {"61", "", ""},
+                  {"22", "", ""},
+                  {"abc", "", "0"},
+                  {"", "", "0"},
+                  {"0", "", "0"},
+                  {"1", "", "0"},
+                  {"2", "", "2"},
+                  {"3", "", "1"},
+                  {"6-x", "", "1"},
+                  {"7", "", "2"},
+                  {"8", "", ""}};
+    for (const auto& LCaso : LCasos) {
+        EXPECT_EQ(LCaso.Motivo, TConversorMotivoDesligamento().BuscarValor(LCaso.Valor)) << LCaso.Valor;
+        EXPECT_EQ(LCaso.Pensao, TConversorPensAlim().BuscarValor(LCaso.Valor)) << LCaso.Valor;
+    }
+}
+
+class TTesteDesligamento : public TTesteDeFolha {
+protected:
+    void SetUp() override
+    {
+        TTesteDeFolha::SetUp();
+        Executar("UPDATE EMPREGADOS SET DATA_DEMISSAO = '20.03.2021', TIPO_RESCISAO = '11-Sem justa causa'");
+        Verba(1, "1A");
+    }
+    template <class TEvento = TTarvoESocialCamposS2299>
+    static std::unique_ptr<TEvento> Carregar(TDateTime AInicio = D(2018, 5, 1))
+    {
+        auto LEvento = std::make_unique<TEvento>(1, AInicio);
+        LEvento->CarregarDados();
+        return LEvento;
+    }
+    template <class TVerbas>
+    static std::string Demonstrativos(const TVerbas& AVerbas)
+    {
+        std::string LTexto;
+        for (const auto& LItem : AVerbas.dmDev)
+            LTexto += (LTexto.empty() ? "" : " ") + LItem->ideDmDev;
+        return LTexto;
+    }
+    static std::string S2299() { return Demonstrativos(Carregar()->infoDeslig.verbasResc); }
+    static std::string S2399()
+    {
+        return Demonstrativos(Carregar<TTarvoESocialCamposS2399>()->infoTSVTermino.verbasResc);
+    }
+    /// A dismissal with an item of the payroll.
+    void Rescisao()
+    {
+        Calculo(1, 100, {.Tipo = "05", .Fim = D(2021, 3, 20)});
+        Calculo(1, 100, {.SubTipo = 104});
+    }
+    static void RescCompl(TDateTime APagto, TValorSql AAcordo = nullptr)
+    {
+        Inserir("RESC_COMPL",
+                {{"COD_EMPRESA", 7}, {"COD_EMPREGADO", 101}, {"DATA_PGTO", APagto}, {"IDINFOGFIP650660", AAcordo}});
+    }
+    static void Transferencia(int AMotivo, int AMotivoESocial)
+    {
+        Inserir("TRANSF_EMPREG", {{"IDTRANSF_EMPREG", 1},
+                                  {"COD_EMPRESAORIGEM", 7},
+                                  {"COD_EMPRESADESTINO", 7},
+                                  {"MOTIVO", AMotivo},
+                                  {"MOTIVOESOCIAL", AMotivoESocial},
+                                  {"TPINSCRICAO", 2},
+                                  {"INSCRICAO", "12345678909"}});
+        Inserir("TRANSF_EMPREGDET", {{"IDTRANSF_EMPREG", 1}, {"COD_EMPREGADOORIGEM", 101}});
+    }
+};
+
+TEST_F(TTesteDesligamento, EscolheOsCalculosDoDesligamento)
+{
+    EXPECT_EQ("", S2299());
+    // The base of the family allowance, or an informative rubric, is no calculation.
+    Verba(62, "900A", {{"TIPO", "5"}});
+    Verba(61, "8J", {{"TIPO", "5"}});
+    Calculo(1, 100, {.SubTipo = 104});
+    Calculo(62, 100, {.Tipo = "05"});
+    EXPECT_EQ("", S2299());
+    EXPECT_EQ("", S2399());
+    Calculo(61, 100, {.Tipo = "05"});
+    EXPECT_EQ("05_000_01_03_2021", S2299());
+    EXPECT_EQ("", S2399());
+    Calculo(1, 0, {.Tipo = "05"});
+    EXPECT_EQ("05_000_01_03_2021", S2399());
+    // An advance goes by its day of payment, and a complementary dismissal without an agreement by none.
+    Calculo(1, 5, {.Tipo = "02", .Pagto = D(2021, 3, 1)});
+    Calculo(1, 5, {.Tipo = "06", .Pagto = D(2021, 4, 1)});
+    Calculo(1, 5, {.Tipo = "05", .SubTipo = 2, .Inicio = D(2021, 3, 20), .Pagto = D(2021, 6, 10)});
+    EXPECT_EQ("05_000_01_03_2021 02_000_0_03_2021", S2299());
+    RescCompl(D(2021, 6, 10));
+    EXPECT_EQ("05_000_01_03_2021 05_002_20_03_2021 02_000_0_03_2021", S2299());
+    EXPECT_EQ("05_000_01_03_2021 05_002_20_03_2021 02_000_0_03_2021", S2399());
+    Executar("UPDATE RESC_COMPL SET IDINFOGFIP650660 = 3");
+    EXPECT_EQ("05_000_01_03_2021 02_000_0_03_2021", S2299());
+    Executar("UPDATE RESC_COMPL SET DATA_PGTO = '31.03.2021'");
+    Executar("UPDATE CALCULO SET DATA_PAGTO = '31.03.2021' WHERE SUBTIPO = 2");
+    EXPECT_EQ("05_000_01_03_2021 05_002_20_03_2021 02_000_0_03_2021", S2299());
+}
+
+TEST_F(TTesteDesligamento, AcordoVaiParaOPeriodoAnteriorComUmIdeADC)
+{
+    Acordo(5, D(2021, 3, 31));
+    Complementar(9, 1, D(2021, 1, 1), D(2021, 1, 31), D(2021, 4, 5), 5);
+    Calculo(1, 80, {.SubTipo = 4, .Inicio = D(2021, 1, 1), .Fim = D(2021, 1, 31), .Pagto = D(2021, 4, 5)});
+    const auto LEvento = Carregar();
+    ASSERT_EQ(1u, LEvento->infoDeslig.verbasResc.dmDev.size());
+    const auto& LDmDev = *LEvento->infoDeslig.verbasResc.dmDev[0];
+    EXPECT_EQ("01_004_1_01_2021", LDmDev.ideDmDev);
+    EXPECT_TRUE(LDmDev.infoPerApur.ideEstabLot.empty());
+    ASSERT_EQ(1u, LDmDev.infoPerAnt.ideADC.size());
+    const auto& LAcordo = *LDmDev.infoPerAnt.ideADC[0];
+    EXPECT_EQ("2021-04", LAcordo.compAcConv);
+    EXPECT_EQ(D(2021, 3, 31), LAcordo.dtAcConv);
+    EXPECT_EQ(D(2021, 1, 1), LAcordo.idePeriodoS2299.perRef);
+    ASSERT_EQ(1u, LAcordo.idePeriodoS2299.ideEstabLot.size());
+    EXPECT_EQ(R("80"), LAcordo.idePeriodoS2299.ideEstabLot[0]->detVerbas[0]->vrRubr);
+    EXPECT_EQ("", S2399());
+    Executar("UPDATE FP_INFOGFIP650660 SET DATAOCORRENCIA = '01.04.2021'");
+    EXPECT_EQ("", S2299());
+}
+
+TEST_F(TTesteDesligamento, IntermitenteContaAsConvocacoesDoMes)
+{
+    Executar("UPDATE FP_ESOCIALTABELA SET CODIGO = '111' WHERE IDESOCIALTABELA = 101");
+    Inserir("FP_CONTRAINTERM", {{"IDCONTRAINTERM", 3}, {"IDEMPREGADO", 1}, {"CODIGOESOCIAL", "CV3"}});
+    const std::pair<TDateTime, TDateTime> LPeriodos[] = {{D(2021, 3, 1), D(2021, 3, 3)},
+                                                         {D(2021, 3, 31), D(2021, 3, 31)},
+                                                         {D(2021, 2, 28), D(2021, 3, 2)},
+                                                         {D(2021, 3, 30), D(2021, 4, 1)}};
+    int LId = 10;
+    for (const auto& [LInicio, LFim] : LPeriodos)
+        Inserir("FP_DETCONVOCACAO",
+                {{"IDDETCONVOCACAO", ++LId}, {"IDCONTRAINTERM", 3}, {"DATAINICIO", LInicio}, {"DATAFIM", LFim}});
+    Calculo(1, 30, {.Convocacao = 11});
+    const auto LEvento = Carregar();
+    EXPECT_EQ(4, LEvento->infoDeslig.QteDiasinterm);
+    ASSERT_EQ("01_000_0_0000000011_03_2021", Demonstrativos(LEvento->infoDeslig.verbasResc));
+    EXPECT_EQ("CV3", LEvento->infoDeslig.verbasResc.dmDev[0]->infoTrabInterm[0]->codConv);
+    Executar("UPDATE FP_ESOCIALTABELA SET CODIGO = '101' WHERE IDESOCIALTABELA = 101");
+    EXPECT_EQ(-1, Carregar()->infoDeslig.QteDiasinterm);
+}
+
+TEST_F(TTesteDesligamento, CategoriaEncerraAIdentificacaoDeVariosContratos)
+{
+    Rescisao();
+    Inserir("EMPREGADOS", {{"IDEMPREGADO", 2},
+                           {"IDEMPRESA", 1},
+                           {"COD_EMPRESA", 7},
+                           {"COD_EMPREGADO", 102},
+                           {"CPF", CPF},
+                           {"IDCATEGORIAESOCIAL", 723},
+                           {"DATA_ADMISSAO", D(2019, 1, 1)}});
+    EXPECT_EQ("05_000_01_03_2021_101", S2299());
+    Executar("UPDATE CALCULO SET TIPO = 'AB' WHERE TIPO = '05'");
+    Executar("UPDATE CALCULO SET TIPO = '02' WHERE TIPO = 'AB'");
+    EXPECT_EQ("02_000_0_03_2021_101", S2299());
+}
+
+TEST_F(TTesteDesligamento, VerbasSoDesdeOInicioDosEventosPeriodicos)
+{
+    Rescisao();
+    for (const auto& [LInicio, LQuantas] : {std::pair{D(2021, 3, 20), 1u}, {D(2021, 3, 21), 0u}}) {
+        EXPECT_EQ(LQuantas, Carregar(LInicio)->infoDeslig.verbasResc.dmDev.size());
+        EXPECT_EQ(LQuantas, Carregar<TTarvoESocialCamposS2399>(LInicio)->infoTSVTermino.verbasResc.dmDev.size());
+    }
+    EXPECT_EQ("2", Carregar(D(2021, 3, 21))->infoDeslig.mtvDeslig);
+    EXPECT_EQ("MAT1", Carregar(D(2021, 3, 21))->ideVinculo.matricula);
+}
+
+TEST_F(TTesteDesligamento, TransferenciaDaOMotivoEDispensaAsVerbas)
+{
+    Rescisao();
+    Transferencia(1, 11);
+    EXPECT_EQ("2", Carregar()->infoDeslig.mtvDeslig);
+    Executar("UPDATE EMPREGADOS SET TIPO_RESCISAO = '61', DATA_DEMISSAO = NULL");
+    Inserir("MOV_TRANSF", {{"IDEMPREGADO", 1},
+                           {"COD_EMPRESA", 8},
+                           {"DATAINICIOMOV", D(2021, 3, 15)},
+                           {"MOTIVOINICIAL", "TRANSFERENCIA DEFINITIVA"}});
+    auto LEvento = Carregar();
+    EXPECT_EQ(D(2021, 3, 15), LEvento->infoDeslig.dtDeslig);
+    EXPECT_EQ("11", LEvento->infoDeslig.mtvDeslig);
+    EXPECT_EQ("11222333000181", LEvento->infoDeslig.sucessaoVincS2299.cnpjSucessora);
+    EXPECT_EQ("", LEvento->infoDeslig.transfTit.motivoAfast);
+    EXPECT_TRUE(LEvento->infoDeslig.verbasResc.dmDev.empty());
+
+    Executar("UPDATE TRANSF_EMPREG SET MOTIVO = 3, MOTIVOESOCIAL = 34");
+    LEvento = Carregar();
+    EXPECT_EQ("34", LEvento->infoDeslig.mtvDeslig);
+    EXPECT_EQ("", LEvento->infoDeslig.sucessaoVincS2299.motivoAfast);
+    EXPECT_EQ("12345678909", LEvento->infoDeslig.transfTit.cpfSubstituto);
+    Executar("UPDATE TRANSF_EMPREG SET MOTIVO = 2");
+    EXPECT_EQ("", Carregar()->infoDeslig.mtvDeslig);
+}
+
+TEST_F(TTesteDesligamento, PensaoPelaConfiguracaoDoDesligamento)
+{
+    const auto Configurar = [](TDateTime AInicio, TValorSql AFim) {
+        Executar("DELETE FROM SC00_EMPREGADOCFG");
+        Inserir("SC00_EMPREGADOCFG", {{"IDEMPREGADO", 1},
+                                      {"ORIGEM", 90},
+                                      {"ESPECIE", 14},
+                                      {"TP", 3},
+                                      {"DATAINICIO", AInicio},
+                                      {"DATAFIM", AFim},
+                                      {"INFORMACAO1", "12,5"}});
+    };
+    EXPECT_EQ("0", Carregar()->infoDeslig.pensAlim);
+    Configurar(D(2021, 3, 1), D(2021, 3, 1));
+    EXPECT_EQ("1", Carregar()->infoDeslig.pensAlim);
+    EXPECT_EQ("12,5", Carregar()->infoDeslig.percAliment);
+    // In force on the first day of the month.
+    Configurar(D(2021, 3, 2), nullptr);
+    EXPECT_EQ("0", Carregar()->infoDeslig.pensAlim);
+
+    // S-2399 takes the open row, and says nothing of the alimony.
+    Inserir("TAB_RESCISAO", {{"COD_EMPRESA", 7}, {"COD_EMPREGADO", 101}, {"MTVDESLIGTSV", "03"}});
+    auto LTermino = Carregar<TTarvoESocialCamposS2399>();
+    EXPECT_EQ(12.5, LTermino->infoTSVTermino.percAliment);
+    EXPECT_EQ("", LTermino->infoTSVTermino.pensAlim);
+    EXPECT_EQ("03", LTermino->infoTSVTermino.mtvDesligTSV);
+    Configurar(D(2021, 3, 1), D(2021, 12, 31));
+    EXPECT_EQ(0, Carregar<TTarvoESocialCamposS2399>()->infoTSVTermino.percAliment);
+}
+
+TEST_F(TTesteDesligamento, PlanoDeSaudeDaRescisaoENaoDaComplementar)
+{
+    Rescisao();
+    Verba(38, "5S");
+    Verba(39, "5SA");
+    for (const int LOperadora : {1, 2})
+        Inserir("PSAUDE_OPER", {{"IDPSAUDE_OPER", LOperadora}, {"CNPJ", "x"}, {"TIPO", LOperadora}});
+    Inserir("PSAUDE_VERBAS", {{"IDPSAUDE_OPER", 1}, {"IDVERBA", 1001}});
+    Inserir("PSAUDE_VERBAS", {{"IDPSAUDE_OPER", 1}, {"IDVERBA", 1038}});
+    Inserir("PSAUDE_VERBAS", {{"IDPSAUDE_OPER", 2}, {"IDVERBA", 1039}});
+    Inserir("DEPENDENTES", {{"IDDEPENDENTE", 1}, {"NOME", "Dependente"}});
+    Inserir(
+        "FP_PSAUDEVLRMESDEP",
+        {{"IDPSAUDEOPER", 1}, {"IDEMPREGADO", 1}, {"IDDEPENDENTE", 1}, {"DATAINICIO", D(2021, 1, 1)}, {"VALOR", 130}});
+    Calculo(38, 20, {.SubTipo = 104});
+    Calculo(39, 7, {.SubTipo = 104});
+    Calculo(38, 20, {.Tipo = "05", .SubTipo = 2, .Inicio = D(2021, 3, 20)});
+    RescCompl(D(2021, 3, 31));
+
+    const auto LEvento = Carregar();
+    ASSERT_EQ(2u, LEvento->infoDeslig.verbasResc.dmDev.size());
+    const auto& LSaude = LEvento->infoDeslig.verbasResc.dmDev[0]->infoPerApur.ideEstabLot[0]->infoSaudeColet;
+    ASSERT_EQ(1u, LSaude.detOper.size());
+    // Below zero after the dependant, then the second rubric's whole amount.
+    EXPECT_EQ(R("-10"), LSaude.detOper[0]->vrPgTit);
+    EXPECT_EQ(R("130"), LSaude.detOper[0]->detPlano[0]->vlrPgDep);
+    EXPECT_TRUE(LEvento->infoDeslig.verbasResc.dmDev[1]->infoPerApur.ideEstabLot[0]->infoSaudeColet.detOper.empty());
+
+    // Every kind of operator counts in S-2399.
+    const auto LTermino = Carregar<TTarvoESocialCamposS2399>();
+    const auto& LVerbas = LTermino->infoTSVTermino.verbasResc;
+    ASSERT_EQ(2u, LVerbas.dmDev.size());
+    EXPECT_EQ(2u, LVerbas.dmDev[0]->ideEstabLot[0]->infoSaudeColet.detOper.size());
+    EXPECT_TRUE(LVerbas.dmDev[1]->ideEstabLot[0]->infoSaudeColet.detOper.empty());
+}
+
+TEST_F(TTesteDesligamento, OutrosEmpregadoresDoMesSemOProprio)
+{
+    const auto Rendimento = [](const char* AInscricao, int AOrdem, TDateTime AInicio, double AValor) {
+        Inserir("RENDIMENTOS", {{"COD_EMPRESA", 7},
+                                {"COD_EMPREGADO", 101},
+                                {"TIPOREND", "INSS"},
+                                {"TPINSCRICAO", 1},
+                                {"INSCRICAO", AInscricao},
+                                {"IDESOCIALTABELA", 101},
+                                {"ORDEMCALCULO", AOrdem},
+                                {"DATA_INICIO", AInicio},
+                                {"VALOR", AValor}});
+    };
+    Rendimento("99", 1, D(2021, 3, 31), 10.25);
+    Rendimento("99", 2, D(2021, 1, 1), 5);
+    Rendimento("99", 1, D(2021, 4, 1), 77);
+    Rendimento("11222333000181", 1, D(2021, 1, 1), 77);
+    Rendimento("11222333000182", 1, D(2021, 1, 1), 77);
+    Executar("UPDATE EMPREGADOS SET ORDEMDESCINSS = 1, INDICADORDESCINSS = 1");
+    auto LEvento = Carregar();
+    const auto& LMV = LEvento->infoDeslig.verbasResc.infoMV;
+    EXPECT_EQ("1", LMV.indMV);
+    ASSERT_EQ(1u, LMV.remunOutrEmpr.size());
+    EXPECT_EQ("15,25", LMV.remunOutrEmpr[0]->vlrRemunOE);
+    EXPECT_EQ("101", LMV.remunOutrEmpr[0]->codCateg);
+    // Withheld in a fixed order: those after this employer's turn don't count.
+    Executar("UPDATE EMPREGADOS SET INDICADORDESCINSS = 2");
+    EXPECT_EQ("10,25",
+              Carregar<TTarvoESocialCamposS2399>()->infoTSVTermino.verbasResc.infoMV.remunOutrEmpr[0]->vlrRemunOE);
+}
+
+} // namespace
+} // namespace tarvo::testes
