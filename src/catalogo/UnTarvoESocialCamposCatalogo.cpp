@@ -14,6 +14,8 @@
 #include "imports/UnTarvoUtilsDb.h"
 #include "pagamento/UnTarvoESocialCamposS1210.h"
 #include "remuneracao/UnTarvoESocialCamposS1200.h"
+#include "rural/UnTarvoESocialCamposS1250.h"
+#include "rural/UnTarvoESocialCamposS1260.h"
 #include "rural/UnTarvoESocialCamposS1280.h"
 #include "rural/UnTarvoESocialCamposS1295.h"
 #include "rural/UnTarvoESocialCamposS1298.h"
@@ -94,6 +96,9 @@ TDateTime LerDataIso(std::string_view ATexto)
     const int LDia = LParte(8, 2);
     return DataValida(LAno, LMes, LDia) ? EncodeDate(LAno, LMes, LDia) : TDateTime();
 }
+
+constexpr TArgumentoDeEvento TIPO_CONEXAO{
+    "ATipoConexao", taInteiro, "1 folha, 2 Brenco no banco da folha, outro valor Brenco em banco próprio (--brenco)"};
 
 /// A value of a key as text of an argument, and as JSON.
 std::pair<std::string, std::string> LerChave(const TConjuntoDeLinhas& ALinhas, std::size_t ALinha, std::size_t AColuna)
@@ -236,6 +241,25 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
               {"TipoTrabalhador", taInteiro, "0 empregado (padrão), 1 prestador de serviço", false, 1},
               {"DataInicioVigencia", taData, "início do leiaute: o que é anterior vai como pagamento anterior", false}},
              SqlDosCpfs}},
+        {"S-1250",
+         "Aquisição de produção rural",
+         {{"AIDEstabelecimento", taId, "código interno do estabelecimento"},
+          {"ADataInicio", taData, "primeiro dia do período"},
+          {"ADataFim", taData, "último dia do período"},
+          TIPO_CONEXAO},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<rural::TTarvoESocialCamposS1250>(A.Id("AIDEstabelecimento"), A.Data("ADataInicio"),
+                                                            A.Data("ADataFim"),
+                                                            static_cast<TTipoConexao>(A.Inteiro("ATipoConexao")));
+         },
+         LoteDaEmpresa<ESTABELECIMENTOS_DA_EMPRESA>({{"ADataInicio", taData, "primeiro dia do período"},
+                                                     {"ADataFim", taData, "último dia do período"},
+                                                     TIPO_CONEXAO})},
+        {"S-1260",
+         "Comercialização da produção rural própria",
+         {{"AIdFilial", taId, "código interno do estabelecimento"}},
+         [](const TArgumentosDeEvento& A) { return Evento<rural::TTarvoESocialCamposS1260>(A.Id("AIdFilial")); },
+         LoteDaEmpresa<FILIAIS_DA_EMPRESA>()},
         {"S-1280",
          "Informações complementares aos eventos periódicos",
          {{"AIdEmpresa", taId, "código interno da empresa"}, {"ACompetencia", taData, "primeiro dia da competência"}},
