@@ -7,8 +7,10 @@
 #include "desligamento/UnTarvoESocialCamposS2399.h"
 #include "framework/UnOvraSerializacaoObject.h"
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
+#include "framework/UnTarvoESocialCamposSqlCategoria.h"
 #include "imports/UnOvraConnection.h"
 #include "imports/UnOvraConversoes.h"
+#include "imports/UnOvraEsocialReinfControleAmbientes.h"
 #include "imports/UnOvraFormat.h"
 #include "imports/UnTarvoUtilsDb.h"
 #include "pagamento/UnTarvoESocialCamposS1210.h"
@@ -89,6 +91,11 @@ TDateTime LerDataIso(std::string_view ATexto)
     return DataValida(LAno, LMes, LDia) ? EncodeDate(LAno, LMes, LDia) : TDateTime();
 }
 
+TTipoEventoS2230 TipoEventoS2230(const TArgumentosDeEvento& AArgumentos)
+{
+    return static_cast<TTipoEventoS2230>(AArgumentos.Inteiro("ATipoEvento"));
+}
+
 /// Everybody of a company by CPF: its employees, then the providers with a receipt of the company in the period who
 /// aren't among them. A CPF is taken as it is stored, and compared by its digits.
 std::string SqlDosCpfs(const TArgumentosDeEvento& AArgumentos)
@@ -119,19 +126,59 @@ ORDER BY CHAVES.ORDEM, CHAVES.CPF)";
                   FormatarDataDB(AArgumentos.Data("DataFim"), true));
 }
 
-/// The workers of a company whose work ended in a period, by dismissal; those without a bond have a category from 700.
-template <bool ASemVinculo>
-std::string SqlDosDesligados(const TArgumentosDeEvento& AArgumentos)
+/// The workers of a company with a bond or without one, those without a category among the first. The categories from
+/// 700 on that the payments don't know are without a bond too.
+std::string SqlDosTrabalhadores(const TArgumentosDeEvento& AArgumentos, bool ASemVinculo, std::string_view AMais = {})
 {
-    static constexpr std::string_view SQL = R"(SELECT EMPREGADOS.IDEMPREGADO AS "AIdEmpregado"
+    static constexpr std::string_view SQL = R"(SELECT EMPREGADOS.IDEMPREGADO AS AIDEMPREGADO
 FROM EMPREGADOS
 LEFT JOIN FP_ESOCIALTABELA ON (FP_ESOCIALTABELA.IDESOCIALTABELA = EMPREGADOS.IDCATEGORIAESOCIAL)
 WHERE EMPREGADOS.IDEMPRESA = %0:d
-  AND EMPREGADOS.DATA_DEMISSAO BETWEEN %1:s AND %2:s
-  AND COALESCE(FP_ESOCIALTABELA.CODIGO, '') %3:s '700'
+  AND IIF(FP_ESOCIALTABELA.CODIGO IN (%1:s) OR FP_ESOCIALTABELA.CODIGO >= '700', 1, 0) = %2:d
+  %3:s
 ORDER BY EMPREGADOS.IDEMPREGADO)";
-    return Format(SQL, AArgumentos.Id("IdEmpresa"), FormatarDataDB(AArgumentos.Data("DataInicio"), true),
-                  FormatarDataDB(AArgumentos.Data("DataFim"), true), ASemVinculo ? ">=" : "<");
+    return Format(SQL, AArgumentos.Id("IdEmpresa"), CATEGORIAS_SEM_VINCULO, ASemVinculo ? 1 : 0, AMais);
+}
+
+std::string SqlDosSemVinculo(const TArgumentosDeEvento& AArgumentos) { return SqlDosTrabalhadores(AArgumentos, true); }
+
+/// The workers of a company whose work ended in a period, by dismissal.
+template <bool ASemVinculo>
+std::string SqlDosDesligados(const TArgumentosDeEvento& AArgumentos)
+{
+    return SqlDosTrabalhadores(AArgumentos, ASemVinculo,
+                               Format("AND EMPREGADOS.DATA_DEMISSAO BETWEEN %0:s AND %1:s",
+                                      FormatarDataDB(AArgumentos.Data("DataInicio"), true),
+                                      FormatarDataDB(AArgumentos.Data("DataFim"), true)));
+}
+
+/// The leaves of a company's workers: situations with a reason of the layout, for the end those that have one.
+std::string SqlDosAfastamentos(const TArgumentosDeEvento& AArgumentos)
+{
+    static constexpr std::string_view SQL = R"(SELECT SITUACOES.IDSITUACAO AS AIDSITUACAO
+FROM SITUACOES
+JOIN EMPREGADOS ON (EMPREGADOS.IDEMPREGADO = SITUACOES.IDEMPREGADO)
+WHERE EMPREGADOS.IDEMPRESA = %0:d
+  AND SITUACOES.IDESOCIALTABELA18 IS NOT NULL
+  AND SITUACOES.%1:s IS NOT NULL
+ORDER BY SITUACOES.IDSITUACAO)";
+    const bool LInicio = TipoEventoS2230(AArgumentos) == TTipoEventoS2230::Inicio;
+    return Format(SQL, AArgumentos.Id("IdEmpresa"), LInicio ? "DATA" : "DATA_FIM");
+}
+
+/// The events of a company that the government accepted, in the environment in use.
+std::string SqlDosEventosAceitos(const TArgumentosDeEvento& AArgumentos)
+{
+    static constexpr std::string_view SQL = R"(SELECT SC00_ESOCIALREINFXML.IDESOCIALREINFXML AS AIDEVENTO
+FROM SC00_ESOCIALREINFXML
+WHERE SC00_ESOCIALREINFXML.IDEMPRESA = %0:d%1:s
+  AND EXISTS (SELECT 1
+    FROM SC00_ESOCIALREINFDET
+    WHERE SC00_ESOCIALREINFDET.IDEVENTO = SC00_ESOCIALREINFXML.IDESOCIALREINFXML
+      AND SC00_ESOCIALREINFDET.STATUS IN (201, 202))
+ORDER BY SC00_ESOCIALREINFXML.IDESOCIALREINFXML)";
+    return Format(SQL, AArgumentos.Id("IdEmpresa"),
+                  BuscarInstanciaOvraEsocialReinfControleAmbientes().RetornarSqlControleAmbiente("AND"));
 }
 
 constexpr std::string_view CATS_DA_EMPRESA = R"(SELECT TABCAT.IDTABCAT AS AIDTABCAT
@@ -154,6 +201,18 @@ FROM FP_CURSOEMPREGADO
 JOIN EMPREGADOS ON (EMPREGADOS.IDEMPREGADO = FP_CURSOEMPREGADO.IDEMPREGADO)
 WHERE EMPREGADOS.IDEMPRESA = %0:d
 ORDER BY FP_CURSOEMPREGADO.IDCURSOEMPREGADO)";
+constexpr std::string_view AVISOS_DA_EMPRESA = R"(SELECT FP_AVISOPREVIO.IDAVISOPREVIO AS AIDAVISOPREVIO
+FROM FP_AVISOPREVIO
+JOIN EMPREGADOS ON (EMPREGADOS.IDEMPREGADO = FP_AVISOPREVIO.IDEMPREGADO)
+WHERE EMPREGADOS.IDEMPRESA = %0:d
+ORDER BY FP_AVISOPREVIO.IDAVISOPREVIO)";
+constexpr std::string_view CONVOCACOES_DA_EMPRESA =
+    R"(SELECT DISTINCT FP_CONTRAINTERM.IDEMPREGADO AS AIDEMPREGADO, FP_CONTRAINTERM.DATACONVOCACAO AS ADATAINICIO
+FROM FP_CONTRAINTERM
+JOIN EMPREGADOS ON (EMPREGADOS.IDEMPREGADO = FP_CONTRAINTERM.IDEMPREGADO)
+WHERE EMPREGADOS.IDEMPRESA = %0:d
+  AND FP_CONTRAINTERM.DATACONVOCACAO IS NOT NULL
+ORDER BY 1, 2)";
 
 /// The batch of an event whose keys are the rows of a company: Sql lists them, with the company as its argument.
 template <const std::string_view& Sql>
@@ -380,9 +439,11 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          {{"AIdSituacao", taId, "código interno da situação"},
           {"ATipoEvento", taInteiro, "1 início do afastamento, 2 término", true, 2}},
          [](const TArgumentosDeEvento& A) {
-             return Evento<trabalhador::TTarvoESocialCamposS2230>(
-                 A.Id("AIdSituacao"), static_cast<TTipoEventoS2230>(A.Inteiro("ATipoEvento")));
-         }},
+             return Evento<trabalhador::TTarvoESocialCamposS2230>(A.Id("AIdSituacao"), TipoEventoS2230(A));
+         },
+         TLoteDoEvento{{{"IdEmpresa", taId, "código interno da empresa"},
+                        {"ATipoEvento", taInteiro, "1 início do afastamento, 2 término", true, 2}},
+                       SqlDosAfastamentos}},
         {"S-2240",
          "Condições ambientais do trabalho: fatores de risco",
          {{"AIdFatRisco", taId, "código interno do fator de risco"}},
@@ -401,13 +462,15 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          {{"AIdAvisoPrevio", taId, "código interno do aviso prévio"}},
          [](const TArgumentosDeEvento& A) {
              return Evento<trabalhador::TTarvoESocialCamposS2250>(A.Id("AIdAvisoPrevio"));
-         }},
+         },
+         LoteDaEmpresa<AVISOS_DA_EMPRESA>()},
         {"S-2260",
          "Convocação para trabalho intermitente",
          {{"AIdEmpregado", taId, "código interno do empregado"}, {"ADataInicio", taData, "data da convocação"}},
          [](const TArgumentosDeEvento& A) {
              return Evento<trabalhador::TTarvoESocialCamposS2260>(A.Id("AIdEmpregado"), A.Data("ADataInicio"));
-         }},
+         },
+         LoteDaEmpresa<CONVOCACOES_DA_EMPRESA>()},
         {"S-2298",
          "Reintegração",
          {{"AIdEmpregado", taId, "código interno do empregado"}},
@@ -432,13 +495,18 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          {{"AIdEmpregado", taId, "código interno do empregado"}, {"ADataGeracao", taData, "data de referência"}},
          [](const TArgumentosDeEvento& A) {
              return Evento<trabalhador::TTarvoESocialCamposS2300>(A.Id("AIdEmpregado"), A.Data("ADataGeracao"));
-         }},
+         },
+         TLoteDoEvento{
+             {{"IdEmpresa", taId, "código interno da empresa"}, {"ADataGeracao", taData, "data de referência"}},
+             SqlDosSemVinculo}},
         {"S-2306",
          "Trabalhador sem vínculo de emprego, alteração",
          {{"AIdEmpregado", taId, "código interno do empregado"}, {"AData", taData, "data de referência"}},
          [](const TArgumentosDeEvento& A) {
              return Evento<trabalhador::TTarvoESocialCamposS2306>(A.Id("AIdEmpregado"), A.Data("AData"));
-         }},
+         },
+         TLoteDoEvento{{{"IdEmpresa", taId, "código interno da empresa"}, {"AData", taData, "data de referência"}},
+                       SqlDosSemVinculo}},
         {"S-2399",
          "Trabalhador sem vínculo de emprego, término",
          {{"AIdEmpregado", taId, "código interno do empregado"},
@@ -455,7 +523,8 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
         {"S-3000",
          "Exclusão de evento",
          {{"AIdEvento", taId, "código interno do evento enviado"}},
-         [](const TArgumentosDeEvento& A) { return Evento<trabalhador::TTarvoESocialCamposS3000>(A.Id("AIdEvento")); }},
+         [](const TArgumentosDeEvento& A) { return Evento<trabalhador::TTarvoESocialCamposS3000>(A.Id("AIdEvento")); },
+         TLoteDoEvento{{{"IdEmpresa", taId, "código interno da empresa"}}, SqlDosEventosAceitos}},
     };
     return LCatalogo;
 }
