@@ -619,9 +619,8 @@ TArgumentosDeEvento::TArgumentosDeEvento(const std::vector<TArgumentoDeEvento>& 
                 Recusar("não é uma data AAAA-MM-DD");
             break;
         case taCpf:
-            if (LTexto.empty() || !std::all_of(LTexto.begin(), LTexto.end(), [](char AChar) {
-                    return EhDigito(AChar) || AChar == '.' || AChar == '-';
-                }))
+            if (std::none_of(LTexto.begin(), LTexto.end(), EhDigito) ||
+                LTexto.find_first_not_of("0123456789.-") != std::string::npos)
                 Recusar("não é um CPF");
             break;
         case taTexto:
