@@ -55,9 +55,6 @@ namespace {
 
 using namespace catalogo;
 
-/// The company, where the event takes it itself.
-constexpr char AID_EMPRESA[] = "AIDEmpresa";
-
 using enum TTipoArgumento;
 
 /// An event whose constructor takes everything and that needs no parameter object.
@@ -297,7 +294,7 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          [](const TArgumentosDeEvento& A) {
              return Evento<trabalhador::TTarvoESocialCamposS2190>(A.Id("AIDEmpregado"));
          },
-         LoteDaEmpresa<VINCULADOS_DA_EMPRESA>()},
+         LoteDaEmpresaPor(SqlDosTrabalhadores<false>)},
         {"S-2200",
          "Admissão de trabalhador",
          {{"AIDEmpresa", taId, "código interno da empresa"},
@@ -307,7 +304,7 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
              return Evento<trabalhador::TTarvoESocialCamposS2200>(A.Id("AIDEmpresa"), A.Id("AIDEmpregado"),
                                                                   A.Data("ADataGeracao"));
          },
-         LoteDaEmpresa<VINCULADOS_DA_EMPRESA, AID_EMPRESA>({{"ADataGeracao", taData, "data de referência"}})},
+         LoteDaEmpresaPor(SqlDosTrabalhadores<false>, {{"ADataGeracao", taData, "data de referência"}}, AID_EMPRESA)},
         {"S-2205",
          "Alteração de dados cadastrais do trabalhador",
          {{"AIDEmpregado", taId, "código interno do empregado"}},
@@ -321,7 +318,7 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          [](const TArgumentosDeEvento& A) {
              return Evento<trabalhador::TTarvoESocialCamposS2206>(A.Id("AIDEmpregado"), A.Data("AData"));
          },
-         LoteDaEmpresa<VINCULADOS_DA_EMPRESA>({{"AData", taData, "data de referência"}})},
+         LoteDaEmpresaPor(SqlDosTrabalhadores<false>, {{"AData", taData, "data de referência"}})},
         {"S-2210",
          "Comunicação de acidente de trabalho",
          {{"AIdTabCat", taId, "código interno da CAT"}},
@@ -347,8 +344,8 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
              return Evento<trabalhador::TTarvoESocialCamposS2230>(
                  A.Id("AIdSituacao"), static_cast<TTipoEventoS2230>(A.Inteiro("ATipoEvento")));
          },
-         LoteDaEmpresa<AFASTAMENTOS_DA_EMPRESA>(
-             {{"ATipoEvento", taInteiro, "1 início do afastamento, 2 término", true, 2}})},
+         LoteDaEmpresaPor(SqlDosAfastamentos,
+                          {{"ATipoEvento", taInteiro, "1 início do afastamento, 2 término", true, 2}})},
         {"S-2240",
          "Condições ambientais do trabalho: fatores de risco",
          {{"AIdFatRisco", taId, "código interno do fator de risco"}},
@@ -401,14 +398,14 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          [](const TArgumentosDeEvento& A) {
              return Evento<trabalhador::TTarvoESocialCamposS2300>(A.Id("AIdEmpregado"), A.Data("ADataGeracao"));
          },
-         LoteDaEmpresa<SEM_VINCULO_DA_EMPRESA>({{"ADataGeracao", taData, "data de referência"}})},
+         LoteDaEmpresaPor(SqlDosTrabalhadores<true>, {{"ADataGeracao", taData, "data de referência"}})},
         {"S-2306",
          "Trabalhador sem vínculo de emprego, alteração",
          {{"AIdEmpregado", taId, "código interno do empregado"}, {"AData", taData, "data de referência"}},
          [](const TArgumentosDeEvento& A) {
              return Evento<trabalhador::TTarvoESocialCamposS2306>(A.Id("AIdEmpregado"), A.Data("AData"));
          },
-         LoteDaEmpresa<SEM_VINCULO_DA_EMPRESA>({{"AData", taData, "data de referência"}})},
+         LoteDaEmpresaPor(SqlDosTrabalhadores<true>, {{"AData", taData, "data de referência"}})},
         {"S-2399",
          "Trabalhador sem vínculo de emprego, término",
          {{"AIdEmpregado", taId, "código interno do empregado"},
@@ -425,7 +422,8 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
         {"S-3000",
          "Exclusão de evento",
          {{"AIdEvento", taId, "código interno do evento enviado"}},
-         [](const TArgumentosDeEvento& A) { return Evento<trabalhador::TTarvoESocialCamposS3000>(A.Id("AIdEvento")); }},
+         [](const TArgumentosDeEvento& A) { return Evento<trabalhador::TTarvoESocialCamposS3000>(A.Id("AIdEvento")); },
+         LoteDaEmpresaPor(SqlDosEventosAceitos)},
     };
     return LCatalogo;
 }
