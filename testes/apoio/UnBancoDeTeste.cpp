@@ -1,5 +1,6 @@
 #include "apoio/UnBancoDeTeste.h"
 
+#include <ibase.h>
 #include <unistd.h>
 
 #include <cstdlib>
@@ -130,7 +131,13 @@ void TTesteComBanco::TearDown()
     DefinirOvraConnection(nullptr);
 }
 
-void FecharConexoes() { Conexoes().clear(); }
+void FecharConexoes()
+{
+    Conexoes().clear();
+    // The engine's own threads end here, and not while the process, or the search for leaks at its end, is under way.
+    constexpr unsigned MILISSEGUNDOS = 10'000;
+    fb_shutdown(MILISSEGUNDOS, fb_shutrsn_app_stopped);
+}
 
 TOvraConnection& TTesteComBanco::Conexao() { return *Conexoes()[ComExemplo()]; }
 

@@ -19,7 +19,7 @@ namespace tarvo::testes {
 TParametrosConexao ParametrosDoBanco(const std::string& ANomeDoArquivo);
 /// A fresh database with the schema, and with the sample company when asked; made once per name.
 TParametrosConexao CriarBancoDeTeste(const std::string& ANomeDoArquivo, bool AComExemplo);
-/// Closes the connections that the fixtures share; the last act of a run.
+/// Closes the connections that the fixtures share and ends the engine; the last act of a run.
 void FecharConexoes();
 
 /// A value of a column on its way into an INSERT.
