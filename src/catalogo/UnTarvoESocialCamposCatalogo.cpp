@@ -266,7 +266,8 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          {{"AIDEmpregado", taId, "código interno do empregado"}, {"ADataGeracao", taData, "data de referência"}},
          [](const TArgumentosDeEvento& A) {
              return Evento<trabalhador::TTarvoESocialCamposS2100>(A.Id("AIDEmpregado"), A.Data("ADataGeracao"));
-         }},
+         },
+         LoteDaEmpresa<VINCULADOS_DA_EMPRESA>({{"ADataGeracao", taData, "data de referência"}})},
         {"S-2190",
          "Admissão de trabalhador, registro preliminar",
          {{"AIDEmpregado", taId, "código interno do empregado"}},

@@ -108,6 +108,30 @@ TEST_F(TTesteChavesDoLote, SaudeESegurancaVaoPelosRegistrosDaEmpresa)
     }
 }
 
+TEST_F(TTesteChavesDoLote, ContratosVaoPorQuemTemVinculo)
+{
+    for (const auto& [LId, LCodigo] : {std::pair{1, "410"}, {2, "701"}})
+        Inserir("FP_ESOCIALTABELA", {{"IDESOCIALTABELA", LId}, {"TABELA", 1}, {"CODIGO", LCodigo}});
+    for (const auto& [LId, LEmpresa, LCategoria] :
+         {std::tuple<int, int, TValorSql>{23, 1, nullptr}, {22, 1, 2}, {21, 1, 1}, {24, 2, 1}})
+        Inserir("EMPREGADOS", {{"IDEMPREGADO", LId}, {"IDEMPRESA", LEmpresa}, {"IDCATEGORIAESOCIAL", LCategoria}});
+    using TTextos = std::map<std::string, std::string>;
+    for (const auto& [LEvento, LDoLote, LEsperado] :
+         {std::tuple{"S-2100", TTextos{{"IdEmpresa", "1"}, {"ADataGeracao", "2021-03-31"}}, "21 23 "},
+          {"S-2190", TTextos{{"IdEmpresa", "1"}}, "21 23 "},
+          {"S-2200", TTextos{{"AIDEmpresa", "1"}, {"ADataGeracao", "2021-03-31"}}, "21 23 "},
+          // Personal data change with or without a bond.
+          {"S-2205", TTextos{{"IdEmpresa", "1"}}, "21 22 23 "},
+          {"S-2206", TTextos{{"IdEmpresa", "1"}, {"AData", "2021-03-31"}}, "21 23 "}}) {
+        std::string LTexto;
+        for (const auto& LChave : BuscarChavesDoLote(LEvento, LDoLote)) {
+            LTexto += LChave.Json + " ";
+            EXPECT_NO_THROW(ConstruirEvento(LEvento, LChave.Argumentos)) << LEvento;
+        }
+        EXPECT_EQ(LEsperado, LTexto) << LEvento;
+    }
+}
+
 TEST_F(TTesteChavesDoLote, ArgumentoErradoOuEventoSemLote)
 {
     EXPECT_THROW(BuscarChavesDoLote("S-1000", {}), EArgumentoInvalido);
