@@ -287,7 +287,8 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          {{"AIDEmpregado", taId, "código interno do empregado"}, {"ADataGeracao", taData, "data de referência"}},
          [](const TArgumentosDeEvento& A) {
              return Evento<trabalhador::TTarvoESocialCamposS2100>(A.Id("AIDEmpregado"), A.Data("ADataGeracao"));
-         }},
+         },
+         LoteDaEmpresaPor(SqlDosTrabalhadores<false>, {{"ADataGeracao", taData, "data de referência"}})},
         {"S-2190",
          "Admissão de trabalhador, registro preliminar",
          {{"AIDEmpregado", taId, "código interno do empregado"}},

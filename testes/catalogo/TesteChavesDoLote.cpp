@@ -150,8 +150,11 @@ TEST_F(TTesteChavesDoLote, SemVinculoPelaCategoriaECadaEventoDoVinculoPeloSeuReg
     const TArgumentos LPeriodo{
         {"DataInicio", "2021-03-01"}, {"DataFim", "2021-03-31"}, {"ADataInicioEventosPeriodicos", "2018-05-01"}};
     for (auto [LEvento, LArgumentos, LEsperado] :
-         {std::tuple<const char*, TArgumentos, const char*>{
-              "S-2300", {{"ADataGeracao", "2021-03-31"}}, "22 23 25 26 27 28 29 30 "},
+         {std::tuple<const char*, TArgumentos, const char*>{"S-2100", {{"ADataGeracao", "2021-03-31"}}, "21 24 40 "},
+          {"S-2190", {}, "21 24 40 "},
+          {"S-2205", {}, "21 22 23 24 25 26 27 28 29 30 40 "},
+          {"S-2206", {{"AData", "2021-03-31"}}, "21 24 40 "},
+          {"S-2300", {{"ADataGeracao", "2021-03-31"}}, "22 23 25 26 27 28 29 30 "},
           {"S-2306", {{"adata", "2021-03-31"}}, "22 23 25 26 27 28 29 30 "},
           {"S-2399", LPeriodo, "22 26 28 30 "},
           {"S-2299", LPeriodo, "24 40 "},
