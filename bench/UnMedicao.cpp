@@ -21,6 +21,7 @@
 #include "catalogo/UnTarvoESocialCamposCatalogo.h"
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
 #include "imports/UnOvraScriptSql.h"
+#include "imports/UnOvraUtilsDbFirebird.h"
 
 namespace tarvo::bancada {
 
@@ -267,6 +268,7 @@ void MedirCrescimento(const TOpcoes& AOpcoes)
 int main(int argc, char** argv)
 {
     using namespace tarvo::bancada;
+    tarvo::PrepararPastaDeTravas();
     benchmark::SetDefaultTimeUnit(benchmark::kMicrosecond);
     // The cases take turns: what else the machine does meanwhile falls upon all of them.
     std::vector<std::string> LPadroes = {"--benchmark_enable_random_interleaving=true", "--benchmark_min_time=0.1"};

@@ -44,7 +44,7 @@ void RegistrarCarregar(CLI::App& AApp, TComandos& AComandos)
                                   "esocial-campos carregar EVENTO --banco LIGACAO --ARGUMENTO VALOR ...");
     AdicionarOpcoesDoContexto(LApp, LOpcoes->Contexto);
     AdicionarOpcoesDaCarga(LApp, LOpcoes->Carga);
-    LApp.add_flag("--compacto", LOpcoes->Compacto, "mostra o JSON em uma linha")->ignore_case();
+    AdicionarChave(LApp, "--compacto", LOpcoes->Compacto, "mostra o JSON em uma linha");
     AdicionarEventos(LApp, LOpcoes->Evento);
     AComandos.back().Executar = [LOpcoes] { return CarregarEMostrar(*LOpcoes); };
 }

@@ -1,6 +1,5 @@
 #include <CLI/CLI.hpp>
 
-#include <filesystem>
 #include <iostream>
 #include <memory>
 
@@ -32,9 +31,11 @@ int CriarBanco(const TOpcoes& AOpcoes)
                 ExecutarScriptSql(LConexao, LScript.Texto);
     } catch (const Exception&) {
         // Half a database helps nobody, and would stand in the way of the next try.
-        std::error_code LErro;
-        if (!LParametros.EhServidor())
-            std::filesystem::remove(LParametros.BancoDeDados, LErro);
+        try {
+            TOvraConnection::ApagarBanco(LParametros);
+        } catch (const EDatabaseError&) {
+            std::cerr << "O banco ficou incompleto e não pôde ser apagado: " << LParametros.BancoDeDados << "\n";
+        }
         throw;
     }
     std::cerr << "Banco criado: " << LParametros.BancoDeDados
@@ -51,7 +52,7 @@ void RegistrarCriarBanco(CLI::App& AApp, TComandos& AComandos)
                                   "cria um banco da folha novo, vazio ou com a empresa de exemplo",
                                   "esocial-campos criar-banco --banco ARQUIVO [--exemplo]");
     AdicionarOpcoesDeLigacao(LApp, LOpcoes->Ligacao);
-    LApp.add_flag("--exemplo", LOpcoes->Exemplo, "põe nele a empresa de exemplo")->ignore_case();
+    AdicionarChave(LApp, "--exemplo", LOpcoes->Exemplo, "põe nele a empresa de exemplo");
     AComandos.back().Executar = [LOpcoes] { return CriarBanco(*LOpcoes); };
 }
 

@@ -66,8 +66,8 @@ void RegistrarEventos(CLI::App& AApp, TComandos& AComandos)
     auto& LApp = AdicionarComando(AApp, AComandos, "eventos", "mostra os eventos, os seus argumentos e os seus campos",
                                   "esocial-campos eventos [EVENTO] [--markdown|--esquema]");
     LApp.add_option("EVENTO", LOpcoes->Evento, "um evento só, com cada argumento e cada campo")->type_name("");
-    LApp.add_flag("--markdown", LOpcoes->Markdown, "mostra a página do evento, ou o índice das páginas")->ignore_case();
-    LApp.add_flag("--esquema", LOpcoes->Esquema, "mostra o esquema JSON (draft 4) do evento")->ignore_case();
+    AdicionarChave(LApp, "--markdown", LOpcoes->Markdown, "mostra a página do evento, ou o índice das páginas");
+    AdicionarChave(LApp, "--esquema", LOpcoes->Esquema, "mostra o esquema JSON (draft 4) do evento");
     AComandos.back().Executar = [LOpcoes] {
         EscreverResultado(Mostrar(*LOpcoes));
         return SAIDA_FEITO;

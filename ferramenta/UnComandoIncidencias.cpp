@@ -150,8 +150,7 @@ void RegistrarIncidencias(CLI::App& AApp, TComandos& AComandos)
     LApp.add_option("--atualizar", LOpcoes->Atualizar, "grava de novo os códigos desta verba")
         ->ignore_case()
         ->type_name("ID");
-    LApp.add_flag("--carga-inicial", LOpcoes->CargaInicial, "grava de novo os códigos de todas as verbas")
-        ->ignore_case();
+    AdicionarChave(LApp, "--carga-inicial", LOpcoes->CargaInicial, "grava de novo os códigos de todas as verbas");
     AComandos.back().Executar = [LOpcoes, &LApp] { return Executar(LApp, *LOpcoes); };
 }
 

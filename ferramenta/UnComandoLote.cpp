@@ -97,6 +97,7 @@ void RegistrarLote(CLI::App& AApp, TComandos& AComandos)
     AdicionarOpcoesDaCarga(LApp, LOpcoes->Carga);
     LApp.add_option("--parte", LOpcoes->Parte, "carrega só cada N-ésima chave, a partir da K-ésima")
         ->ignore_case()
+        ->check(&ConferirValor)
         ->type_name("K/N");
     AdicionarEventos(
         LApp, LOpcoes->Evento, [](const TEventoDoCatalogo& AEvento) { return AEvento.Lote.has_value(); },

@@ -101,7 +101,7 @@ void RegistrarReverter(CLI::App& AApp, TComandos& AComandos)
         ->ignore_case()
         ->type_name("CAMINHO=VALOR")
         ->allow_extra_args(false);
-    LApp.add_flag("--executar", LOpcoes->Executar, "executa os comandos, todos ou nenhum")->ignore_case();
+    AdicionarChave(LApp, "--executar", LOpcoes->Executar, "executa os comandos, todos ou nenhum");
     AdicionarEventos(LApp, LOpcoes->Evento, TemReversao);
     AComandos.back().Executar = [LOpcoes] { return Reverter(*LOpcoes); };
 }

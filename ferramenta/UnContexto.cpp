@@ -5,9 +5,11 @@
 #include <rapidjson/writer.h>
 
 #include <cstdlib>
+#include <filesystem>
 #include <iostream>
 
 #include "ferramenta/UnErros.h"
+#include "ferramenta/UnLinhaDeComando.h"
 #include "imports/UnOvraEsocialReinfControleAmbientes.h"
 #include "imports/UnOvraUtilsDialogs.h"
 #include "imports/UnTarvoConexaoBrenco.h"
@@ -20,6 +22,41 @@ std::string DoAmbiente(const char* ANome)
 {
     const char* LValor = std::getenv(ANome);
     return LValor == nullptr ? std::string() : std::string(LValor);
+}
+
+/// Every line of a trace begins so.
+constexpr std::string_view INICIO_DO_RASTRO = "{\"sql\":";
+
+namespace fs = std::filesystem;
+
+bool MesmoArquivo(const fs::path& A, const fs::path& B)
+{
+    std::error_code LErro;
+    if (fs::equivalent(A, B, LErro))
+        return true;
+    const auto LA = fs::weakly_canonical(fs::absolute(A, LErro), LErro);
+    return !LErro && LA == fs::weakly_canonical(fs::absolute(B, LErro), LErro) && !LErro;
+}
+
+bool EhRastro(const fs::path& AArquivo)
+{
+    std::string LInicio(INICIO_DO_RASTRO.size(), '\0');
+    std::ifstream LArquivo(AArquivo, std::ios::binary);
+    LArquivo.read(LInicio.data(), static_cast<std::streamsize>(LInicio.size()));
+    return LArquivo && LInicio == INICIO_DO_RASTRO;
+}
+
+/// The trace is written from the start of its file: EUsoErrado where that would wipe out anything but a former trace.
+void ConferirArquivoDoRastro(const TOpcoesDoContexto& AOpcoes)
+{
+    const fs::path LArquivo(AOpcoes.Rastrear);
+    for (const auto& [LOpcao, LBanco] : {std::pair{"--banco", &AOpcoes.Banco}, {"--brenco", &AOpcoes.Brenco}})
+        if (!LBanco->empty() && MesmoArquivo(LArquivo, *LBanco))
+            throw EUsoErrado("O rastro apagaria o banco de " + std::string(LOpcao) + ": '" + AOpcoes.Rastrear + "'");
+    std::error_code LErro;
+    if (fs::is_regular_file(LArquivo, LErro) && fs::file_size(LArquivo, LErro) > 0 && !EhRastro(LArquivo))
+        throw EUsoErrado("O rastro apagaria o arquivo '" + AOpcoes.Rastrear +
+                         "', que não é um rastro; informe outro nome");
 }
 
 } // namespace
@@ -46,12 +83,15 @@ void AdicionarOpcoesDoContexto(CLI::App& AComando, TOpcoesDoContexto& AOpcoes)
         .add_option("--rastrear", AOpcoes.Rastrear,
                     "grava cada comando SQL em uma linha JSON neste arquivo; '-' é a saída de erros")
         ->ignore_case()
+        ->check(&ConferirValor)
         ->type_name("ARQUIVO");
-    AComando.add_option("--ambiente", AOpcoes.Ambiente, "ambiente do eSocial: 1 produção, 2 produção restrita")
+    AComando
+        .add_option("--ambiente", AOpcoes.Ambiente, "ambiente do eSocial: 1 produção (padrão), 2 produção restrita")
         ->ignore_case()
         ->type_name("1|2");
     AComando.add_option("--brenco", AOpcoes.Brenco, "banco do sistema irmão, lido por S-1250")
         ->ignore_case()
+        ->check(&ConferirValor)
         ->type_name("LIGACAO");
 }
 
@@ -75,6 +115,7 @@ TContexto::TContexto(const TOpcoesDoContexto& AOpcoes)
     if (AOpcoes.Rastrear == "-") {
         FRastro = &std::cerr;
     } else if (!AOpcoes.Rastrear.empty()) {
+        ConferirArquivoDoRastro(AOpcoes);
         FArquivoDoRastro.open(AOpcoes.Rastrear, std::ios::trunc);
         if (!FArquivoDoRastro)
             throw EUsoErrado("Não foi possível criar o arquivo de rastro '" + AOpcoes.Rastrear + "'");

@@ -31,7 +31,7 @@ void AdicionarOpcoesDoContexto(CLI::App& AComando, TOpcoesDoContexto& AOpcoes);
 TParametrosConexao ParametrosDaLigacao(const TOpcoesDoContexto& AOpcoes);
 
 /// What a command works in: the suite's connection, the environment, the sibling system's connection and the trace.
-/// The first wrong option is an EUsoErrado, before any connection is opened.
+/// The first wrong option is an EUsoErrado, before any connection is opened and any file is written.
 class TContexto {
 public:
     explicit TContexto(const TOpcoesDoContexto& AOpcoes);

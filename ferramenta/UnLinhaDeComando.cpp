@@ -14,9 +14,17 @@ CLI::App& AdicionarComando(CLI::App& AApp, TComandos& AComandos, const std::stri
     // What nobody knows is gathered, and told in Portuguese after the line was read.
     LApp.allow_extras();
     LApp.group("Comandos");
+    LApp.get_help_ptr()->ignore_case();
     AComandos.push_back({&LApp, AUso, {}});
     return LApp;
 }
+
+void AdicionarChave(CLI::App& AComando, const std::string& ANome, bool& AValor, const std::string& ADescricao)
+{
+    AComando.add_flag(ANome, AValor, ADescricao)->ignore_case()->disable_flag_override();
+}
+
+std::string ConferirValor(const std::string& AValor) { return AValor.empty() ? "vazio" : ""; }
 
 void AdicionarEventos(
     CLI::App& AComando, TEventoDaLinha& AEvento, const std::function<bool(const TEventoDoCatalogo&)>& AAceita,
@@ -27,6 +35,7 @@ void AdicionarEventos(
             continue;
         auto& LApp = *AComando.add_subcommand(LEvento.Codigo, LEvento.Titulo);
         LApp.ignore_case()->fallthrough()->allow_extras()->group("Eventos");
+        LApp.get_help_ptr()->ignore_case();
         LApp.footer("Mais as opções de 'esocial-campos " + AComando.get_name() + " --ajuda'.");
         auto& LValores = AEvento.Valores[LEvento.Codigo];
         for (const auto& LArgumento : AArgumentos ? AArgumentos(LEvento) : LEvento.Argumentos) {

@@ -33,6 +33,12 @@ using TComandos = std::deque<TComando>;
 CLI::App& AdicionarComando(CLI::App& AApp, TComandos& AComandos, const std::string& ANome,
                            const std::string& ADescricao, const std::string& AUso);
 
+/// Adds an option that is given or not, and takes no value.
+void AdicionarChave(CLI::App& AComando, const std::string& ANome, bool& AValor, const std::string& ADescricao);
+
+/// For an option that means something else when it is left out: an empty value is refused, as one that is missing.
+std::string ConferirValor(const std::string& AValor);
+
 /// The event that a command was given, and its arguments by name.
 struct TEventoDaLinha {
     /// By event code, the texts of its arguments; only the given ones count.

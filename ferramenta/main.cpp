@@ -1,11 +1,13 @@
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <iostream>
 
 #include "catalogo/UnTarvoESocialCamposCatalogo.h"
 #include "ferramenta/UnComandos.h"
 #include "ferramenta/UnErros.h"
 #include "framework/UnTarvoESocialCamposCaminhos.h"
+#include "imports/UnOvraUtilsDbFirebird.h"
 
 namespace {
 
@@ -13,6 +15,15 @@ using namespace tarvo;
 using namespace tarvo::ferramenta;
 
 const char* const USO_GERAL = "esocial-campos COMANDO [OPÇÕES]; veja 'esocial-campos --ajuda'";
+
+const char* const EXEMPLOS =
+    "Exemplos:\n"
+    "  esocial-campos criar-banco --banco folha.fdb --exemplo\n"
+    "  esocial-campos eventos S-1000\n"
+    "  esocial-campos carregar S-1000 --banco folha.fdb --AIDEmpresa 1 --AData 2021-03-01\n"
+    "\n"
+    "A ajuda de um comando: esocial-campos carregar --ajuda. O resultado vai para a saída padrão, as mensagens para a\n"
+    "saída de erros. Saída 0: feito; 1: a carga ou o banco falhou; 2: uso errado.";
 
 /// The help in the user's language, with the usage line that each command gives of itself.
 class TFormatoDaAjuda : public CLI::Formatter {
@@ -44,6 +55,8 @@ std::string Traduzir(const CLI::ParseError& AErro)
 {
     const std::string LTexto = AErro.what();
     const auto LOpcao = LTexto.substr(0, LTexto.find_first_of(": "));
+    if (LTexto.find("flag override") != std::string::npos)
+        return "A opção --" + LOpcao.substr(std::min(LOpcao.find_first_not_of('-'), LOpcao.size())) + " não leva valor";
     if (LOpcao.starts_with("-"))
         return "A opção " + LOpcao + " precisa de exatamente um valor";
     return "Linha de comando inválida (" + LTexto + ")";
@@ -86,10 +99,11 @@ int Executar(CLI::App& AApp, const TComandos& AComandos)
 
 int main(int argc, char** argv)
 {
+    PrepararPastaDeTravas();
     CLI::App LApp{"Carrega os dados dos eventos do eSocial do banco da folha de pagamento.", "esocial-campos"};
     TComandos LComandos;
     LApp.formatter(std::make_shared<TFormatoDaAjuda>(LComandos));
-    LApp.set_help_flag("-h,--ajuda,--help", "mostra esta ajuda");
+    LApp.set_help_flag("-h,--ajuda,--help", "mostra esta ajuda")->ignore_case();
     LApp.allow_extras();
     RegistrarCriarBanco(LApp, LComandos);
     RegistrarEventos(LApp, LComandos);
@@ -97,6 +111,8 @@ int main(int argc, char** argv)
     RegistrarReverter(LApp, LComandos);
     RegistrarLote(LApp, LComandos);
     RegistrarIncidencias(LApp, LComandos);
+    // After the commands, which would inherit it.
+    LApp.footer(EXEMPLOS);
     try {
         LApp.parse(argc, argv);
         return Executar(LApp, LComandos);

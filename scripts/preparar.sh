@@ -5,11 +5,18 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 readonly PACOTES=(
     g++ cmake ninja-build ccache
     firebird-dev firebird3.0-server-core firebird3.0-utils firebird3.0-server
-    libpugixml-dev rapidjson-dev libcli11-dev libgtest-dev libbenchmark-dev
+    libpugixml-dev rapidjson-dev libcli11-dev libgtest-dev libbenchmark-dev python3
 )
 
 como_root() {
-    if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
+    if [ "$(id -u)" -eq 0 ]; then
+        "$@"
+    elif command -v sudo >/dev/null; then
+        sudo "$@"
+    else
+        echo "Para instalar pacotes é preciso ser root ou ter o sudo" >&2
+        return 1
+    fi
 }
 
 # Installs the Debian packages that are missing; nothing when all are there.
@@ -24,8 +31,8 @@ instalar() {
     como_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${faltam[@]}"
 }
 
-# Builds a preset of CMakePresets.json; warnings are errors.
+# Builds a preset of CMakePresets.json, all of it or the targets named after it; warnings are errors.
 compilar() {
     cmake --preset "$1" >/dev/null
-    cmake --build --preset "$1" -j "$(nproc)"
+    cmake --build --preset "$1" -j "$(nproc)" ${2:+--target "${@:2}"}
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "catalogo/UnTarvoESocialCamposChavesDoLote.h"
 #include "desligamento/UnTarvoESocialCamposS2299.h"
 #include "desligamento/UnTarvoESocialCamposS2399.h"
 #include "framework/UnOvraSerializacaoObject.h"
@@ -13,6 +14,8 @@
 #include "imports/UnTarvoUtilsDb.h"
 #include "pagamento/UnTarvoESocialCamposS1210.h"
 #include "remuneracao/UnTarvoESocialCamposS1200.h"
+#include "rural/UnTarvoESocialCamposS1250.h"
+#include "rural/UnTarvoESocialCamposS1260.h"
 #include "rural/UnTarvoESocialCamposS1280.h"
 #include "rural/UnTarvoESocialCamposS1295.h"
 #include "rural/UnTarvoESocialCamposS1298.h"
@@ -49,6 +52,8 @@
 namespace tarvo {
 
 namespace {
+
+using namespace catalogo;
 
 using enum TTipoArgumento;
 
@@ -89,79 +94,8 @@ TDateTime LerDataIso(std::string_view ATexto)
     return DataValida(LAno, LMes, LDia) ? EncodeDate(LAno, LMes, LDia) : TDateTime();
 }
 
-/// Everybody of a company by CPF: its employees, then the providers with a receipt of the company in the period who
-/// aren't among them. A CPF is taken as it is stored, and compared by its digits.
-std::string SqlDosCpfs(const TArgumentosDeEvento& AArgumentos)
-{
-    static constexpr std::string_view SQL = R"(SELECT CHAVES.CPF
-FROM (
-  SELECT PESSOAS.ORDEM, PESSOAS.CPF, MIN(PESSOAS.ORDEM) OVER (PARTITION BY PESSOAS.DIGITOS) AS PRIMEIRA
-  FROM (
-    SELECT 1 AS ORDEM, TRIM(EMPREGADOS.CPF) AS CPF,
-           REPLACE(REPLACE(REPLACE(EMPREGADOS.CPF,'.',''),'-',''),' ','') AS DIGITOS
-    FROM EMPREGADOS
-    WHERE EMPREGADOS.IDEMPRESA = %0:d
-    UNION
-    SELECT 2 AS ORDEM, MIN(TRIM(PREST_SERVICO.CPF)) AS CPF,
-           REPLACE(REPLACE(REPLACE(PREST_SERVICO.CPF,'.',''),'-',''),' ','') AS DIGITOS
-    FROM RPA
-    JOIN PREST_SERVICO ON (PREST_SERVICO.IDPRESTSERVICO = RPA.IDPRESTSERVICO)
-    JOIN SC00_FILIAL ON (SC00_FILIAL.IDFILIAL = RPA.IDFILIAL)
-    WHERE SC00_FILIAL.IDEMPRESA = %0:d
-      AND RPA.DATAPAGTO BETWEEN %1:s AND %2:s
-    GROUP BY 3
-  ) AS PESSOAS
-  WHERE PESSOAS.DIGITOS <> ''
-) AS CHAVES
-WHERE CHAVES.ORDEM = CHAVES.PRIMEIRA
-ORDER BY CHAVES.ORDEM, CHAVES.CPF)";
-    return Format(SQL, AArgumentos.Id("IdEmpresa"), FormatarDataDB(AArgumentos.Data("DataInicio"), true),
-                  FormatarDataDB(AArgumentos.Data("DataFim"), true));
-}
-
-/// The workers of a company whose work ended in a period, by dismissal; those without a bond have a category from 700.
-template <bool ASemVinculo>
-std::string SqlDosDesligados(const TArgumentosDeEvento& AArgumentos)
-{
-    static constexpr std::string_view SQL = R"(SELECT EMPREGADOS.IDEMPREGADO AS "AIdEmpregado"
-FROM EMPREGADOS
-LEFT JOIN FP_ESOCIALTABELA ON (FP_ESOCIALTABELA.IDESOCIALTABELA = EMPREGADOS.IDCATEGORIAESOCIAL)
-WHERE EMPREGADOS.IDEMPRESA = %0:d
-  AND EMPREGADOS.DATA_DEMISSAO BETWEEN %1:s AND %2:s
-  AND COALESCE(FP_ESOCIALTABELA.CODIGO, '') %3:s '700'
-ORDER BY EMPREGADOS.IDEMPREGADO)";
-    return Format(SQL, AArgumentos.Id("IdEmpresa"), FormatarDataDB(AArgumentos.Data("DataInicio"), true),
-                  FormatarDataDB(AArgumentos.Data("DataFim"), true), ASemVinculo ? ">=" : "<");
-}
-
-constexpr std::string_view CATS_DA_EMPRESA = R"(SELECT TABCAT.IDTABCAT AS AIDTABCAT
-FROM TABCAT
-JOIN SC00_EMPRESA ON (SC00_EMPRESA.EMPRESA = TABCAT.COD_EMPRESA)
-WHERE SC00_EMPRESA.IDEMPRESA = %0:d
-ORDER BY TABCAT.IDTABCAT)";
-constexpr std::string_view EMPREGADOS_DA_EMPRESA = R"(SELECT EMPREGADOS.IDEMPREGADO AS AIDEMPREGADO
-FROM EMPREGADOS
-WHERE EMPREGADOS.IDEMPRESA = %0:d
-ORDER BY EMPREGADOS.IDEMPREGADO)";
-constexpr std::string_view EXAMES_DA_EMPRESA =
-    R"(SELECT FP_EXAMETOXICOLOGICO.IDEXAMETOXICOLOGICO AS AIDEXAMETOXICOLOGICO
-FROM FP_EXAMETOXICOLOGICO
-JOIN EMPREGADOS ON (EMPREGADOS.IDEMPREGADO = FP_EXAMETOXICOLOGICO.IDEMPREGADO)
-WHERE EMPREGADOS.IDEMPRESA = %0:d
-ORDER BY FP_EXAMETOXICOLOGICO.IDEXAMETOXICOLOGICO)";
-constexpr std::string_view CURSOS_DA_EMPRESA = R"(SELECT FP_CURSOEMPREGADO.IDCURSOEMPREGADO AS AIDCURSOEMPREGADO
-FROM FP_CURSOEMPREGADO
-JOIN EMPREGADOS ON (EMPREGADOS.IDEMPREGADO = FP_CURSOEMPREGADO.IDEMPREGADO)
-WHERE EMPREGADOS.IDEMPRESA = %0:d
-ORDER BY FP_CURSOEMPREGADO.IDCURSOEMPREGADO)";
-
-/// The batch of an event whose keys are the rows of a company: Sql lists them, with the company as its argument.
-template <const std::string_view& Sql>
-TLoteDoEvento LoteDaEmpresa()
-{
-    return {{{"IdEmpresa", taId, "código interno da empresa"}},
-            [](const TArgumentosDeEvento& A) { return Format(Sql, A.Id("IdEmpresa")); }};
-}
+constexpr TArgumentoDeEvento TIPO_CONEXAO{
+    "ATipoConexao", taInteiro, "1 folha, 2 Brenco no banco da folha, outro valor Brenco em banco próprio (--brenco)"};
 
 /// A value of a key as text of an argument, and as JSON.
 std::pair<std::string, std::string> LerChave(const TConjuntoDeLinhas& ALinhas, std::size_t ALinha, std::size_t AColuna)
@@ -195,7 +129,8 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
           {"AData", taData, "data de referência"}},
          [](const TArgumentosDeEvento& A) {
              return Evento<tabelas::TTarvoESocialCamposS1005>(A.Id("AIDEstab"), A.Id("AIDDepto"), A.Data("AData"));
-         }},
+         },
+         LoteDaEmpresa<LUGARES_DA_EMPRESA>({{"AData", taData, "data de referência"}})},
         {"S-1010",
          "Tabela de rubricas",
          {{"AIdVerba", taId, "código interno da verba; 0 para uma rubrica de RPA"},
@@ -217,7 +152,8 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
                  A.Id("AIdVerba"), A.Id("AidEmpresa"), A.Id("AIdRubricaRpa"), A.Data("ADataGeracao"), LCodigos.get());
              LEvento.Parametros = LCodigos;
              return LEvento;
-         }},
+         },
+         LoteDaEmpresa<RUBRICAS_DA_EMPRESA, AID_EMPRESA>({{"ADataGeracao", taData, "data de referência"}})},
         {"S-1020",
          "Lotações tributárias",
          {{"AIDEstab", taId, "código interno do estabelecimento"},
@@ -225,13 +161,13 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
           {"AData", taData, "data de referência"}},
          [](const TArgumentosDeEvento& A) {
              return Evento<tabelas::TTarvoESocialCamposS1020>(A.Id("AIDEstab"), A.Id("AIDDepto"), A.Data("AData"));
-         }},
+         },
+         LoteDaEmpresa<LOTACOES_DA_EMPRESA>({{"AData", taData, "data de referência"}})},
         {"S-1030",
          "Cargos e empregos públicos",
          {{"AIDCargosDescr", taId, "código interno do cargo"}},
-         [](const TArgumentosDeEvento& A) {
-             return Evento<tabelas::TTarvoESocialCamposS1030>(A.Id("AIDCargosDescr"));
-         }},
+         [](const TArgumentosDeEvento& A) { return Evento<tabelas::TTarvoESocialCamposS1030>(A.Id("AIDCargosDescr")); },
+         LoteDaEmpresa<CARGOS_DA_EMPRESA>()},
         {"S-1035",
          "Carreiras públicas",
          {{"AIdCargoDescr", taId, "código interno da carreira", true, -1, "AIDCargosDescr"}},
@@ -254,11 +190,13 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
         {"S-1060",
          "Ambientes de trabalho",
          {{"AIdAmbiente", taId, "código interno do ambiente"}},
-         [](const TArgumentosDeEvento& A) { return Evento<tabelas::TTarvoESocialCamposS1060>(A.Id("AIdAmbiente")); }},
+         [](const TArgumentosDeEvento& A) { return Evento<tabelas::TTarvoESocialCamposS1060>(A.Id("AIdAmbiente")); },
+         LoteDaEmpresa<AMBIENTES_DA_EMPRESA>()},
         {"S-1070",
          "Processos administrativos e judiciais",
          {{"AIdProcesso", taId, "código interno do processo"}},
-         [](const TArgumentosDeEvento& A) { return Evento<tabelas::TTarvoESocialCamposS1070>(A.Id("AIdProcesso")); }},
+         [](const TArgumentosDeEvento& A) { return Evento<tabelas::TTarvoESocialCamposS1070>(A.Id("AIdProcesso")); },
+         LoteDaEmpresa<PROCESSOS_DA_EMPRESA>()},
         {"S-1200",
          "Remuneração de trabalhador vinculado ao RGPS",
          {{"IdEmpresa", taId, "código interno da empresa"},
@@ -301,6 +239,25 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
               {"TipoTrabalhador", taInteiro, "0 empregado (padrão), 1 prestador de serviço", false, 1},
               {"DataInicioVigencia", taData, "início do leiaute: o que é anterior vai como pagamento anterior", false}},
              SqlDosCpfs}},
+        {"S-1250",
+         "Aquisição de produção rural",
+         {{"AIDEstabelecimento", taId, "código interno do estabelecimento"},
+          {"ADataInicio", taData, "primeiro dia do período"},
+          {"ADataFim", taData, "último dia do período"},
+          TIPO_CONEXAO},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<rural::TTarvoESocialCamposS1250>(A.Id("AIDEstabelecimento"), A.Data("ADataInicio"),
+                                                            A.Data("ADataFim"),
+                                                            static_cast<TTipoConexao>(A.Inteiro("ATipoConexao")));
+         },
+         LoteDaEmpresa<ESTABELECIMENTOS_DA_EMPRESA>({{"ADataInicio", taData, "primeiro dia do período"},
+                                                     {"ADataFim", taData, "último dia do período"},
+                                                     TIPO_CONEXAO})},
+        {"S-1260",
+         "Comercialização da produção rural própria",
+         {{"AIdFilial", taId, "código interno do estabelecimento"}},
+         [](const TArgumentosDeEvento& A) { return Evento<rural::TTarvoESocialCamposS1260>(A.Id("AIdFilial")); },
+         LoteDaEmpresa<FILIAIS_DA_EMPRESA>()},
         {"S-1280",
          "Informações complementares aos eventos periódicos",
          {{"AIdEmpresa", taId, "código interno da empresa"}, {"ACompetencia", taData, "primeiro dia da competência"}},
@@ -337,7 +294,8 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          {{"AIDEmpregado", taId, "código interno do empregado"}},
          [](const TArgumentosDeEvento& A) {
              return Evento<trabalhador::TTarvoESocialCamposS2190>(A.Id("AIDEmpregado"));
-         }},
+         },
+         LoteDaEmpresaPor(SqlDosTrabalhadores<false>)},
         {"S-2200",
          "Admissão de trabalhador",
          {{"AIDEmpresa", taId, "código interno da empresa"},
@@ -346,19 +304,22 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          [](const TArgumentosDeEvento& A) {
              return Evento<trabalhador::TTarvoESocialCamposS2200>(A.Id("AIDEmpresa"), A.Id("AIDEmpregado"),
                                                                   A.Data("ADataGeracao"));
-         }},
+         },
+         LoteDaEmpresaPor(SqlDosTrabalhadores<false>, {{"ADataGeracao", taData, "data de referência"}}, AID_EMPRESA)},
         {"S-2205",
          "Alteração de dados cadastrais do trabalhador",
          {{"AIDEmpregado", taId, "código interno do empregado"}},
          [](const TArgumentosDeEvento& A) {
              return Evento<trabalhador::TTarvoESocialCamposS2205>(A.Id("AIDEmpregado"));
-         }},
+         },
+         LoteDaEmpresa<EMPREGADOS_DA_EMPRESA>()},
         {"S-2206",
          "Alteração de contrato de trabalho",
          {{"AIDEmpregado", taId, "código interno do empregado"}, {"AData", taData, "data de referência"}},
          [](const TArgumentosDeEvento& A) {
              return Evento<trabalhador::TTarvoESocialCamposS2206>(A.Id("AIDEmpregado"), A.Data("AData"));
-         }},
+         },
+         LoteDaEmpresaPor(SqlDosTrabalhadores<false>, {{"AData", taData, "data de referência"}})},
         {"S-2210",
          "Comunicação de acidente de trabalho",
          {{"AIdTabCat", taId, "código interno da CAT"}},
@@ -383,7 +344,9 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          [](const TArgumentosDeEvento& A) {
              return Evento<trabalhador::TTarvoESocialCamposS2230>(
                  A.Id("AIdSituacao"), static_cast<TTipoEventoS2230>(A.Inteiro("ATipoEvento")));
-         }},
+         },
+         LoteDaEmpresaPor(SqlDosAfastamentos,
+                          {{"ATipoEvento", taInteiro, "1 início do afastamento, 2 término", true, 2}})},
         {"S-2240",
          "Condições ambientais do trabalho: fatores de risco",
          {{"AIdFatRisco", taId, "código interno do fator de risco"}},
@@ -402,13 +365,15 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          {{"AIdAvisoPrevio", taId, "código interno do aviso prévio"}},
          [](const TArgumentosDeEvento& A) {
              return Evento<trabalhador::TTarvoESocialCamposS2250>(A.Id("AIdAvisoPrevio"));
-         }},
+         },
+         LoteDaEmpresa<AVISOS_DA_EMPRESA>()},
         {"S-2260",
          "Convocação para trabalho intermitente",
          {{"AIdEmpregado", taId, "código interno do empregado"}, {"ADataInicio", taData, "data da convocação"}},
          [](const TArgumentosDeEvento& A) {
              return Evento<trabalhador::TTarvoESocialCamposS2260>(A.Id("AIdEmpregado"), A.Data("ADataInicio"));
-         }},
+         },
+         LoteDaEmpresa<CONVOCACOES_DA_EMPRESA>()},
         {"S-2298",
          "Reintegração",
          {{"AIdEmpregado", taId, "código interno do empregado"}},
@@ -433,13 +398,15 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          {{"AIdEmpregado", taId, "código interno do empregado"}, {"ADataGeracao", taData, "data de referência"}},
          [](const TArgumentosDeEvento& A) {
              return Evento<trabalhador::TTarvoESocialCamposS2300>(A.Id("AIdEmpregado"), A.Data("ADataGeracao"));
-         }},
+         },
+         LoteDaEmpresaPor(SqlDosTrabalhadores<true>, {{"ADataGeracao", taData, "data de referência"}})},
         {"S-2306",
          "Trabalhador sem vínculo de emprego, alteração",
          {{"AIdEmpregado", taId, "código interno do empregado"}, {"AData", taData, "data de referência"}},
          [](const TArgumentosDeEvento& A) {
              return Evento<trabalhador::TTarvoESocialCamposS2306>(A.Id("AIdEmpregado"), A.Data("AData"));
-         }},
+         },
+         LoteDaEmpresaPor(SqlDosTrabalhadores<true>, {{"AData", taData, "data de referência"}})},
         {"S-2399",
          "Trabalhador sem vínculo de emprego, término",
          {{"AIdEmpregado", taId, "código interno do empregado"},
@@ -456,7 +423,8 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
         {"S-3000",
          "Exclusão de evento",
          {{"AIdEvento", taId, "código interno do evento enviado"}},
-         [](const TArgumentosDeEvento& A) { return Evento<trabalhador::TTarvoESocialCamposS3000>(A.Id("AIdEvento")); }},
+         [](const TArgumentosDeEvento& A) { return Evento<trabalhador::TTarvoESocialCamposS3000>(A.Id("AIdEvento")); },
+         LoteDaEmpresaPor(SqlDosEventosAceitos)},
     };
     return LCatalogo;
 }
@@ -573,9 +541,8 @@ TArgumentosDeEvento::TArgumentosDeEvento(const std::vector<TArgumentoDeEvento>& 
                 Recusar("não é uma data AAAA-MM-DD");
             break;
         case taCpf:
-            if (LTexto.empty() || !std::all_of(LTexto.begin(), LTexto.end(), [](char AChar) {
-                    return EhDigito(AChar) || AChar == '.' || AChar == '-';
-                }))
+            if (std::none_of(LTexto.begin(), LTexto.end(), EhDigito) ||
+                LTexto.find_first_not_of("0123456789.-") != std::string::npos)
                 Recusar("não é um CPF");
             break;
         case taTexto:

@@ -812,6 +812,8 @@ TOvraConnection::~TOvraConnection()
     } catch (const EDatabaseError&) {
     }
     FImplementacao->EsquecerComandos();
+    if (!FImplementacao->Anexo)
+        return; // its database was deleted
     TStatus LStatus;
     FImplementacao->Anexo->detach(&LStatus);
     if (!LStatus.Falhou())
@@ -835,6 +837,15 @@ void TOvraConnection::CriarBanco(const TParametrosConexao& AParametros)
     LAnexo->detach(&LStatus);
     LStatus.Verificar();
     LAnexo.release();
+}
+
+void TOvraConnection::ApagarBanco(const TParametrosConexao& AParametros)
+{
+    TOvraConnection LConexao(AParametros);
+    TStatus LStatus;
+    LConexao.FImplementacao->Anexo->dropDatabase(&LStatus);
+    LStatus.Verificar();
+    LConexao.FImplementacao->Anexo.release(); // as after a detach
 }
 
 TConjuntoDeLinhas TOvraConnection::Consultar(std::string_view ASql)

@@ -55,6 +55,8 @@ public:
 
     /// Creates an empty database (UTF8, dialect 3); EDatabaseError when the file exists.
     static void CriarBanco(const TParametrosConexao& AParametros);
+    /// Deletes a database, with all its data; EDatabaseError when it can't be opened or somebody else uses it.
+    static void ApagarBanco(const TParametrosConexao& AParametros);
 
     /// Runs a statement that returns rows and reads them all.
     TConjuntoDeLinhas Consultar(std::string_view ASql);

@@ -28,4 +28,12 @@ public:
 /// The database manager of the process.
 const TOvraUtilsDbFirebird& BuscarInstanciaOvraUtilsDbManager();
 
+/// Where the engine keeps the embedded databases' lock files unless FIREBIRD_LOCK says otherwise.
+inline constexpr const char* PASTA_DE_TRAVAS = "/tmp/firebird";
+
+/// For the start of a program, before its first connection and its first thread. The folder of the lock files belongs
+/// to whoever used the engine first on the machine; a user who may not write there gets a folder of their own beside
+/// it, through FIREBIRD_LOCK. Where that fails nothing is set, and the engine's own error tells so.
+void PrepararPastaDeTravas(const std::string& APasta = PASTA_DE_TRAVAS);
+
 } // namespace tarvo

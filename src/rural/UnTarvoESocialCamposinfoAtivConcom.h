@@ -4,8 +4,8 @@
 
 namespace tarvo::rural {
 
-/// S-1280 infoAtivConcom: factor of concurrent activities of the month, of the head office first. Source:
-/// FP_RECEITASIMPLES.
+/// S-1280 infoAtivConcom: factor of concurrent activities of the month, of the establishment with the lowest EHMATRIZ:
+/// a branch that holds 0 goes before the head office, and that is meant. Source: FP_RECEITASIMPLES.
 class TTarvoESocialCamposinfoAtivConcom : public TTarvoESocialCamposGrupoBase {
 public:
     TTarvoESocialCamposinfoAtivConcom(std::int64_t AIdEmpresa, TDateTime ACompt);

@@ -11,6 +11,7 @@
 #include "banco/UnBancoEmbutido.h"
 #include "imports/UnOvraConversoes.h"
 #include "imports/UnOvraScriptSql.h"
+#include "imports/UnTarvoConexaoBrenco.h"
 #include "imports/UnTarvoUtilsDb.h"
 
 namespace tarvo::testes {
@@ -89,15 +90,7 @@ TValorSql::TValorSql(double AValor) : FTexto(FloatToStr(AValor))
 
 TValorSql::TValorSql(TDateTime AData) : FTexto(FormatarDataDB(AData, true)) {}
 
-TValorSql::TValorSql(const char* ATexto) : FTexto("'")
-{
-    for (; *ATexto != '\0'; ++ATexto) {
-        FTexto += *ATexto;
-        if (*ATexto == '\'')
-            FTexto += '\'';
-    }
-    FTexto += "'";
-}
+TValorSql::TValorSql(const char* ATexto) : FTexto(QuotedStr(ATexto)) {}
 
 void Inserir(const char* ATabela, TCamposSql ACampos)
 {
@@ -140,6 +133,18 @@ void TTesteComBanco::TearDown()
 void FecharConexoes() { Conexoes().clear(); }
 
 TOvraConnection& TTesteComBanco::Conexao() { return *Conexoes()[ComExemplo()]; }
+
+TBrencoLigado::TBrencoLigado(TOvraConnection& AConexao)
+{
+    BuscarInstanciaTarvoConexaoBrenco().DefinirConexao(&AConexao);
+    BuscarInstanciaTarvoConexaoBrencoUsuario().DefinirUsuarioTemPermissao(true);
+}
+
+TBrencoLigado::~TBrencoLigado()
+{
+    BuscarInstanciaTarvoConexaoBrenco().DefinirConexao(nullptr);
+    BuscarInstanciaTarvoConexaoBrencoUsuario().DefinirUsuarioTemPermissao(false);
+}
 
 void ConferirArquivo(const std::string& AArquivo, const std::string& ATexto)
 {

@@ -68,6 +68,15 @@ protected:
     bool ComExemplo() const override { return true; }
 };
 
+/// The sibling system on a connection, and the user allowed to read it, as long as this lives.
+class TBrencoLigado {
+public:
+    explicit TBrencoLigado(TOvraConnection& AConexao);
+    TBrencoLigado(const TBrencoLigado&) = delete;
+    TBrencoLigado& operator=(const TBrencoLigado&) = delete;
+    ~TBrencoLigado();
+};
+
 /// Compares a text with a file, whole; with ATUALIZAR_GOLDENS=1 in the environment writes it.
 void ConferirArquivo(const std::string& AArquivo, const std::string& ATexto);
 /// The same for a JSON and the file of that name in goldens/.

@@ -11,6 +11,7 @@ class TTesteGolden : public TTesteComExemplo, public ::testing::WithParamInterfa
 TEST_P(TTesteGolden, Carrega)
 {
     const auto& LCaso = GetParam();
+    const TBrencoLigado LBrenco(Conexao()); // the sibling system's tables of the same database
     const auto LEvento = ConstruirEvento(LCaso.Evento, LCaso.Argumentos);
     LEvento.Evento->CarregarDados();
     ConferirGolden(LCaso.Evento + "/" + LCaso.Nome, LEvento.Evento->ToJson().AsJSON(true));

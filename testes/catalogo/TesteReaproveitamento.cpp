@@ -151,6 +151,7 @@ class TTesteReaproveitamentoDosGoldens : public TTesteComExemplo {};
 
 TEST_F(TTesteReaproveitamentoDosGoldens, OJsonEhOMesmoLigadoEDesligado)
 {
+    const TBrencoLigado LBrenco(Conexao());
     const auto Carregar = [](const TCasoDoGolden& ACaso) {
         const auto LEvento = ConstruirEvento(ACaso.Evento, ACaso.Argumentos);
         LEvento.Evento->CarregarDados();

@@ -1,11 +1,14 @@
 #include <rapidjson/document.h>
 
+#include <filesystem>
 #include <fstream>
 #include <sstream>
 
 #include "apoio/UnBancoDeTeste.h"
 #include "apoio/UnPrograma.h"
+#include "imports/UnOvraConversoes.h"
 #include "imports/UnOvraExcecoes.h"
+#include "tabelas/UnTarvoESocialCamposS1000.h"
 
 // The real program, run as a person would.
 
@@ -68,6 +71,14 @@ TEST(TTestePrograma, UsoErradoDizOQueEstaErradoESaiComDois)
         {S1000({"--sem-grupo", "InfoEmpregador.infoCadastro.NmRazao"}), "não é um grupo"},
         {S1000({"--ambiente", "3"}), "--ambiente é 1"},
         {S1000({"--rastrear", "/nao/existe/rastro"}), "Não foi possível criar o arquivo de rastro"},
+        {S1000({"--compacto=nao"}), "--compacto não leva valor"},
+        {S1000({"--executar=false"}, "reverter"), "--executar não leva valor"},
+        {S1000({"--rastrear", ""}), "--rastrear precisa de exatamente um valor"},
+        {S1000({"--brenco", ""}), "--brenco precisa de exatamente um valor"},
+        {{"lote", "S-1200", "--banco", B, "--parte", ""}, "--parte precisa de exatamente um valor"},
+        {{"carregar", "S-1200", "--banco", B, "--IdEmpresa", "1", "--Cpf", "-.-", "--DataInicio", "2021-03-01",
+          "--DataFim", "2021-03-31"},
+         "'-.-' não é um CPF"},
         {S1000({"--executar"}), "Argumento desconhecido: '--executar'"},
         {S1000({"--definir", "InfoEmpregador"}, "reverter"), "CAMINHO=VALOR"},
         {S1000({"--definir", "Nada.x=1"}, "reverter"), "não existe 'Nada'"},
@@ -91,16 +102,40 @@ TEST(TTestePrograma, UsoErradoDizOQueEstaErradoESaiComDois)
 TEST(TTestePrograma, FalhaDaCargaSaiComUmENadaNaSaidaPadrao)
 {
     const auto LFalta = ParametrosDoBanco("nao-existe.fdb").BancoDeDados;
-    for (const auto& LArgumentos : {std::vector<std::string>{"carregar", "S-1000", "--banco", LFalta, "--AIDEmpresa",
-                                                             "1", "--AData", "2021-03-01"},
-                                    S1000({"--brenco", LFalta}),
-                                    {"criar-banco", "--banco", Banco()}}) {
+    const std::pair<std::vector<std::string>, const char*> LCasos[] = {
+        {{"carregar", "S-1000", "--banco", LFalta, "--AIDEmpresa", "1", "--AData", "2021-03-01"}, "nao-existe.fdb"},
+        {S1000({"--brenco", LFalta}), "nao-existe.fdb"},
+        {{"criar-banco", "--banco", Banco()}, "programa.fdb"},
+    };
+    for (const auto& [LArgumentos, LTexto] : LCasos) {
         const auto LSaida = Rodar(LArgumentos);
         EXPECT_EQ(1, LSaida.Codigo);
         EXPECT_EQ("", LSaida.Padrao);
-        EXPECT_NE("", LSaida.Erros);
+        EXPECT_NE(std::string::npos, LSaida.Erros.find(LTexto)) << LSaida.Erros;
     }
     EXPECT_EQ(0, Rodar(S1000()).Codigo); // the refused criar-banco left the database as it was
+}
+
+TEST(TTestePrograma, OSistemaIrmaoVemDeOutroBancoOuDoMesmo)
+{
+    const auto Compras = [](const char* ATipoConexao, const std::vector<std::string>& AMais = {}) {
+        std::vector<std::string> LArgumentos{
+            "carregar",      "S-1250",     "--banco",    Banco(),      "--AIDEstabelecimento", "8101",
+            "--ADataInicio", "2021-03-01", "--ADataFim", "2021-03-31", "--ATipoConexao",       ATipoConexao};
+        LArgumentos.insert(LArgumentos.end(), AMais.begin(), AMais.end());
+        return Rodar(LArgumentos);
+    };
+    const auto Golden = [](const std::string& ANome) {
+        return LerArquivo(std::string(PASTA_DOS_GOLDENS) + "/S-1250/" + ANome + ".json");
+    };
+    const auto LIrmao = CriarBancoDeTeste("programa-brenco.fdb", true).BancoDeDados;
+    EXPECT_EQ(Golden("folha"), Compras("1").Padrao);
+    EXPECT_EQ(Golden("brenco"), Compras("2", {"--brenco", Banco()}).Padrao);
+    EXPECT_EQ(Golden("externo"), Compras("2", {"--brenco", LIrmao}).Padrao);
+    const auto LSemIrmao = Compras("2");
+    EXPECT_EQ(1, LSemIrmao.Codigo);
+    EXPECT_EQ("", LSemIrmao.Padrao);
+    EXPECT_NE(std::string::npos, LSemIrmao.Erros.find("ideEstabAdquir")) << LSemIrmao.Erros;
 }
 
 TEST(TTestePrograma, CarregaEMostraOJson)
@@ -149,6 +184,53 @@ TEST(TTestePrograma, GruposEscolhidosERastro)
     ASSERT_EQ(8U, LComandos.size());
     EXPECT_EQ("SELECT SC00_EMPRESA.TPINSCRICAO, SC00_EMPRESA.CNPJ\nFROM SC00_EMPRESA\nWHERE SC00_EMPRESA.IDEMPRESA = 1",
               LComandos.front());
+}
+
+TEST(TTestePrograma, ORastroNaoApagaBancoNemOutroArquivo)
+{
+    namespace fs = std::filesystem;
+    // The file itself, where a server on this machine holds it.
+    const fs::path LArquivo = Banco().substr(Banco().find(":/") + 1);
+    const auto LPasta = LArquivo.parent_path();
+    const auto LTamanho = fs::file_size(LArquivo);
+    fs::create_symlink(LArquivo, LPasta / "atalho");
+    fs::create_hard_link(LArquivo, LPasta / "outro-nome.fdb");
+    std::ofstream(LPasta / "folha.txt") << "{\"sq: salários\n";
+    const auto LNovo = ParametrosDoBanco("novo.fdb").BancoDeDados;
+    const std::pair<std::vector<std::string>, fs::path> LCasos[] = {
+        {{}, LArquivo},
+        {{}, LPasta / ".." / LPasta.filename() / "programa.fdb"},
+        {{}, fs::relative(LArquivo)},
+        {{}, LPasta / "atalho"},
+        {{}, LPasta / "outro-nome.fdb"},
+        {{"--brenco", Banco()}, LArquivo},
+        {{}, LPasta / "folha.txt"},
+    };
+    for (const auto& [LMais, LRastro] : LCasos) {
+        auto LArgumentos = S1000({"--rastrear", LRastro});
+        LArgumentos.insert(LArgumentos.end(), LMais.begin(), LMais.end());
+        const auto LSaida = Rodar(LArgumentos);
+        EXPECT_EQ(2, LSaida.Codigo) << LRastro;
+        EXPECT_EQ("", LSaida.Padrao) << LRastro;
+        EXPECT_NE(std::string::npos, LSaida.Erros.find("O rastro apagaria o ")) << LRastro << LSaida.Erros;
+        EXPECT_EQ(LTamanho, fs::file_size(LArquivo)) << LRastro;
+    }
+    EXPECT_EQ("{\"sq: salários\n", LerArquivo(LPasta / "folha.txt"));
+    // A database that isn't there yet is none to write a trace to either.
+    if (LNovo.find(":/") == std::string::npos) {
+        EXPECT_EQ(2, Rodar({"carregar", "S-1000", "--banco", LNovo, "--rastrear", LPasta / "." / "novo.fdb",
+                            "--AIDEmpresa", "1", "--AData", "2021-03-01"})
+                         .Codigo);
+        EXPECT_FALSE(fs::exists(LNovo));
+    }
+    // A former trace is written anew, and so is an empty file.
+    std::ofstream(LPasta / "rastro").flush();
+    for (int i = 0; i < 2; ++i) {
+        const auto LSaida = Rodar(S1000({"--rastrear", LPasta / "rastro"}));
+        EXPECT_EQ(0, LSaida.Codigo) << LSaida.Erros;
+        const auto LTexto = LerArquivo(LPasta / "rastro");
+        EXPECT_EQ(8, std::count(LTexto.begin(), LTexto.end(), '\n'));
+    }
 }
 
 TEST(TTestePrograma, ReverteEmTudoOuNada)
@@ -230,7 +312,8 @@ TEST(TTestePrograma, AjudaEEventosEmPortugues)
 {
     for (const auto& LArgumentos : {std::vector<std::string>{"--ajuda"},
                                     {"carregar", "-h"},
-                                    {"carregar", "S-1000", "--help"},
+                                    {"lote", "--AJUDA"},
+                                    {"carregar", "S-1000", "--HELP"},
                                     {"reverter", "--ajuda"},
                                     {"eventos", "--ajuda"},
                                     {"criar-banco", "--ajuda"}}) {
@@ -247,6 +330,19 @@ TEST(TTestePrograma, AjudaEEventosEmPortugues)
     EXPECT_NE(std::string::npos, Rodar({"eventos", "s-1000"}).Padrao.find("data de referência"));
 }
 
+TEST(TTestePrograma, SenhaErradaFalhaComOTextoDoServidor)
+{
+    const auto LSaida = Rodar(S1000({"--senha", "errada"}));
+    // The embedded engine trusts whoever may read the file.
+    if (std::getenv("TESTES_LIGACAO") == nullptr) {
+        EXPECT_EQ(0, LSaida.Codigo) << LSaida.Erros;
+        return;
+    }
+    EXPECT_EQ(1, LSaida.Codigo);
+    EXPECT_EQ("", LSaida.Padrao);
+    EXPECT_NE(std::string::npos, LSaida.Erros.find("user name and password are not defined")) << LSaida.Erros;
+}
+
 /// The engine itself ends the connection in the middle of a load.
 TEST(TTesteConexaoPerdida, CargaFalhaComOTextoDoMotorEOProcessoSegue)
 {
@@ -256,23 +352,30 @@ TEST(TTesteConexaoPerdida, CargaFalhaComOTextoDoMotorEOProcessoSegue)
         TOvraConnection LConexao(LParametros);
         DefinirOvraConnection(&LConexao);
         const auto LId = Consultar("SELECT CURRENT_CONNECTION FROM RDB$DATABASE");
+        tabelas::TTarvoESocialCamposS1000 LEvento(1, D(2021, 3, 1));
+        // After the first statement of the event; the engine takes a moment to end it.
         LConexao.DefinirObservador([&, LFeito = false](const TExecucaoSql&) mutable {
             if (!LFeito)
                 LOutra.ExecutouSQL({"DELETE FROM MON$ATTACHMENTS WHERE MON$ATTACHMENT_ID = " + LId}, true);
             LFeito = true;
         });
-        Consultar("SELECT 1 FROM RDB$DATABASE");
-        EXPECT_THROW(
-            {
-                for (int i = 0; i < 1000; ++i)
-                    Consultar("SELECT COUNT(*) FROM TAB_VERBAS");
-            },
-            EDatabaseError);
-        EXPECT_THROW(Consultar("SELECT 1 FROM RDB$DATABASE"), EDatabaseError);
+        try {
+            for (int i = 0; i < 1000; ++i)
+                LEvento.CarregarDados();
+            ADD_FAILURE() << "a conexão continua";
+        } catch (const EDatabaseError& LErro) {
+            EXPECT_NE(0, LErro.Codigo());
+            EXPECT_NE(std::string::npos, Minusculas(LErro.what()).find("connection")) << LErro.what();
+        }
+        // What was read stays, and the tree fails in the same way as often as it is asked.
+        EXPECT_EQ("45987321000160", LEvento.IdeEmpregador.Inscricao);
+        EXPECT_THROW(LEvento.CarregarDados(), EDatabaseError);
     }
     TOvraConnection LNova(LParametros);
     DefinirOvraConnection(&LNova);
-    EXPECT_EQ("1", Consultar("SELECT 1 FROM RDB$DATABASE"));
+    tabelas::TTarvoESocialCamposS1000 LEvento(1, D(2021, 3, 1));
+    LEvento.CarregarDados();
+    EXPECT_EQ("Agroindústria Ipê Amarelo Ltda.", LEvento.InfoEmpregador.infoCadastro.NmRazao);
     DefinirOvraConnection(nullptr);
 }
 

@@ -179,7 +179,12 @@ TEST_F(TTesteGrupoBase, ConversorProprioPrecisaDeRegistro)
     Grupo.RegistrarConversor(ClasseConversor<TConversorDoTeste>());
     Carregar("CAST(' a ' AS CHAR(8)) AS CONVERTIDO");
     EXPECT_EQ("<a>", Grupo.Convertido);
-    EXPECT_THROW(Grupo.RegistrarConversor(ClasseConversor<TConversorDoTeste>()), EListError);
+    try {
+        Grupo.RegistrarConversor(ClasseConversor<TConversorDoTeste>());
+        ADD_FAILURE();
+    } catch (const EListError& LErro) {
+        EXPECT_STREQ("Chave duplicada: conversor TConversorDoTeste", LErro.what());
+    }
     EXPECT_THROW(TTarvoESocialCamposConversorAbstrato().BuscarValor("a"), EAbstractError);
 }
 

@@ -234,6 +234,17 @@ TEST_F(OvraDataSet, ExecutouSqlConfirmaOuDesfaz)
     EXPECT_TRUE(LOutra.ExecutouSQL({"UPDATE T SET ID = 8 WHERE ID = 1"}, true).Sucesso);
 }
 
+TEST_F(OvraDataSet, BancoApagadoPodeSerCriadoDeNovo)
+{
+    const auto LParametros = ParametrosDoBanco("apagado.fdb");
+    EXPECT_THROW(TOvraConnection::ApagarBanco(LParametros), EDatabaseError);
+    for (int i = 0; i < 2; ++i) {
+        TOvraConnection::CriarBanco(LParametros);
+        TOvraConnection::ApagarBanco(LParametros);
+        EXPECT_THROW(TOvraConnection{LParametros}, EDatabaseError);
+    }
+}
+
 TEST_F(OvraDataSet, ObservadorVeCadaComandoUmaVez)
 {
     std::vector<std::pair<std::string, std::int64_t>> LVistos;
