@@ -59,12 +59,12 @@ using enum TTipoArgumento;
 
 /// An event whose constructor takes everything and that needs no parameter object.
 template <class T, class... A>
-TEventoConstruido Evento(const A&... AArgumentos)
+TEventoConstruidoDe<T> Evento(const A&... AArgumentos)
 {
     return {nullptr, std::make_unique<T>(AArgumentos...)};
 }
 
-TEventoConstruido EventoS1210(const TArgumentosDeEvento& A)
+TEventoConstruidoDe<pagamento::TTarvoESocialCamposS1210> EventoS1210(const TArgumentosDeEvento& A)
 {
     auto LInfoBind = std::make_shared<pagamento::TTarvoESocialCamposS1210IOP>();
     LInfoBind->IdEmpresa = A.Id("IdEmpresa");
@@ -212,7 +212,8 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
              LParametros->SetDataFim(A.Data("DataFim"));
              LParametros->SetIndApuracao(static_cast<tpIndApuracao>(A.Inteiro("IndApuracao")));
              auto LEvento = std::make_unique<remuneracao::TTarvoESocialCamposS1200>(*LParametros);
-             return TEventoConstruido{std::move(LParametros), std::move(LEvento)};
+             return TEventoConstruidoDe<remuneracao::TTarvoESocialCamposS1200>{std::move(LParametros),
+                                                                               std::move(LEvento)};
          },
          TLoteDoEvento{{{"IdEmpresa", taId, "código interno da empresa"},
                         {"DataInicio", taData, "primeiro dia do mês"},
@@ -427,6 +428,28 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          LoteDaEmpresaPor(SqlDosEventosAceitos)},
     };
     return LCatalogo;
+}
+
+TEventoConstruido TConstrutorDeEvento::operator()(const TArgumentosDeEvento& AArgumentos) const
+{
+    return FConstruir(AArgumentos);
+}
+
+const char* ExemploDoTipo(TTipoArgumento ATipo)
+{
+    switch (ATipo) {
+    case taId:
+        return "ID";
+    case taInteiro:
+        return "NUMERO";
+    case taData:
+        return "AAAA-MM-DD";
+    case taCpf:
+        return "CPF";
+    case taTexto:
+        return "TEXTO";
+    }
+    return "VALOR";
 }
 
 const TEventoDoCatalogo& BuscarEventoDoCatalogo(std::string_view ACodigo)

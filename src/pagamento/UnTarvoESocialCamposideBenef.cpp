@@ -16,7 +16,7 @@ TTarvoESocialCamposideBenef::TTarvoESocialCamposideBenef(TTarvoESocialCamposS121
       FInfoBind(AInfoBind)
 {}
 
-const TPropriedades& TTarvoESocialCamposideBenef::Propriedades() const
+const TPropriedades& TTarvoESocialCamposideBenef::Tabela()
 {
     using Eu = TTarvoESocialCamposideBenef;
     static const TPropriedades tabela{

@@ -56,7 +56,7 @@ TTarvoESocialCamposS1250::TTarvoESocialCamposS1250(std::int64_t AIDEstabelecimen
         ideEstabAdquir = CriarIdeEstabAdquirExterno(AIDEstabelecimento, ADataInicio, ADataFim, ATipoConexao);
 }
 
-const TPropriedades& TTarvoESocialCamposS1250::Propriedades() const
+const TPropriedades& TTarvoESocialCamposS1250::Tabela()
 {
     static const TPropriedades tabela{{"ideEstabAdquir", &TTarvoESocialCamposS1250::ideEstabAdquir}};
     return tabela;

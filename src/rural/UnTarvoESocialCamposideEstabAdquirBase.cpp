@@ -10,7 +10,7 @@ TTarvoESocialCamposideEstabAdquirBase::TTarvoESocialCamposideEstabAdquirBase(std
       FTipoConexao(ATipoConexao)
 {}
 
-const TPropriedades& TTarvoESocialCamposideEstabAdquirBase::Propriedades() const
+const TPropriedades& TTarvoESocialCamposideEstabAdquirBase::Tabela()
 {
     using Eu = TTarvoESocialCamposideEstabAdquirBase;
     static const TPropriedades tabela{

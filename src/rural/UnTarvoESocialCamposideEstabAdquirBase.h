@@ -13,11 +13,13 @@ public:
     /// Each load adds to it.
     TListaDeGrupos<TTarvoESocialCampostpAquisBase> tpAquis;
 
+    static const TPropriedades& Tabela();
+
 protected:
     TTarvoESocialCamposideEstabAdquirBase(std::int64_t AIDEstabelecimento, TDateTime ADataInicio, TDateTime ADataFim,
                                           TTipoConexao ATipoConexao);
 
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     /// VALOR and PRODUCAOISENTA of each kind of acquisition.
     virtual std::string BuscarSqlTpAquis();
 

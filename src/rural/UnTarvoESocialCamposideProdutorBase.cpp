@@ -11,7 +11,7 @@ TTarvoESocialCamposideProdutorBase::TTarvoESocialCamposideProdutorBase(std::int6
       FExisteProcessoAdquirente(AExisteProcessoAdquirente), FProducaoIsenta(AProducaoIsenta)
 {}
 
-const TPropriedades& TTarvoESocialCamposideProdutorBase::Propriedades() const
+const TPropriedades& TTarvoESocialCamposideProdutorBase::Tabela()
 {
     using Eu = TTarvoESocialCamposideProdutorBase;
     static const TPropriedades tabela{

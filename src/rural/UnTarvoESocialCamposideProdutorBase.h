@@ -23,6 +23,8 @@ public:
     /// Processes of the producer; each load adds to them.
     TListaDeGrupos<TTarvoESocialCamposinfoProcJud> infoProcJud;
 
+    static const TPropriedades& Tabela();
+
 protected:
     /// ACNPJ is the inscription as the source has it; AExisteProcessoAdquirente says that the acquirer itself has a
     /// process.
@@ -30,7 +32,7 @@ protected:
                                        TDateTime ADataFim, bool AExisteProcessoAdquirente,
                                        std::int32_t AProducaoIsenta);
 
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     virtual void CarregarInfoProcJud();
     virtual void CarregarValoresRetencao();
 

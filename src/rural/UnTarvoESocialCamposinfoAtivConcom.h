@@ -14,8 +14,10 @@ public:
     /// The same column as fatorMes.
     double fator13 = 0;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

@@ -10,7 +10,7 @@ TTarvoESocialCamposinfoProcBase::TTarvoESocialCamposinfoProcBase(const TTarvoESo
     : TTarvoESocialCamposGrupoBase("{4B4BF030-F2DA-4521-B290-0BB81EF9EF85}"), FDados(ADados)
 {}
 
-const TPropriedades& TTarvoESocialCamposinfoProcBase::Propriedades() const
+const TPropriedades& TTarvoESocialCamposinfoProcBase::Tabela()
 {
     using Eu = TTarvoESocialCamposinfoProcBase;
     static const TPropriedades tabela{

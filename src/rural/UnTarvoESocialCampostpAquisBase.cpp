@@ -20,7 +20,7 @@ TTarvoESocialCampostpAquisBase::TTarvoESocialCampostpAquisBase(std::int64_t AIDE
       FProducaoIsenta(AProducaoIsenta), FDadosProcessosAdquirente(CriarOvraClientDataset())
 {}
 
-const TPropriedades& TTarvoESocialCampostpAquisBase::Propriedades() const
+const TPropriedades& TTarvoESocialCampostpAquisBase::Tabela()
 {
     using Eu = TTarvoESocialCampostpAquisBase;
     static const TPropriedades tabela{

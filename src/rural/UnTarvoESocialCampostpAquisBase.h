@@ -20,11 +20,13 @@ public:
     /// The group's own load, then the processes of the acquirer, which the producers must know of.
     void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
 
+    static const TPropriedades& Tabela();
+
 protected:
     TTarvoESocialCampostpAquisBase(std::int64_t AIDEstabelecimento, TDateTime ADataInicio, TDateTime ADataFim,
                                    std::int32_t AProducaoIsenta);
 
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     /// Opens FDadosProcessosAdquirente with the processes of the establishment's own.
     virtual void CarreagarProcessosAdquirente();
 

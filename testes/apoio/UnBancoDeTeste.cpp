@@ -153,19 +153,24 @@ TBrencoLigado::~TBrencoLigado()
     BuscarInstanciaTarvoConexaoBrencoUsuario().DefinirUsuarioTemPermissao(false);
 }
 
-void ConferirGolden(const std::string& ANome, const std::string& AJson)
+void ConferirArquivo(const std::string& AArquivo, const std::string& ATexto)
 {
-    const fs::path LArquivo = fs::path(PASTA_DOS_GOLDENS) / (ANome + ".json");
+    const fs::path LArquivo(AArquivo);
     if (!DoAmbiente("ATUALIZAR_GOLDENS", "").empty()) {
         fs::create_directories(LArquivo.parent_path());
-        std::ofstream(LArquivo) << AJson << '\n';
+        std::ofstream(LArquivo) << ATexto;
         return;
     }
     std::ifstream LEntrada(LArquivo);
-    ASSERT_TRUE(LEntrada) << "Falta o golden " << LArquivo;
+    ASSERT_TRUE(LEntrada) << "Falta o arquivo " << LArquivo;
     std::stringstream LEsperado;
     LEsperado << LEntrada.rdbuf();
-    EXPECT_EQ(LEsperado.str(), AJson + '\n') << LArquivo;
+    EXPECT_EQ(LEsperado.str(), ATexto) << LArquivo;
+}
+
+void ConferirGolden(const std::string& ANome, const std::string& AJson)
+{
+    ConferirArquivo(std::string(PASTA_DOS_GOLDENS) + "/" + ANome + ".json", AJson + '\n');
 }
 
 } // namespace tarvo::testes

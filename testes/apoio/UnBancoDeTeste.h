@@ -77,7 +77,9 @@ public:
     ~TBrencoLigado();
 };
 
-/// Compares a JSON with the file of that name in goldens/; with ATUALIZAR_GOLDENS=1 in the environment writes it.
+/// Compares a text with a file, whole; with ATUALIZAR_GOLDENS=1 in the environment writes it.
+void ConferirArquivo(const std::string& AArquivo, const std::string& ATexto);
+/// The same for a JSON and the file of that name in goldens/.
 void ConferirGolden(const std::string& ANome, const std::string& AJson);
 
 } // namespace tarvo::testes

@@ -86,6 +86,8 @@ TEST(TTestePrograma, UsoErradoDizOQueEstaErradoESaiComDois)
          "não é uma data"},
         {{"reverter", "S-2200", "--banco", B}, "desconhecido: 'S-2200'"},
         {{"eventos", "S-0"}, "Evento desconhecido"},
+        {{"eventos", "--esquema"}, "Falta informar o evento"},
+        {{"eventos", "S-1000", "--esquema", "--markdown"}, "só uma das opções"},
         {{"criar-banco"}, "Falta informar --banco"},
     };
     for (const auto& [LArgumentos, LTexto] : LCasos) {
