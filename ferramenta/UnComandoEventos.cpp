@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "catalogo/UnTarvoESocialCamposReferencia.h"
 #include "ferramenta/UnCarga.h"
 #include "ferramenta/UnComandos.h"
 #include "ferramenta/UnErros.h"
@@ -16,8 +17,7 @@ std::string Resumo(const TEventoDoCatalogo& AEvento)
     if (AEvento.Argumentos.empty())
         LTexto += " (sem argumentos)";
     for (const auto& LArgumento : AEvento.Argumentos) {
-        const auto LOpcao =
-            std::string("--") + LArgumento.Nome + " " + ExemploDoTipo(static_cast<int>(LArgumento.Tipo));
+        const auto LOpcao = std::string("--") + LArgumento.Nome + " " + ExemploDoTipo(LArgumento.Tipo);
         LTexto += LArgumento.Obrigatorio ? " " + LOpcao : " [" + LOpcao + "]";
     }
     return LTexto + "\n";
@@ -29,6 +29,32 @@ std::string Detalhe(const TEventoDoCatalogo& AEvento)
     for (const auto& LArgumento : AEvento.Argumentos)
         LTexto += std::string("        --") + LArgumento.Nome + ": " + LArgumento.Descricao +
                   (LArgumento.Obrigatorio ? "\n" : " (opcional)\n");
+    return LTexto + "\n" + ArvoreDoEvento(AEvento);
+}
+
+struct TOpcoes {
+    std::string Evento;
+    bool Markdown = false;
+    bool Esquema = false;
+};
+
+std::string Mostrar(const TOpcoes& AOpcoes)
+{
+    if (AOpcoes.Markdown && AOpcoes.Esquema)
+        throw EUsoErrado("Informe só uma das opções: --markdown ou --esquema");
+    if (!AOpcoes.Evento.empty()) {
+        const auto& LEvento = BuscarEventoDoCatalogo(AOpcoes.Evento);
+        if (AOpcoes.Esquema)
+            return EsquemaDoEvento(LEvento) + "\n";
+        return AOpcoes.Markdown ? PaginaDoEvento(LEvento) : Detalhe(LEvento);
+    }
+    if (AOpcoes.Esquema)
+        throw EUsoErrado("Falta informar o evento (S-1000, ...) do esquema");
+    if (AOpcoes.Markdown)
+        return IndiceDasPaginas();
+    std::string LTexto;
+    for (const auto& LItem : CatalogoDeEventos())
+        LTexto += Resumo(LItem);
     return LTexto;
 }
 
@@ -36,18 +62,14 @@ std::string Detalhe(const TEventoDoCatalogo& AEvento)
 
 void RegistrarEventos(CLI::App& AApp, TComandos& AComandos)
 {
-    auto LEvento = std::make_shared<std::string>();
-    auto& LApp = AdicionarComando(AApp, AComandos, "eventos", "mostra os eventos e os seus argumentos",
-                                  "esocial-campos eventos [EVENTO]");
-    LApp.add_option("EVENTO", *LEvento, "um evento só, com a explicação de cada argumento")->type_name("");
-    AComandos.back().Executar = [LEvento] {
-        std::string LTexto;
-        if (!LEvento->empty())
-            LTexto = Detalhe(BuscarEventoDoCatalogo(*LEvento));
-        else
-            for (const auto& LItem : CatalogoDeEventos())
-                LTexto += Resumo(LItem);
-        EscreverResultado(LTexto);
+    auto LOpcoes = std::make_shared<TOpcoes>();
+    auto& LApp = AdicionarComando(AApp, AComandos, "eventos", "mostra os eventos, os seus argumentos e os seus campos",
+                                  "esocial-campos eventos [EVENTO] [--markdown|--esquema]");
+    LApp.add_option("EVENTO", LOpcoes->Evento, "um evento só, com cada argumento e cada campo")->type_name("");
+    AdicionarChave(LApp, "--markdown", LOpcoes->Markdown, "mostra a página do evento, ou o índice das páginas");
+    AdicionarChave(LApp, "--esquema", LOpcoes->Esquema, "mostra o esquema JSON (draft 4) do evento");
+    AComandos.back().Executar = [LOpcoes] {
+        EscreverResultado(Mostrar(*LOpcoes));
         return SAIDA_FEITO;
     };
 }

@@ -26,23 +26,6 @@ void AdicionarChave(CLI::App& AComando, const std::string& ANome, bool& AValor, 
 
 std::string ConferirValor(const std::string& AValor) { return AValor.empty() ? "vazio" : ""; }
 
-const char* ExemploDoTipo(int ATipo)
-{
-    switch (static_cast<TTipoArgumento>(ATipo)) {
-    case TTipoArgumento::taId:
-        return "ID";
-    case TTipoArgumento::taInteiro:
-        return "NUMERO";
-    case TTipoArgumento::taData:
-        return "AAAA-MM-DD";
-    case TTipoArgumento::taCpf:
-        return "CPF";
-    case TTipoArgumento::taTexto:
-        return "TEXTO";
-    }
-    return "VALOR";
-}
-
 void AdicionarEventos(
     CLI::App& AComando, TEventoDaLinha& AEvento, const std::function<bool(const TEventoDoCatalogo&)>& AAceita,
     const std::function<const std::vector<TArgumentoDeEvento>&(const TEventoDoCatalogo&)>& AArgumentos)
@@ -61,7 +44,7 @@ void AdicionarEventos(
                 LNomes += std::string(",--") + LArgumento.OutroNome;
             LApp.add_option(LNomes, LValores[LArgumento.Nome], LArgumento.Descricao)
                 ->ignore_case()
-                ->type_name(ExemploDoTipo(static_cast<int>(LArgumento.Tipo)));
+                ->type_name(ExemploDoTipo(LArgumento.Tipo));
         }
         AEvento.Eventos[LEvento.Codigo] = &LApp;
     }

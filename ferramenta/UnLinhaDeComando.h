@@ -56,7 +56,4 @@ void AdicionarEventos(
     CLI::App& AComando, TEventoDaLinha& AEvento, const std::function<bool(const TEventoDoCatalogo&)>& AAceita = {},
     const std::function<const std::vector<TArgumentoDeEvento>&(const TEventoDoCatalogo&)>& AArgumentos = {});
 
-/// The example of an argument's value: "ID", "AAAA-MM-DD".
-const char* ExemploDoTipo(int ATipo);
-
 } // namespace tarvo::ferramenta

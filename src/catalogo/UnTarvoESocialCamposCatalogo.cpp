@@ -14,6 +14,8 @@
 #include "imports/UnTarvoUtilsDb.h"
 #include "pagamento/UnTarvoESocialCamposS1210.h"
 #include "remuneracao/UnTarvoESocialCamposS1200.h"
+#include "rural/UnTarvoESocialCamposS1250.h"
+#include "rural/UnTarvoESocialCamposS1260.h"
 #include "rural/UnTarvoESocialCamposS1280.h"
 #include "rural/UnTarvoESocialCamposS1295.h"
 #include "rural/UnTarvoESocialCamposS1298.h"
@@ -53,19 +55,16 @@ namespace {
 
 using namespace catalogo;
 
-/// The company, where the event takes it itself.
-constexpr char AID_EMPRESA[] = "AIDEmpresa";
-
 using enum TTipoArgumento;
 
 /// An event whose constructor takes everything and that needs no parameter object.
 template <class T, class... A>
-TEventoConstruido Evento(const A&... AArgumentos)
+TEventoConstruidoDe<T> Evento(const A&... AArgumentos)
 {
     return {nullptr, std::make_unique<T>(AArgumentos...)};
 }
 
-TEventoConstruido EventoS1210(const TArgumentosDeEvento& A)
+TEventoConstruidoDe<pagamento::TTarvoESocialCamposS1210> EventoS1210(const TArgumentosDeEvento& A)
 {
     auto LInfoBind = std::make_shared<pagamento::TTarvoESocialCamposS1210IOP>();
     LInfoBind->IdEmpresa = A.Id("IdEmpresa");
@@ -94,6 +93,9 @@ TDateTime LerDataIso(std::string_view ATexto)
     const int LDia = LParte(8, 2);
     return DataValida(LAno, LMes, LDia) ? EncodeDate(LAno, LMes, LDia) : TDateTime();
 }
+
+constexpr TArgumentoDeEvento TIPO_CONEXAO{
+    "ATipoConexao", taInteiro, "1 folha, 2 Brenco no banco da folha, outro valor Brenco em banco próprio (--brenco)"};
 
 /// A value of a key as text of an argument, and as JSON.
 std::pair<std::string, std::string> LerChave(const TConjuntoDeLinhas& ALinhas, std::size_t ALinha, std::size_t AColuna)
@@ -210,7 +212,8 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
              LParametros->SetDataFim(A.Data("DataFim"));
              LParametros->SetIndApuracao(static_cast<tpIndApuracao>(A.Inteiro("IndApuracao")));
              auto LEvento = std::make_unique<remuneracao::TTarvoESocialCamposS1200>(*LParametros);
-             return TEventoConstruido{std::move(LParametros), std::move(LEvento)};
+             return TEventoConstruidoDe<remuneracao::TTarvoESocialCamposS1200>{std::move(LParametros),
+                                                                               std::move(LEvento)};
          },
          TLoteDoEvento{{{"IdEmpresa", taId, "código interno da empresa"},
                         {"DataInicio", taData, "primeiro dia do mês"},
@@ -236,6 +239,25 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
               {"TipoTrabalhador", taInteiro, "0 empregado (padrão), 1 prestador de serviço", false, 1},
               {"DataInicioVigencia", taData, "início do leiaute: o que é anterior vai como pagamento anterior", false}},
              SqlDosCpfs}},
+        {"S-1250",
+         "Aquisição de produção rural",
+         {{"AIDEstabelecimento", taId, "código interno do estabelecimento"},
+          {"ADataInicio", taData, "primeiro dia do período"},
+          {"ADataFim", taData, "último dia do período"},
+          TIPO_CONEXAO},
+         [](const TArgumentosDeEvento& A) {
+             return Evento<rural::TTarvoESocialCamposS1250>(A.Id("AIDEstabelecimento"), A.Data("ADataInicio"),
+                                                            A.Data("ADataFim"),
+                                                            static_cast<TTipoConexao>(A.Inteiro("ATipoConexao")));
+         },
+         LoteDaEmpresa<ESTABELECIMENTOS_DA_EMPRESA>({{"ADataInicio", taData, "primeiro dia do período"},
+                                                     {"ADataFim", taData, "último dia do período"},
+                                                     TIPO_CONEXAO})},
+        {"S-1260",
+         "Comercialização da produção rural própria",
+         {{"AIdFilial", taId, "código interno do estabelecimento"}},
+         [](const TArgumentosDeEvento& A) { return Evento<rural::TTarvoESocialCamposS1260>(A.Id("AIdFilial")); },
+         LoteDaEmpresa<FILIAIS_DA_EMPRESA>()},
         {"S-1280",
          "Informações complementares aos eventos periódicos",
          {{"AIdEmpresa", taId, "código interno da empresa"}, {"ACompetencia", taData, "primeiro dia da competência"}},
@@ -266,14 +288,15 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          {{"AIDEmpregado", taId, "código interno do empregado"}, {"ADataGeracao", taData, "data de referência"}},
          [](const TArgumentosDeEvento& A) {
              return Evento<trabalhador::TTarvoESocialCamposS2100>(A.Id("AIDEmpregado"), A.Data("ADataGeracao"));
-         }},
+         },
+         LoteDaEmpresaPor(SqlDosTrabalhadores<false>, {{"ADataGeracao", taData, "data de referência"}})},
         {"S-2190",
          "Admissão de trabalhador, registro preliminar",
          {{"AIDEmpregado", taId, "código interno do empregado"}},
          [](const TArgumentosDeEvento& A) {
              return Evento<trabalhador::TTarvoESocialCamposS2190>(A.Id("AIDEmpregado"));
          },
-         LoteDaEmpresa<VINCULADOS_DA_EMPRESA>()},
+         LoteDaEmpresaPor(SqlDosTrabalhadores<false>)},
         {"S-2200",
          "Admissão de trabalhador",
          {{"AIDEmpresa", taId, "código interno da empresa"},
@@ -283,7 +306,7 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
              return Evento<trabalhador::TTarvoESocialCamposS2200>(A.Id("AIDEmpresa"), A.Id("AIDEmpregado"),
                                                                   A.Data("ADataGeracao"));
          },
-         LoteDaEmpresa<VINCULADOS_DA_EMPRESA, AID_EMPRESA>({{"ADataGeracao", taData, "data de referência"}})},
+         LoteDaEmpresaPor(SqlDosTrabalhadores<false>, {{"ADataGeracao", taData, "data de referência"}}, AID_EMPRESA)},
         {"S-2205",
          "Alteração de dados cadastrais do trabalhador",
          {{"AIDEmpregado", taId, "código interno do empregado"}},
@@ -297,7 +320,7 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          [](const TArgumentosDeEvento& A) {
              return Evento<trabalhador::TTarvoESocialCamposS2206>(A.Id("AIDEmpregado"), A.Data("AData"));
          },
-         LoteDaEmpresa<VINCULADOS_DA_EMPRESA>({{"AData", taData, "data de referência"}})},
+         LoteDaEmpresaPor(SqlDosTrabalhadores<false>, {{"AData", taData, "data de referência"}})},
         {"S-2210",
          "Comunicação de acidente de trabalho",
          {{"AIdTabCat", taId, "código interno da CAT"}},
@@ -323,8 +346,8 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
              return Evento<trabalhador::TTarvoESocialCamposS2230>(
                  A.Id("AIdSituacao"), static_cast<TTipoEventoS2230>(A.Inteiro("ATipoEvento")));
          },
-         LoteDaEmpresa<AFASTAMENTOS_DA_EMPRESA>(
-             {{"ATipoEvento", taInteiro, "1 início do afastamento, 2 término", true, 2}})},
+         LoteDaEmpresaPor(SqlDosAfastamentos,
+                          {{"ATipoEvento", taInteiro, "1 início do afastamento, 2 término", true, 2}})},
         {"S-2240",
          "Condições ambientais do trabalho: fatores de risco",
          {{"AIdFatRisco", taId, "código interno do fator de risco"}},
@@ -377,14 +400,14 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          [](const TArgumentosDeEvento& A) {
              return Evento<trabalhador::TTarvoESocialCamposS2300>(A.Id("AIdEmpregado"), A.Data("ADataGeracao"));
          },
-         LoteDaEmpresa<SEM_VINCULO_DA_EMPRESA>({{"ADataGeracao", taData, "data de referência"}})},
+         LoteDaEmpresaPor(SqlDosTrabalhadores<true>, {{"ADataGeracao", taData, "data de referência"}})},
         {"S-2306",
          "Trabalhador sem vínculo de emprego, alteração",
          {{"AIdEmpregado", taId, "código interno do empregado"}, {"AData", taData, "data de referência"}},
          [](const TArgumentosDeEvento& A) {
              return Evento<trabalhador::TTarvoESocialCamposS2306>(A.Id("AIdEmpregado"), A.Data("AData"));
          },
-         LoteDaEmpresa<SEM_VINCULO_DA_EMPRESA>({{"AData", taData, "data de referência"}})},
+         LoteDaEmpresaPor(SqlDosTrabalhadores<true>, {{"AData", taData, "data de referência"}})},
         {"S-2399",
          "Trabalhador sem vínculo de emprego, término",
          {{"AIdEmpregado", taId, "código interno do empregado"},
@@ -401,9 +424,32 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
         {"S-3000",
          "Exclusão de evento",
          {{"AIdEvento", taId, "código interno do evento enviado"}},
-         [](const TArgumentosDeEvento& A) { return Evento<trabalhador::TTarvoESocialCamposS3000>(A.Id("AIdEvento")); }},
+         [](const TArgumentosDeEvento& A) { return Evento<trabalhador::TTarvoESocialCamposS3000>(A.Id("AIdEvento")); },
+         LoteDaEmpresaPor(SqlDosEventosAceitos)},
     };
     return LCatalogo;
+}
+
+TEventoConstruido TConstrutorDeEvento::operator()(const TArgumentosDeEvento& AArgumentos) const
+{
+    return FConstruir(AArgumentos);
+}
+
+const char* ExemploDoTipo(TTipoArgumento ATipo)
+{
+    switch (ATipo) {
+    case taId:
+        return "ID";
+    case taInteiro:
+        return "NUMERO";
+    case taData:
+        return "AAAA-MM-DD";
+    case taCpf:
+        return "CPF";
+    case taTexto:
+        return "TEXTO";
+    }
+    return "VALOR";
 }
 
 const TEventoDoCatalogo& BuscarEventoDoCatalogo(std::string_view ACodigo)

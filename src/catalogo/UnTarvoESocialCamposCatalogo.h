@@ -1,11 +1,14 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <type_traits>
+#include <typeinfo>
 #include <vector>
 
 #include "imports/UnOvraDataHora.h"
@@ -14,6 +17,7 @@
 namespace tarvo {
 
 class TTarvoESocialCamposGrupoBase;
+class TPropriedades;
 
 /// An event or an argument that doesn't exist, is missing, or holds a text that is no value of it.
 class EArgumentoInvalido : public Exception {
@@ -77,6 +81,34 @@ struct TEventoConstruido {
     std::unique_ptr<TTarvoESocialCamposGrupoBase> Evento;
 };
 
+/// The same, with the class of the event.
+template <class T>
+struct TEventoConstruidoDe : TEventoConstruido {
+    using TEvento = T;
+
+    TEventoConstruidoDe(std::shared_ptr<void> AParametros, std::unique_ptr<T> AEvento)
+        : TEventoConstruido{std::move(AParametros), std::move(AEvento)}
+    {}
+};
+
+/// How an event is constructed: a function that gives a TEventoConstruidoDe, from which the class of the event and its
+/// properties are known without constructing one.
+class TConstrutorDeEvento {
+public:
+    template <class F, class T = typename std::invoke_result_t<F, const TArgumentosDeEvento&>::TEvento>
+    TConstrutorDeEvento(F AConstruir) : FConstruir(AConstruir), FTipo(&typeid(T)), FTabela(&T::Tabela)
+    {}
+
+    TEventoConstruido operator()(const TArgumentosDeEvento& AArgumentos) const;
+    const std::type_info& Tipo() const { return *FTipo; }
+    const TPropriedades& Tabela() const { return FTabela(); }
+
+private:
+    std::function<TEventoConstruido(const TArgumentosDeEvento&)> FConstruir;
+    const std::type_info* FTipo;
+    const TPropriedades& (*FTabela)();
+};
+
 /// How an event is loaded for everybody of a company.
 struct TLoteDoEvento {
     /// What the caller gives: the company, and the arguments of the event that aren't part of a key.
@@ -99,10 +131,13 @@ struct TEventoDoCatalogo {
     /// What the event reports, for a payroll person.
     const char* Titulo;
     std::vector<TArgumentoDeEvento> Argumentos;
-    TEventoConstruido (*Construir)(const TArgumentosDeEvento& AArgumentos);
+    TConstrutorDeEvento Construir;
     /// Nothing for an event that isn't loaded in a batch.
     std::optional<TLoteDoEvento> Lote = std::nullopt;
 };
+
+/// The example of an argument's value: "ID", "AAAA-MM-DD".
+const char* ExemploDoTipo(TTipoArgumento ATipo);
 
 /// Every event in layout order.
 const std::vector<TEventoDoCatalogo>& CatalogoDeEventos();

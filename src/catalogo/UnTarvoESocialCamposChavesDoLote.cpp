@@ -1,6 +1,9 @@
 #include "catalogo/UnTarvoESocialCamposChavesDoLote.h"
 
+#include "framework/UnTarvoESocialCamposSqlCategoria.h"
+#include "imports/UnOvraEsocialReinfControleAmbientes.h"
 #include "imports/UnTarvoUtilsDb.h"
+#include "imports/pcesConversaoeSocial.h"
 
 namespace tarvo::catalogo {
 
@@ -32,21 +35,73 @@ ORDER BY CHAVES.ORDEM, CHAVES.CPF)";
                   FormatarDataDB(AArgumentos.Data("DataFim"), true));
 }
 
-template <bool ASemVinculo>
-std::string SqlDosDesligados(const TArgumentosDeEvento& AArgumentos)
+namespace {
+
+/// The company, as the events that take it themselves name it, or as the batch does.
+std::int64_t IdEmpresa(const TArgumentosDeEvento& AArgumentos)
 {
-    static constexpr std::string_view SQL = R"(SELECT EMPREGADOS.IDEMPREGADO AS "AIdEmpregado"
+    return AArgumentos.Id(AArgumentos.Informado(ID_EMPRESA) ? ID_EMPRESA : AID_EMPRESA);
+}
+
+std::string SqlDosTrabalhadoresCom(const TArgumentosDeEvento& AArgumentos, bool ASemVinculo, std::string_view AMais)
+{
+    static constexpr std::string_view SQL = R"(SELECT EMPREGADOS.IDEMPREGADO AS AIDEMPREGADO
 FROM EMPREGADOS
 LEFT JOIN FP_ESOCIALTABELA ON (FP_ESOCIALTABELA.IDESOCIALTABELA = EMPREGADOS.IDCATEGORIAESOCIAL)
 WHERE EMPREGADOS.IDEMPRESA = %0:d
-  AND EMPREGADOS.DATA_DEMISSAO BETWEEN %1:s AND %2:s
-  AND COALESCE(FP_ESOCIALTABELA.CODIGO, '') %3:s '700'
+  AND IIF(FP_ESOCIALTABELA.CODIGO IN (%1:s) OR FP_ESOCIALTABELA.CODIGO >= '700', 1, 0) = %2:d
+  %3:s
 ORDER BY EMPREGADOS.IDEMPREGADO)";
-    return Format(SQL, AArgumentos.Id("IdEmpresa"), FormatarDataDB(AArgumentos.Data("DataInicio"), true),
-                  FormatarDataDB(AArgumentos.Data("DataFim"), true), ASemVinculo ? ">=" : "<");
+    return Format(SQL, IdEmpresa(AArgumentos), CATEGORIAS_SEM_VINCULO, ASemVinculo ? 1 : 0, AMais);
 }
 
+} // namespace
+
+template <bool ASemVinculo>
+std::string SqlDosTrabalhadores(const TArgumentosDeEvento& AArgumentos)
+{
+    return SqlDosTrabalhadoresCom(AArgumentos, ASemVinculo, "");
+}
+
+template <bool ASemVinculo>
+std::string SqlDosDesligados(const TArgumentosDeEvento& AArgumentos)
+{
+    return SqlDosTrabalhadoresCom(AArgumentos, ASemVinculo,
+                                  Format("AND EMPREGADOS.DATA_DEMISSAO BETWEEN %0:s AND %1:s",
+                                         FormatarDataDB(AArgumentos.Data("DataInicio"), true),
+                                         FormatarDataDB(AArgumentos.Data("DataFim"), true)));
+}
+
+template std::string SqlDosTrabalhadores<true>(const TArgumentosDeEvento&);
+template std::string SqlDosTrabalhadores<false>(const TArgumentosDeEvento&);
 template std::string SqlDosDesligados<true>(const TArgumentosDeEvento&);
 template std::string SqlDosDesligados<false>(const TArgumentosDeEvento&);
+
+std::string SqlDosAfastamentos(const TArgumentosDeEvento& AArgumentos)
+{
+    static constexpr std::string_view SQL = R"(SELECT SITUACOES.IDSITUACAO AS AIDSITUACAO
+FROM SITUACOES
+JOIN EMPREGADOS ON (EMPREGADOS.IDEMPREGADO = SITUACOES.IDEMPREGADO)
+WHERE EMPREGADOS.IDEMPRESA = %0:d
+  AND SITUACOES.IDESOCIALTABELA18 IS NOT NULL
+  AND SITUACOES.%1:s IS NOT NULL
+ORDER BY SITUACOES.IDSITUACAO)";
+    const bool LInicio = static_cast<TTipoEventoS2230>(AArgumentos.Inteiro("ATipoEvento")) == TTipoEventoS2230::Inicio;
+    return Format(SQL, AArgumentos.Id(ID_EMPRESA), LInicio ? "DATA" : "DATA_FIM");
+}
+
+std::string SqlDosEventosAceitos(const TArgumentosDeEvento& AArgumentos)
+{
+    static constexpr std::string_view SQL = R"(SELECT SC00_ESOCIALREINFXML.IDESOCIALREINFXML AS AIDEVENTO
+FROM SC00_ESOCIALREINFXML
+WHERE SC00_ESOCIALREINFXML.IDEMPRESA = %0:d%1:s
+  AND EXISTS (SELECT 1
+    FROM SC00_ESOCIALREINFDET
+    WHERE SC00_ESOCIALREINFDET.IDEVENTO = SC00_ESOCIALREINFXML.IDESOCIALREINFXML
+      AND SC00_ESOCIALREINFDET.STATUS IN (201, 202))
+ORDER BY SC00_ESOCIALREINFXML.IDESOCIALREINFXML)";
+    return Format(SQL, AArgumentos.Id(ID_EMPRESA),
+                  BuscarInstanciaOvraEsocialReinfControleAmbientes().RetornarSqlControleAmbiente("AND"));
+}
 
 } // namespace tarvo::catalogo

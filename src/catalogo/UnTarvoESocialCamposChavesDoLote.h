@@ -15,11 +15,21 @@ namespace tarvo::catalogo {
 /// aren't among them. A CPF is taken as it is stored, and compared by its digits.
 std::string SqlDosCpfs(const TArgumentosDeEvento& AArgumentos);
 
-/// The workers of a company whose work ended in a period, by dismissal; those without a bond have a category from 700.
+/// The workers of a company with a bond or without one, those without a category among the first. The categories from
+/// 700 on that the payments don't know are without a bond too.
+template <bool ASemVinculo>
+std::string SqlDosTrabalhadores(const TArgumentosDeEvento& AArgumentos);
+/// Those whose work ended in a period, by dismissal.
 template <bool ASemVinculo>
 std::string SqlDosDesligados(const TArgumentosDeEvento& AArgumentos);
+/// The leaves of a company's workers: situations with a reason of the layout, for the end those that have one.
+std::string SqlDosAfastamentos(const TArgumentosDeEvento& AArgumentos);
+/// The events of a company that the government accepted, in the environment in use.
+std::string SqlDosEventosAceitos(const TArgumentosDeEvento& AArgumentos);
 
 inline constexpr char ID_EMPRESA[] = "IdEmpresa";
+/// The company, where the event takes it itself.
+inline constexpr char AID_EMPRESA[] = "AIDEmpresa";
 
 /// The batch of an event whose keys are the rows of a company: Sql lists them, with the company as its argument.
 /// Empresa names the company where the event itself takes it. AMais are the event's arguments that all keys share.
@@ -28,6 +38,14 @@ TLoteDoEvento LoteDaEmpresa(std::vector<TArgumentoDeEvento> AMais = {})
 {
     AMais.insert(AMais.begin(), {Empresa, TTipoArgumento::taId, "código interno da empresa"});
     return {std::move(AMais), [](const TArgumentosDeEvento& A) { return Format(Sql, A.Id(Empresa)); }};
+}
+
+/// The same, with a statement that depends on more arguments than the company.
+inline TLoteDoEvento LoteDaEmpresaPor(std::string (*ASql)(const TArgumentosDeEvento&),
+                                      std::vector<TArgumentoDeEvento> AMais = {}, const char* AEmpresa = ID_EMPRESA)
+{
+    AMais.insert(AMais.begin(), {AEmpresa, TTipoArgumento::taId, "código interno da empresa"});
+    return {std::move(AMais), ASql};
 }
 
 // Statements of keys. Rubrics, positions and schedules belong to the suite as a whole: every company has them all.
@@ -78,37 +96,17 @@ inline constexpr std::string_view FILIAIS_DA_EMPRESA = R"(SELECT SC00_FILIAL.IDF
 FROM SC00_FILIAL
 WHERE SC00_FILIAL.IDEMPRESA = %0:d
 ORDER BY SC00_FILIAL.IDFILIAL)";
-/// Those with a bond: the category is below 700, or none.
-inline constexpr std::string_view VINCULADOS_DA_EMPRESA = R"(SELECT EMPREGADOS.IDEMPREGADO AS AIDEMPREGADO
-FROM EMPREGADOS
-LEFT JOIN FP_ESOCIALTABELA ON (FP_ESOCIALTABELA.IDESOCIALTABELA = EMPREGADOS.IDCATEGORIAESOCIAL)
-WHERE EMPREGADOS.IDEMPRESA = %0:d
-  AND COALESCE(FP_ESOCIALTABELA.CODIGO, '') < '700'
-ORDER BY EMPREGADOS.IDEMPREGADO)";
-inline constexpr std::string_view SEM_VINCULO_DA_EMPRESA = R"(SELECT EMPREGADOS.IDEMPREGADO AS AIDEMPREGADO
-FROM EMPREGADOS
-JOIN FP_ESOCIALTABELA ON (FP_ESOCIALTABELA.IDESOCIALTABELA = EMPREGADOS.IDCATEGORIAESOCIAL)
-WHERE EMPREGADOS.IDEMPRESA = %0:d
-  AND FP_ESOCIALTABELA.CODIGO >= '700'
-ORDER BY EMPREGADOS.IDEMPREGADO)";
-/// The leaves: '01' is at work, '02' dismissed.
-inline constexpr std::string_view AFASTAMENTOS_DA_EMPRESA = R"(SELECT SITUACOES.IDSITUACAO AS AIDSITUACAO
-FROM SITUACOES
-JOIN EMPREGADOS ON (EMPREGADOS.IDEMPREGADO = SITUACOES.IDEMPREGADO)
-WHERE EMPREGADOS.IDEMPRESA = %0:d
-  AND SITUACOES.SITUACAO NOT IN ('01', '02')
-ORDER BY SITUACOES.IDSITUACAO)";
 inline constexpr std::string_view AVISOS_DA_EMPRESA = R"(SELECT FP_AVISOPREVIO.IDAVISOPREVIO AS AIDAVISOPREVIO
 FROM FP_AVISOPREVIO
 JOIN EMPREGADOS ON (EMPREGADOS.IDEMPREGADO = FP_AVISOPREVIO.IDEMPREGADO)
 WHERE EMPREGADOS.IDEMPRESA = %0:d
 ORDER BY FP_AVISOPREVIO.IDAVISOPREVIO)";
 inline constexpr std::string_view CONVOCACOES_DA_EMPRESA =
-    R"(SELECT DISTINCT FP_CONTRAINTERM.IDEMPREGADO AS AIDEMPREGADO,
-  CAST(FP_CONTRAINTERM.DATACONVOCACAO AS DATE) AS ADATAINICIO
+    R"(SELECT DISTINCT FP_CONTRAINTERM.IDEMPREGADO AS AIDEMPREGADO, FP_CONTRAINTERM.DATACONVOCACAO AS ADATAINICIO
 FROM FP_CONTRAINTERM
 JOIN EMPREGADOS ON (EMPREGADOS.IDEMPREGADO = FP_CONTRAINTERM.IDEMPREGADO)
 WHERE EMPREGADOS.IDEMPRESA = %0:d
+  AND FP_CONTRAINTERM.DATACONVOCACAO IS NOT NULL
 ORDER BY 1, 2)";
 inline constexpr std::string_view CATS_DA_EMPRESA = R"(SELECT TABCAT.IDTABCAT AS AIDTABCAT
 FROM TABCAT

@@ -8,6 +8,7 @@ namespace tarvo::desligamento {
 class TConversorMotivoDesligamento : public TTarvoESocialCamposConversorAbstrato {
 public:
     static constexpr const char* NOME = "TConversorMotivoDesligamento";
+    static constexpr const char* REGRA = "código do motivo do leiaute, pelos dígitos iniciais";
     std::string BuscarValor(const std::string& AValor) override;
 };
 
@@ -16,6 +17,7 @@ public:
 class TConversorPensAlim : public TTarvoESocialCamposConversorAbstrato {
 public:
     static constexpr const char* NOME = "TConversorPensAlim";
+    static constexpr const char* REGRA = "indicador de pensão do leiaute, pelos dígitos iniciais";
     std::string BuscarValor(const std::string& AValor) override;
 };
 

@@ -12,7 +12,7 @@ TTarvoESocialCamposinfoAgNocivoDesligamento::TTarvoESocialCamposinfoAgNocivoDesl
     : TTarvoESocialCamposGrupoBase(AGuid), FIdEmpregado(AIdEmpregado), FDataBase(ADataBase)
 {}
 
-const TPropriedades& TTarvoESocialCamposinfoAgNocivoDesligamento::Propriedades() const
+const TPropriedades& TTarvoESocialCamposinfoAgNocivoDesligamento::Tabela()
 {
     using Eu = TTarvoESocialCamposinfoAgNocivoDesligamento;
     static const TPropriedades tabela{
@@ -35,7 +35,7 @@ TTarvoESocialCamposinfoSimplesDesligamento::TTarvoESocialCamposinfoSimplesDeslig
       FDataBase(ADataBase)
 {}
 
-const TPropriedades& TTarvoESocialCamposinfoSimplesDesligamento::Propriedades() const
+const TPropriedades& TTarvoESocialCamposinfoSimplesDesligamento::Tabela()
 {
     static const TPropriedades tabela{{"indSimples", &TTarvoESocialCamposinfoSimplesDesligamento::indSimples}};
     return tabela;

@@ -11,10 +11,12 @@ public:
     std::string grauExp;
     std::int32_t codCateg = 0;
 
+    static const TPropriedades& Tabela();
+
 protected:
     TTarvoESocialCamposinfoAgNocivoDesligamento(std::string_view AGuid, std::int64_t AIdEmpregado, TDateTime ADataBase);
 
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:
@@ -42,11 +44,13 @@ public:
     /// "0" without a setting.
     std::string indSimples;
 
+    static const TPropriedades& Tabela();
+
 protected:
     TTarvoESocialCamposinfoSimplesDesligamento(std::string_view AGuid, std::int64_t AIDEstabelecimento,
                                                std::int64_t AIDDepartamento, TDateTime ADataBase);
 
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     void AtribuirValoresManualmente() override;
 
 private:

@@ -7,7 +7,7 @@ TTarvoESocialCamposS2299::TTarvoESocialCamposS2299(std::int64_t AIdEmpregado, TD
       infoDeslig(AIdEmpregado, ADataInicioEventosPeriodicos)
 {}
 
-const TPropriedades& TTarvoESocialCamposS2299::Propriedades() const
+const TPropriedades& TTarvoESocialCamposS2299::Tabela()
 {
     using Eu = TTarvoESocialCamposS2299;
     static const TPropriedades tabela{{"ideVinculo", &Eu::ideVinculo}, {"infoDeslig", &Eu::infoDeslig}};

@@ -12,7 +12,7 @@ TTarvoESocialCamposinfoTSVTermino::TTarvoESocialCamposinfoTSVTermino(std::int64_
       quarentena(AIdEmpregado), FIdEmpregado(AIdEmpregado), FDataInicioEventosPeriodicos(ADataInicioEventosPeriodicos)
 {}
 
-const TPropriedades& TTarvoESocialCamposinfoTSVTermino::Propriedades() const
+const TPropriedades& TTarvoESocialCamposinfoTSVTermino::Tabela()
 {
     using Eu = TTarvoESocialCamposinfoTSVTermino;
     static const TPropriedades tabela{
@@ -74,7 +74,7 @@ TTarvoESocialCamposS2399::TTarvoESocialCamposS2399(std::int64_t AIdEmpregado, TD
       infoTSVTermino(AIdEmpregado, ADataInicioEventosPeriodicos)
 {}
 
-const TPropriedades& TTarvoESocialCamposS2399::Propriedades() const
+const TPropriedades& TTarvoESocialCamposS2399::Tabela()
 {
     using Eu = TTarvoESocialCamposS2399;
     static const TPropriedades tabela{{"ideTrabSemVinculo", &Eu::ideTrabSemVinculo},

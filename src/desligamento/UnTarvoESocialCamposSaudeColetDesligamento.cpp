@@ -14,7 +14,7 @@ TTarvoESocialCamposdetPlanoDesligamento::TTarvoESocialCamposdetPlanoDesligamento
       FDiasTrabalhadosNaLotacao(ADiasTrabalhadosNaLotacao)
 {}
 
-const TPropriedades& TTarvoESocialCamposdetPlanoDesligamento::Propriedades() const
+const TPropriedades& TTarvoESocialCamposdetPlanoDesligamento::Tabela()
 {
     using Eu = TTarvoESocialCamposdetPlanoDesligamento;
     static const TPropriedades tabela{

@@ -16,12 +16,14 @@ public:
     /// In reais.
     Currency vlrPgDep;
 
+    static const TPropriedades& Tabela();
+
 protected:
     TTarvoESocialCamposdetPlanoDesligamento(std::string_view AGuid, std::int64_t AIdPSaudeVlrMesDep,
                                             TDateTime ADataInicioCalculo, TDateTime ADataFimCalculo,
                                             std::int32_t ADiasTrabalhadosNaLotacao);
 
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
     void AtribuirValoresManualmente() override;
 
@@ -111,17 +113,19 @@ public:
             tabelas::CarregarDetOper(detOper, std::make_unique<TDetOper>(LDados, LDmDev.DataInicio, LDmDev.DataFim));
     }
 
+    static const TPropriedades& Tabela()
+    {
+        static const TPropriedades tabela{{"detOper", &TTarvoESocialCamposinfoSaudeColetDesligamento::detOper}};
+        return tabela;
+    }
+
 protected:
     TTarvoESocialCamposinfoSaudeColetDesligamento(std::string_view AGuid,
                                                   const TDadosCalculosDesligamento& ADadosCalculos)
         : TTarvoESocialCamposGrupoBase(AGuid), FDadosCalculos(ADadosCalculos)
     {}
 
-    const TPropriedades& Propriedades() const override
-    {
-        static const TPropriedades tabela{{"detOper", &TTarvoESocialCamposinfoSaudeColetDesligamento::detOper}};
-        return tabela;
-    }
+    const TPropriedades& Propriedades() const override { return Tabela(); }
 
 private:
     const TDadosCalculosDesligamento& FDadosCalculos;

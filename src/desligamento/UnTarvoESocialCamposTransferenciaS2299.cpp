@@ -37,7 +37,7 @@ TTarvoESocialCampossucessaoVincS2299::TTarvoESocialCampossucessaoVincS2299(std::
     : TTarvoESocialCamposGrupoBase("{A529D7FD-008C-41B8-8EB6-CCBEDA386D3E}"), FIdEmpregado(AIdEmpregado)
 {}
 
-const TPropriedades& TTarvoESocialCampossucessaoVincS2299::Propriedades() const
+const TPropriedades& TTarvoESocialCampossucessaoVincS2299::Tabela()
 {
     using Eu = TTarvoESocialCampossucessaoVincS2299;
     static const TPropriedades tabela{
@@ -57,7 +57,7 @@ TTarvoESocialCamposTransfTitS2299::TTarvoESocialCamposTransfTitS2299(std::int64_
     : TTarvoESocialCamposGrupoBase("{5E3B89CA-73D3-4CC6-B038-50DA16498533}"), FIdEmpregado(AIdEmpregado)
 {}
 
-const TPropriedades& TTarvoESocialCamposTransfTitS2299::Propriedades() const
+const TPropriedades& TTarvoESocialCamposTransfTitS2299::Tabela()
 {
     using Eu = TTarvoESocialCamposTransfTitS2299;
     static const TPropriedades tabela{

@@ -14,8 +14,10 @@ public:
     std::string cnpjSucessora;
     std::string motivoAfast;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:
@@ -32,8 +34,10 @@ public:
     std::string cpfSubstituto;
     std::string motivoAfast;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

@@ -17,7 +17,7 @@ TTarvoESocialCamposdetVerbasDesligamento::TTarvoESocialCamposdetVerbasDesligamen
       FDataDemissao(ADataDemissao)
 {}
 
-const TPropriedades& TTarvoESocialCamposdetVerbasDesligamento::Propriedades() const
+const TPropriedades& TTarvoESocialCamposdetVerbasDesligamento::Tabela()
 {
     using Eu = TTarvoESocialCamposdetVerbasDesligamento;
     static const TPropriedades tabela{

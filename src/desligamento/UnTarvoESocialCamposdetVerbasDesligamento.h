@@ -21,11 +21,13 @@ public:
     /// Code of the rubric's nature, whatever its validity; 0 for none.
     std::int32_t CodNaturezaRubricaRelac = 0;
 
+    static const TPropriedades& Tabela();
+
 protected:
     TTarvoESocialCamposdetVerbasDesligamento(std::string_view AGuid, const TDadosCalculo& ADadosCalculo,
                                              std::int64_t AIdEmpresa, TDate ADataDemissao);
 
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
     void AtribuirValoresManualmente() override;
 

@@ -10,7 +10,7 @@ TTarvoESocialCamposinfoPerApurS2299::TTarvoESocialCamposinfoPerApurS2299()
     : TTarvoESocialCamposGrupoBase("{7E2B1D36-4299-4FD7-B96A-FE94C6CFB9F2}")
 {}
 
-const TPropriedades& TTarvoESocialCamposinfoPerApurS2299::Propriedades() const
+const TPropriedades& TTarvoESocialCamposinfoPerApurS2299::Tabela()
 {
     static const TPropriedades tabela{{"ideEstabLot", &TTarvoESocialCamposinfoPerApurS2299::ideEstabLot}};
     return tabela;
@@ -26,7 +26,7 @@ TTarvoESocialCamposidePeriodoS2299::TTarvoESocialCamposidePeriodoS2299(const TS2
     : TTarvoESocialCamposGrupoBase("{F1D04CC4-6715-4019-A6CF-1ABCD5AE68BA}"), FDadosCalculos(ADadosCalculos)
 {}
 
-const TPropriedades& TTarvoESocialCamposidePeriodoS2299::Propriedades() const
+const TPropriedades& TTarvoESocialCamposidePeriodoS2299::Tabela()
 {
     using Eu = TTarvoESocialCamposidePeriodoS2299;
     static const TPropriedades tabela{{"perRef", &Eu::perRef}, {"ideEstabLot", &Eu::ideEstabLot}};
@@ -50,7 +50,7 @@ TTarvoESocialCamposideADCS2299::TTarvoESocialCamposideADCS2299(const TS2299Dados
       FDadosCalculos(ADadosCalculos)
 {}
 
-const TPropriedades& TTarvoESocialCamposideADCS2299::Propriedades() const
+const TPropriedades& TTarvoESocialCamposideADCS2299::Tabela()
 {
     using Eu = TTarvoESocialCamposideADCS2299;
     static const TPropriedades tabela{
@@ -85,7 +85,7 @@ TTarvoESocialCamposinfoPerAntS2299::TTarvoESocialCamposinfoPerAntS2299()
     : TTarvoESocialCamposGrupoBase("{901C29CD-0C6F-4CE5-BED4-4B5A4BF4E584}")
 {}
 
-const TPropriedades& TTarvoESocialCamposinfoPerAntS2299::Propriedades() const
+const TPropriedades& TTarvoESocialCamposinfoPerAntS2299::Tabela()
 {
     static const TPropriedades tabela{{"ideADC", &TTarvoESocialCamposinfoPerAntS2299::ideADC}};
     return tabela;
@@ -104,7 +104,7 @@ TTarvoESocialCamposInfoTrabIntermS2299::TTarvoESocialCamposInfoTrabIntermS2299(s
       FIDDetConvocacaoTrabInterm(AIDDetConvocacaoTrabInterm)
 {}
 
-const TPropriedades& TTarvoESocialCamposInfoTrabIntermS2299::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoTrabIntermS2299::Tabela()
 {
     static const TPropriedades tabela{
         {"codConv", &TTarvoESocialCamposInfoTrabIntermS2299::codConv, TFieldRelacionado("CODIGOESOCIAL")}};
@@ -121,7 +121,7 @@ TTarvoESocialCamposdmDevS2299::TTarvoESocialCamposdmDevS2299(const TdmDevS2299IO
       FDadosCalculos(FDadosDmDev)
 {}
 
-const TPropriedades& TTarvoESocialCamposdmDevS2299::Propriedades() const
+const TPropriedades& TTarvoESocialCamposdmDevS2299::Tabela()
 {
     using Eu = TTarvoESocialCamposdmDevS2299;
     static const TPropriedades tabela{

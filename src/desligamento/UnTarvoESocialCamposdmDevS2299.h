@@ -17,8 +17,10 @@ public:
     /// From the amounts of the demonstrative, which must outlive the groups made here.
     void CarregarDados(const TS2299DadosCalculos& ADadosCalculos);
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
 };
 
 /// S-2299 idePeriodo: the earlier period that the differences of an agreement refer to, and its amounts by lotação.
@@ -31,8 +33,10 @@ public:
 
     void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     void AtribuirValoresManualmente() override;
 
 private:
@@ -54,8 +58,10 @@ public:
 
     void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
     void AtribuirValoresManualmente() override;
 
@@ -74,8 +80,10 @@ public:
     /// From the amounts of the demonstrative, which must outlive the groups made here.
     void CarregarDados(const TS2299DadosCalculos& ADadosCalculos);
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
 };
 
 /// S-2299 infoTrabInterm: a convocation of intermittent work. Source: FP_CONTRAINTERM.
@@ -85,8 +93,10 @@ public:
 
     std::string codConv;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:
@@ -109,8 +119,10 @@ public:
 
     void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     void AtribuirValoresManualmente() override;
 
 private:

@@ -33,19 +33,7 @@ public:
         infoSimples.CarregarDados(AListaCamposModificados);
     }
 
-protected:
-    TTarvoESocialCamposideEstabLotDesligamento(std::string_view AGuid, const TDadosCalculosDesligamento& ADadosCalculos)
-        : TTarvoESocialCamposGrupoBase(AGuid), infoSaudeColet(ADadosCalculos),
-          infoAgNocivo(ADadosCalculos.DadosDmDev().IDEmpregado, ADadosCalculos.DadosDmDev().DataFim),
-          infoSimples(ADadosCalculos.DadosDmDev().IDFilial, ADadosCalculos.DadosDmDev().IDDepto,
-                      ADadosCalculos.DadosDmDev().DataFim),
-          FDadosCalculos(ADadosCalculos)
-    {}
-
-    /// Whether a calculation of the kind shows the health plan.
-    virtual bool TemPlanoDeSaude(TTipoCalculoDesligamento ATipo) const = 0;
-
-    const TPropriedades& Propriedades() const override
+    static const TPropriedades& Tabela()
     {
         using Eu = TTarvoESocialCamposideEstabLotDesligamento;
         static const TPropriedades tabela{
@@ -59,6 +47,20 @@ protected:
         };
         return tabela;
     }
+
+protected:
+    TTarvoESocialCamposideEstabLotDesligamento(std::string_view AGuid, const TDadosCalculosDesligamento& ADadosCalculos)
+        : TTarvoESocialCamposGrupoBase(AGuid), infoSaudeColet(ADadosCalculos),
+          infoAgNocivo(ADadosCalculos.DadosDmDev().IDEmpregado, ADadosCalculos.DadosDmDev().DataFim),
+          infoSimples(ADadosCalculos.DadosDmDev().IDFilial, ADadosCalculos.DadosDmDev().IDDepto,
+                      ADadosCalculos.DadosDmDev().DataFim),
+          FDadosCalculos(ADadosCalculos)
+    {}
+
+    /// Whether a calculation of the kind shows the health plan.
+    virtual bool TemPlanoDeSaude(TTipoCalculoDesligamento ATipo) const = 0;
+
+    const TPropriedades& Propriedades() const override { return Tabela(); }
 
     std::string BuscarSQLDados() override
     {

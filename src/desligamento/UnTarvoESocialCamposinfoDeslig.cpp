@@ -13,7 +13,7 @@ TTarvoESocialCamposConsigFGTS::TTarvoESocialCamposConsigFGTS(std::int64_t AIdEmp
     : TTarvoESocialCamposGrupoBase("{39240FDC-2704-4AB4-BC12-15EB2AE54959}"), FIdEmpregado(AIdEmpregado)
 {}
 
-const TPropriedades& TTarvoESocialCamposConsigFGTS::Propriedades() const
+const TPropriedades& TTarvoESocialCamposConsigFGTS::Tabela()
 {
     using Eu = TTarvoESocialCamposConsigFGTS;
     static const TPropriedades tabela{
@@ -46,7 +46,7 @@ TTarvoESocialCamposinfoDeslig::TTarvoESocialCamposinfoDeslig(std::int64_t AIdEmp
     RegistrarConversor(ClasseConversor<TConversorPensAlim>());
 }
 
-const TPropriedades& TTarvoESocialCamposinfoDeslig::Propriedades() const
+const TPropriedades& TTarvoESocialCamposinfoDeslig::Tabela()
 {
     using Eu = TTarvoESocialCamposinfoDeslig;
     static const TPropriedades tabela{

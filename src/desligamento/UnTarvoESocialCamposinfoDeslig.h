@@ -14,8 +14,10 @@ public:
     std::string insConsig;
     std::string nrContr;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:
@@ -56,8 +58,10 @@ public:
 
     void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
     void AtribuirValoresManualmente() override;
 

@@ -9,7 +9,7 @@
 
 namespace tarvo::desligamento {
 
-const TPropriedades& TTarvoESocialCamposremunOutrEmprDesligamento::Propriedades() const
+const TPropriedades& TTarvoESocialCamposremunOutrEmprDesligamento::Tabela()
 {
     using Eu = TTarvoESocialCamposremunOutrEmprDesligamento;
     static const TPropriedades tabela{

@@ -13,9 +13,11 @@ public:
     /// In reais, decimal comma.
     std::string vlrRemunOE;
 
+    static const TPropriedades& Tabela();
+
 protected:
     using TTarvoESocialCamposGrupoBase::TTarvoESocialCamposGrupoBase;
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
 };
 
 class TTarvoESocialCamposremunOutrEmprS2299 : public TTarvoESocialCamposremunOutrEmprDesligamento {
@@ -54,10 +56,7 @@ public:
         CarregarRemunOutrEmpr();
     }
 
-protected:
-    TTarvoESocialCamposinfoMVDesligamento(std::string_view AGuid, std::int64_t AIdEmpregado);
-
-    const TPropriedades& Propriedades() const override
+    static const TPropriedades& Tabela()
     {
         using Eu = TTarvoESocialCamposinfoMVDesligamento;
         static const TPropriedades tabela{
@@ -66,6 +65,11 @@ protected:
         };
         return tabela;
     }
+
+protected:
+    TTarvoESocialCamposinfoMVDesligamento(std::string_view AGuid, std::int64_t AIdEmpregado);
+
+    const TPropriedades& Propriedades() const override { return Tabela(); }
 
     std::string BuscarSQLDados() override { return SqlIndicadorDescontoINSS(FIdEmpregado); }
 

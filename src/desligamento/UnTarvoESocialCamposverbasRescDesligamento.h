@@ -25,6 +25,17 @@ public:
         infoMV.CarregarDados(AListaCamposModificados);
     }
 
+    static const TPropriedades& Tabela()
+    {
+        using Eu = TTarvoESocialCamposverbasRescDesligamento;
+        static const TPropriedades tabela{
+            {"dmDev", &Eu::dmDev},
+            {"procJudTrab", &Eu::procJudTrab},
+            {"infoMV", &Eu::infoMV},
+        };
+        return tabela;
+    }
+
 protected:
     TTarvoESocialCamposverbasRescDesligamento(std::string_view AGuid, std::int64_t AIdEmpregado)
         : TTarvoESocialCamposGrupoBase(AGuid), infoMV(AIdEmpregado), FIdEmpregado(AIdEmpregado),
@@ -35,16 +46,7 @@ protected:
     virtual std::string SqlDosDemonstrativos(const TDadosDmDev& ADmDev) const = 0;
     virtual void AlimentarDemonstrativo(TDadosDmDev& ADmDev, const TOvraClientDataSet& ACds) const = 0;
 
-    const TPropriedades& Propriedades() const override
-    {
-        using Eu = TTarvoESocialCamposverbasRescDesligamento;
-        static const TPropriedades tabela{
-            {"dmDev", &Eu::dmDev},
-            {"procJudTrab", &Eu::procJudTrab},
-            {"infoMV", &Eu::infoMV},
-        };
-        return tabela;
-    }
+    const TPropriedades& Propriedades() const override { return Tabela(); }
 
 private:
     void CarregarDadosDmDev()

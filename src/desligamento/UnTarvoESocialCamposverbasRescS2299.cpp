@@ -26,7 +26,7 @@ TTarvoESocialCamposProcCSS2299::TTarvoESocialCamposProcCSS2299(std::int64_t AIDE
     : TTarvoESocialCamposGrupoBase("{1306B918-E56E-414F-BC68-B769B22CF9E3}"), FIDEmpregado(AIDEmpregado)
 {}
 
-const TPropriedades& TTarvoESocialCamposProcCSS2299::Propriedades() const
+const TPropriedades& TTarvoESocialCamposProcCSS2299::Tabela()
 {
     static const TPropriedades tabela{
         {"nrProcJud", &TTarvoESocialCamposProcCSS2299::nrProcJud, TFieldRelacionado("NUMERO")}};
@@ -49,7 +49,7 @@ TTarvoESocialCamposverbasRescS2299::TTarvoESocialCamposverbasRescS2299(std::int6
       procCs(AIdEmpregado)
 {}
 
-const TPropriedades& TTarvoESocialCamposverbasRescS2299::Propriedades() const
+const TPropriedades& TTarvoESocialCamposverbasRescS2299::Tabela()
 {
     using Eu = TTarvoESocialCamposverbasRescS2299;
     static const TPropriedades tabela{

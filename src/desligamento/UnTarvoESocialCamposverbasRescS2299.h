@@ -15,8 +15,10 @@ public:
 
     std::string nrProcJud;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:
@@ -36,8 +38,10 @@ public:
 
     void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string SqlDosDemonstrativos(const TdmDevS2299IOP& ADmDev) const override;
     void AlimentarDemonstrativo(TdmDevS2299IOP& ADmDev, const TOvraClientDataSet& ACds) const override;
 };

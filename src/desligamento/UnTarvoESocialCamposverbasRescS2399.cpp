@@ -17,7 +17,7 @@ TTarvoESocialCamposdmDev2399::TTarvoESocialCamposdmDev2399(const TdmDevS2399IOP&
       FDadosCalculos(FDadosDmDev)
 {}
 
-const TPropriedades& TTarvoESocialCamposdmDev2399::Propriedades() const
+const TPropriedades& TTarvoESocialCamposdmDev2399::Tabela()
 {
     using Eu = TTarvoESocialCamposdmDev2399;
     static const TPropriedades tabela{{"ideEstabLot", &Eu::ideEstabLot}, {"ideDmDev", &Eu::ideDmDev}};

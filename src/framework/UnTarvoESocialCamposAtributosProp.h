@@ -9,6 +9,7 @@
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <typeinfo>
 #include <variant>
 #include <vector>
 
@@ -19,6 +20,7 @@
 namespace tarvo {
 
 class TTarvoESocialCamposGrupoBase;
+class TPropriedades;
 
 /// A list of child groups that owns them.
 template <class T>
@@ -75,7 +77,7 @@ public:
     /// A data member: a value, a child by value, a child that may be null, or a list.
     template <class C, class T>
     requires(!std::is_function_v<T>) TPropriedade(const char* ANome, T C::*AMembro)
-        : TPropriedade(ANome, TTipo<T>(), AMembro)
+        : TPropriedade(ANome, TTipo<T>(), AMembro, typeid(typename TDeclarado<T>::type))
     {
         AlcancarMembro<C, T>();
     }
@@ -88,7 +90,7 @@ public:
     /// A computed, read-only property.
     template <class C, class R>
     TPropriedade(const char* ANome, R (C::*AGetter)() const)
-        : TPropriedade(ANome, TTipo<std::remove_cvref_t<R>>(), AGetter)
+        : TPropriedade(ANome, TTipo<std::remove_cvref_t<R>>(), AGetter, typeid(std::remove_cvref_t<R>))
     {
         FLer = &LerFuncao<C, R>;
     }
@@ -112,6 +114,12 @@ public:
     /// The binding; null for a property that only code sets.
     const TFieldRelacionado* Field() const { return FField.get(); }
     bool SomenteLeitura() const { return FEscrever == nullptr; }
+    /// The type as declared: of an enumeration, of a child, of the items of a list; else of the value.
+    const std::type_info& TipoDeclarado() const { return *FTipoDeclarado; }
+    /// The properties of a child, or of the items of a list of groups, known without an instance. Only of these kinds.
+    const TPropriedades& TabelaDoTipo() const { return FTabelaDoTipo(); }
+    /// A child that may be missing.
+    bool PodeSerNulo() const { return FPodeSerNulo; }
 
     /// Value of a simple property.
     TValorPropriedade Ler(const TTarvoESocialCamposGrupoBase& AGrupo) const { return FLer(FLeitura, AGrupo); }
@@ -148,6 +156,15 @@ private:
     struct TPonteiroParaGrupo<std::unique_ptr<T>> : std::true_type {};
     template <class T>
     struct TPonteiroParaGrupo<T*> : std::true_type {};
+    /// What a pointer points to, and what a list lists; the type itself else.
+    template <class T>
+    struct TDeclarado : std::type_identity<T> {};
+    template <class T>
+    struct TDeclarado<std::unique_ptr<T>> : std::type_identity<T> {};
+    template <class T>
+    struct TDeclarado<T*> : std::type_identity<T> {};
+    template <class T>
+    struct TDeclarado<std::vector<T>> : TDeclarado<T> {};
     template <class>
     struct TLista : std::false_type {};
     template <class T>
@@ -187,7 +204,8 @@ private:
     }
 
     template <class TPonteiro>
-    TPropriedade(const char* ANome, TTipoPropriedade ATipo, TPonteiro AMembro) : FNome(ANome), FTipo(ATipo)
+    TPropriedade(const char* ANome, TTipoPropriedade ATipo, TPonteiro AMembro, const std::type_info& ATipoDeclarado)
+        : FNome(ANome), FTipo(ATipo), FTipoDeclarado(&ATipoDeclarado)
     {
         static_assert(sizeof(AMembro) <= sizeof(TMembro));
         std::memcpy(FLeitura.data(), &AMembro, sizeof(AMembro));
@@ -200,9 +218,12 @@ private:
         constexpr auto LTipo = TTipo<T>();
         if constexpr (LTipo == TTipoPropriedade::Grupo) {
             FItem = &FilhoDoMembro<C, T>;
+            FTabelaDoTipo = &TDeclarado<T>::type::Tabela;
+            FPodeSerNulo = TPonteiroParaGrupo<T>::value;
         } else if constexpr (LTipo == TTipoPropriedade::ListaDeGrupos) {
             FQuantidade = &QuantidadeDoMembro<C, T>;
             FItem = &ItemDoMembro<C, T>;
+            FTabelaDoTipo = &TDeclarado<T>::type::Tabela;
         } else if constexpr (TLista<T>::value) {
             FQuantidade = &QuantidadeDoMembro<C, T>;
             FValor = &ValorDoMembro<C, T>;
@@ -301,6 +322,9 @@ private:
 
     const char* FNome;
     TTipoPropriedade FTipo;
+    const std::type_info* FTipoDeclarado;
+    const TPropriedades& (*FTabelaDoTipo)() = nullptr;
+    bool FPodeSerNulo = false;
     std::shared_ptr<const TFieldRelacionado> FField;
     TMembro FLeitura{};
     TMembro FEscrita{};
@@ -327,8 +351,17 @@ public:
     /// By name, exact before without regard to case: two tags of a group may differ by case alone (ServPubl, servPubl).
     const TPropriedade* Buscar(std::string_view ANome) const;
 
+    /// The same table, of a class that only declares: its values come from the group above or from the caller.
+    TPropriedades ApenasDeclaradas() &&
+    {
+        FSoDeclara = true;
+        return std::move(*this);
+    }
+    bool SoDeclara() const { return FSoDeclara; }
+
 private:
     std::vector<TPropriedade> FItens;
+    bool FSoDeclara = false;
 };
 
 } // namespace tarvo

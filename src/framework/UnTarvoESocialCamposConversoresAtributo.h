@@ -15,17 +15,20 @@ public:
 
 using TConversor = std::shared_ptr<ITarvoESocialCamposConversoresBase>;
 
-/// Base of the converters. A concrete one names itself in NOME, which the error for an unregistered one shows.
+/// Base of the converters. A concrete one names itself in NOME, which the error for an unregistered one shows, and
+/// tells in REGRA, for a payroll person, what it makes of the column; empty for nothing.
 class TTarvoESocialCamposConversorAbstrato : public ITarvoESocialCamposConversoresBase {
 public:
     static constexpr const char* NOME = "TTarvoESocialCamposConversorAbstrato";
+    static constexpr const char* REGRA = "";
     /// EAbstractError: only a subclass converts.
     std::string BuscarValor(const std::string& AValor) override;
 };
 
-/// Reference to the class of a converter: its name, and how one is made.
+/// Reference to the class of a converter: its name, its rule, and how one is made.
 struct TInfoClasseConversor {
     const char* Nome;
+    const char* Regra;
     TConversor (*Criar)();
 };
 using TClasseConversor = const TInfoClasseConversor*;
@@ -37,7 +40,7 @@ TConversor CriarConversor()
 }
 
 template <class T>
-inline constexpr TInfoClasseConversor INFO_CLASSE_CONVERSOR{T::NOME, &CriarConversor<T>};
+inline constexpr TInfoClasseConversor INFO_CLASSE_CONVERSOR{T::NOME, T::REGRA, &CriarConversor<T>};
 
 /// The reference to class T, one and the same for the whole process.
 template <class T>
@@ -57,6 +60,7 @@ public:
 class TTarvoESocialCamposConversorRemoveCaracteresEspeciais : public TTarvoESocialCamposConversorAbstrato {
 public:
     static constexpr const char* NOME = "TTarvoESocialCamposConversorRemoveCaracteresEspeciais";
+    static constexpr const char* REGRA = "só letras, dígitos e um espaço entre as palavras";
     std::string BuscarValor(const std::string& AValor) override;
 };
 

@@ -55,7 +55,7 @@ TTarvoESocialCamposGrupoBase::TTarvoESocialCamposGrupoBase(TSemConstrucaoDaBase)
 
 TTarvoESocialCamposGrupoBase::~TTarvoESocialCamposGrupoBase() = default;
 
-const TPropriedades& TTarvoESocialCamposGrupoBase::Propriedades() const
+const TPropriedades& TTarvoESocialCamposGrupoBase::Tabela()
 {
     static const TPropriedades tabela{};
     return tabela;

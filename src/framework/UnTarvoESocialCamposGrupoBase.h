@@ -48,6 +48,10 @@ public:
     std::string_view GuidClasse() const { return FGuidClasse; }
     const TPropriedades& PropriedadesDaClasse() const { return Propriedades(); }
 
+    /// The properties of the class, known without an instance; a class that adds some hides this one. A group that has
+    /// none keeps the base's empty table.
+    static const TPropriedades& Tabela();
+
     /// The moment of construction, local time.
     TDateTime DataGeracao;
 
@@ -59,8 +63,8 @@ protected:
     /// For the few groups that skip the base's construction: no GUID, no dataset, not taking part in loads.
     explicit TTarvoESocialCamposGrupoBase(TSemConstrucaoDaBase);
 
-    /// The properties of the class; a group that has none keeps the base's empty table.
-    virtual const TPropriedades& Propriedades() const;
+    /// The Tabela of the instance's own class.
+    virtual const TPropriedades& Propriedades() const { return Tabela(); }
     /// The statement of the group; empty for a group that doesn't read.
     virtual std::string BuscarSQLDados();
     /// Sets what a binding can't; runs after the binding, with the dataset still open.

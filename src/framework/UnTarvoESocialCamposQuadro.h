@@ -24,6 +24,12 @@ public:
                     .CarregarDados(AListaCamposModificados);
     }
 
+    static const TPropriedades& Tabela()
+    {
+        static const TPropriedades tabela = TPropriedades(T::Tags()).ApenasDeclaradas();
+        return tabela;
+    }
+
 protected:
     /// For the members in Tags.
     using Eu = T;
@@ -32,11 +38,7 @@ protected:
         : TTarvoESocialCamposGrupoBase(AGuid), FId(AId)
     {}
 
-    const TPropriedades& Propriedades() const override
-    {
-        static const TPropriedades tabela = T::Tags();
-        return tabela;
-    }
+    const TPropriedades& Propriedades() const override { return Tabela(); }
 
 private:
     [[maybe_unused]] std::int64_t FId;

@@ -212,6 +212,14 @@ std::string Minusculas(std::string_view AValor)
     return LTexto;
 }
 
+std::string QuotedStr(std::string_view AValor)
+{
+    std::string LTexto = "'";
+    for (const char LChar : AValor)
+        LTexto.append(LChar == '\'' ? 2 : 1, LChar);
+    return LTexto += '\'';
+}
+
 std::optional<std::int64_t> TryStrToInt64(std::string_view AValor) { return LerInteiro(AValor); }
 
 std::int64_t StrToInt64Def(std::string_view AValor, std::int64_t APadrao)

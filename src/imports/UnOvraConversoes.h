@@ -18,6 +18,8 @@ std::string_view TrimRight(std::string_view AValor);
 bool MesmoTexto(std::string_view A, std::string_view B);
 std::string Maiusculas(std::string_view AValor);
 std::string Minusculas(std::string_view AValor);
+/// The text as a literal of a statement, between single quotes, those inside it doubled.
+std::string QuotedStr(std::string_view AValor);
 
 /// Surrounding blanks, one sign, decimal digits, in the range of int64; anything else is the default.
 std::int64_t StrToInt64Def(std::string_view AValor, std::int64_t APadrao);

@@ -1,6 +1,8 @@
 #include "imports/UnTarvoConexaoBrenco.h"
 
+#include "imports/UnOvraConnection.h"
 #include "imports/UnOvraExcecoes.h"
+#include "imports/UnTarvoUtilsDb.h"
 
 namespace tarvo {
 
@@ -21,6 +23,17 @@ TTarvoConexaoBrencoUsuarioClasseBase& BuscarInstanciaTarvoConexaoBrencoUsuario()
 {
     static TTarvoConexaoBrencoUsuarioClasseBase LInstancia;
     return LInstancia;
+}
+
+TDataset BuscarRegistrosBrenco(std::string_view ASql)
+{
+    const auto& LBrenco = BuscarInstanciaTarvoConexaoBrenco();
+    if (!LBrenco.Conectado() || !BuscarInstanciaTarvoConexaoBrencoUsuario().GetUsuarioTemPermissao())
+        return nullptr;
+    auto LCds = CriarOvraClientDataset(LBrenco.OvraConnection().GetSQLConnection());
+    LCds->SetCommandText(std::string(ASql));
+    LCds->Open();
+    return LCds;
 }
 
 } // namespace tarvo

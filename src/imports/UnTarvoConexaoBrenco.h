@@ -1,5 +1,9 @@
 #pragma once
 
+#include <string_view>
+
+#include "imports/UnOvraClientDataSet.h"
+
 namespace tarvo {
 
 class TOvraConnection;
@@ -31,5 +35,9 @@ private:
 /// The one instance of each in the process.
 TTarvoConexaoBrenco& BuscarInstanciaTarvoConexaoBrenco();
 TTarvoConexaoBrencoUsuarioClasseBase& BuscarInstanciaTarvoConexaoBrencoUsuario();
+
+/// Runs a SELECT on the sibling system's connection; null, and nothing is run, when there is no connection or the user
+/// may not read it. EDatabaseError with the engine's text.
+TDataset BuscarRegistrosBrenco(std::string_view ASql);
 
 } // namespace tarvo

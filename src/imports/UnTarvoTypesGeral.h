@@ -39,6 +39,10 @@ enum class TSomaTransformarData : std::uint8_t { Dias = 0 };
 /// Where FormatarTexto puts the filling.
 enum class TFormatacaoTexto : std::uint8_t { CompletarAEsquerda = 0, CompletarADireita = 1 };
 
+/// Where the purchases of rural production are kept. Any other value that the suite has is the sibling system in a
+/// database of its own.
+enum class TTipoConexao : std::int32_t { Folha = 1, Brenco = 2 };
+
 enum class TDiaSemana : std::uint8_t { Domingo = 0, Segunda, Terca, Quarta, Quinta, Sexta, Sabado };
 
 } // namespace tarvo

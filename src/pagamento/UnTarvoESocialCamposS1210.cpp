@@ -14,7 +14,7 @@ TTarvoESocialCamposS1210::TTarvoESocialCamposS1210(TTarvoESocialCamposS1210IOP& 
     : TTarvoESocialCamposGrupoBase("{95E22A9C-4B21-47F8-83FE-DD854159F1A8}"), ideBenef(AInfoBind), FInfoBind(AInfoBind)
 {}
 
-const TPropriedades& TTarvoESocialCamposS1210::Propriedades() const
+const TPropriedades& TTarvoESocialCamposS1210::Tabela()
 {
     static const TPropriedades tabela{{"ideBenef", &TTarvoESocialCamposS1210::ideBenef}};
     return tabela;

@@ -40,7 +40,7 @@ TTarvoESocialCamposVerbaDoPagamento::TTarvoESocialCamposVerbaDoPagamento(std::st
     : TTarvoESocialCamposGrupoBase(AGuid), FInfoBind(AInfoBind)
 {}
 
-const TPropriedades& TTarvoESocialCamposVerbaDoPagamento::Propriedades() const
+const TPropriedades& TTarvoESocialCamposVerbaDoPagamento::Tabela()
 {
     using Eu = TTarvoESocialCamposVerbaDoPagamento;
     static const TPropriedades tabela{

@@ -28,11 +28,13 @@ public:
     std::int64_t IdVerba = 0;
     TListaDeGrupos<TTarvoESocialCampospenAlim> penAlim;
 
+    static const TPropriedades& Tabela();
+
 protected:
     TTarvoESocialCamposVerbaDoPagamento(std::string_view AGuid, const TTarvoESocialCamposS1210IOP& AInfoBind);
 
     /// Up to IdVerba; where penAlim stands differs.
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
 
     /// The incidences of IdVerba, for the code and the alimony. Under a legal process of the rubric the codes are those
     /// of the process, tribute by tribute.

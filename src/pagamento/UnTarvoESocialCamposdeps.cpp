@@ -11,7 +11,7 @@ TTarvoESocialCamposdeps::TTarvoESocialCamposdeps(const TTarvoESocialCamposS1210I
     : TTarvoESocialCamposGrupoBase("{8FF80456-706B-40A1-B3C9-C67260592722}"), FInfoBind(AInfoBind)
 {}
 
-const TPropriedades& TTarvoESocialCamposdeps::Propriedades() const
+const TPropriedades& TTarvoESocialCamposdeps::Tabela()
 {
     static const TPropriedades tabela{{"vrDedDep", &TTarvoESocialCamposdeps::vrDedDep}};
     return tabela;

@@ -11,7 +11,7 @@ TTarvoESocialCamposdetPgtoAnt::TTarvoESocialCamposdetPgtoAnt(const TTarvoESocial
     : TTarvoESocialCamposGrupoBase("{768C0B91-2531-4B25-B13A-62428F298DC3}"), FInfoBind(AInfoBind)
 {}
 
-const TPropriedades& TTarvoESocialCamposdetPgtoAnt::Propriedades() const
+const TPropriedades& TTarvoESocialCamposdetPgtoAnt::Tabela()
 {
     using Eu = TTarvoESocialCamposdetPgtoAnt;
     static const TPropriedades tabela{

@@ -11,7 +11,7 @@ TTarvoESocialCamposdetPgtoFer::TTarvoESocialCamposdetPgtoFer(const TTarvoESocial
     : TTarvoESocialCamposGrupoBase("{02BF63D3-B164-47BB-967E-2E53BF5B2634}"), FInfoBind(AInfoBind)
 {}
 
-const TPropriedades& TTarvoESocialCamposdetPgtoFer::Propriedades() const
+const TPropriedades& TTarvoESocialCamposdetPgtoFer::Tabela()
 {
     using Eu = TTarvoESocialCamposdetPgtoFer;
     static const TPropriedades tabela{

@@ -30,7 +30,7 @@ TTarvoESocialCamposdetPgtoFl::TTarvoESocialCamposdetPgtoFl(const TTarvoESocialCa
       FInfoBind(AInfoBind)
 {}
 
-const TPropriedades& TTarvoESocialCamposdetPgtoFl::Propriedades() const
+const TPropriedades& TTarvoESocialCamposdetPgtoFl::Tabela()
 {
     using Eu = TTarvoESocialCamposdetPgtoFl;
     static const TPropriedades tabela{

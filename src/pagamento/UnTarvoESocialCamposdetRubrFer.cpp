@@ -17,10 +17,10 @@ TTarvoESocialCamposdetRubrFer::TTarvoESocialCamposdetRubrFer(const TTarvoESocial
     : TTarvoESocialCamposVerbaDoPagamento("{E25F2647-10A9-41EB-88BC-7C2B4C63C85A}", AInfoBind)
 {}
 
-const TPropriedades& TTarvoESocialCamposdetRubrFer::Propriedades() const
+const TPropriedades& TTarvoESocialCamposdetRubrFer::Tabela()
 {
     using Eu = TTarvoESocialCamposdetRubrFer;
-    static const TPropriedades tabela(TTarvoESocialCamposVerbaDoPagamento::Propriedades(),
+    static const TPropriedades tabela(TTarvoESocialCamposVerbaDoPagamento::Tabela(),
                                       {
                                           {"CaracteristicaVerba", &Eu::CaracteristicaVerba},
                                           {"penAlim", &Eu::penAlim},

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "framework/UnTarvoESocialCamposSqlCalculo.h"
+#include "framework/UnTarvoESocialCamposSqlCategoria.h"
 #include "imports/UnOvraFormat.h"
 #include "imports/UnTarvoConsultasGeral.h"
 #include "imports/UnTarvoUtilsDb.h"
@@ -15,7 +16,7 @@ TTarvoESocialCamposideBenef::TTarvoESocialCamposideBenef(TTarvoESocialCamposS121
       FInfoBind(AInfoBind)
 {}
 
-const TPropriedades& TTarvoESocialCamposideBenef::Propriedades() const
+const TPropriedades& TTarvoESocialCamposideBenef::Tabela()
 {
     using Eu = TTarvoESocialCamposideBenef;
     static const TPropriedades tabela{
@@ -113,7 +114,7 @@ UNION
 // The category class is 3 for the listed categories without a bond and 2 for all others, none included.
 static constexpr std::string_view SQL_DATAS_DE_PAGAMENTO = R"(WITH SQL_CATEGORIA AS (
   SELECT
-    IIF(FP_ESOCIALTABELA.CODIGO IN ('201', '202', '401', '410', '721', '158', '722', '723', '723.1', '731', '734', '738', '761', '771', '781', '901', '902'),3,2) CATEG,
+    IIF(FP_ESOCIALTABELA.CODIGO IN (%7:S),3,2) CATEG,
     EMPREGADOS.IDEMPREGADO,
     EMPREGADOS.DATA_DEMISSAO
   FROM EMPREGADOS
@@ -140,7 +141,8 @@ std::string TTarvoESocialCamposideBenef::BuscarSqlDatasDePagamento() const
     const auto LFim = FormatarDataDB(FInfoBind.DataFim, true);
     const auto LVigencia = FormatarDataDB(FInfoBind.DataInicioVigencia, true);
     return Format(SQL_DATAS_DE_PAGAMENTO, FInfoBind.ListaIdsEmpregado, FInfoBind.ListaIdsPrestServico, LInicio, LFim,
-                  LVigencia, FInfoBind.IdEmpresa, UnirRamos(FInfoBind.ListaIdsEmpregado, LVigencia, LInicio, LFim));
+                  LVigencia, FInfoBind.IdEmpresa, UnirRamos(FInfoBind.ListaIdsEmpregado, LVigencia, LInicio, LFim),
+                  CATEGORIAS_SEM_VINCULO);
 }
 
 void TTarvoESocialCamposideBenef::CarregarListaInfoPgto(const TListaCamposModificados* AListaCamposModificados)

@@ -26,7 +26,7 @@ TTarvoESocialCamposinfoPgto::TTarvoESocialCamposinfoPgto(const TTarvoESocialCamp
       IdePgtoExe(AInfoBind.IdEmpregado), FInfoBind(AInfoBind)
 {}
 
-const TPropriedades& TTarvoESocialCamposinfoPgto::Propriedades() const
+const TPropriedades& TTarvoESocialCamposinfoPgto::Tabela()
 {
     using Eu = TTarvoESocialCamposinfoPgto;
     static const TPropriedades tabela{

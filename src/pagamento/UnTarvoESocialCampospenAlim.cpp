@@ -8,7 +8,7 @@ TTarvoESocialCampospenAlim::TTarvoESocialCampospenAlim(const TTarvoESocialCampos
     : TTarvoESocialCamposGrupoBase("{283EC95E-857A-4697-8C8C-3DFF59E9A4BC}")
 {}
 
-const TPropriedades& TTarvoESocialCampospenAlim::Propriedades() const
+const TPropriedades& TTarvoESocialCampospenAlim::Tabela()
 {
     using Eu = TTarvoESocialCampospenAlim;
     static const TPropriedades tabela{

@@ -17,8 +17,10 @@ public:
     std::int64_t IdDependente = 0;
     long double vlrPensao = 0;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 };
 

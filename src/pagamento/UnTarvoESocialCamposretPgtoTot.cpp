@@ -15,9 +15,9 @@ TTarvoESocialCamposretPgtoTot::TTarvoESocialCamposretPgtoTot(const TTarvoESocial
     : TTarvoESocialCamposVerbaDoPagamento("{9F4B38A4-81FE-463F-AE3B-073A464DFCA4}", AInfoBind)
 {}
 
-const TPropriedades& TTarvoESocialCamposretPgtoTot::Propriedades() const
+const TPropriedades& TTarvoESocialCamposretPgtoTot::Tabela()
 {
-    static const TPropriedades tabela(TTarvoESocialCamposVerbaDoPagamento::Propriedades(),
+    static const TPropriedades tabela(TTarvoESocialCamposVerbaDoPagamento::Tabela(),
                                       {{"penAlim", &TTarvoESocialCamposretPgtoTot::penAlim}});
     return tabela;
 }

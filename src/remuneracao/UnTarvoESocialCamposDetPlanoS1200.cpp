@@ -14,7 +14,7 @@ TTarvoESocialCamposDetPlanoS1200::TTarvoESocialCamposDetPlanoS1200(std::int64_t 
       FDiasTrabalhadosNaLotacao(ADiasTrabalhadosNaLotacao)
 {}
 
-const TPropriedades& TTarvoESocialCamposDetPlanoS1200::Propriedades() const
+const TPropriedades& TTarvoESocialCamposDetPlanoS1200::Tabela()
 {
     using Eu = TTarvoESocialCamposDetPlanoS1200;
     static const TPropriedades tabela{

@@ -18,8 +18,10 @@ public:
     /// In reais, not rounded.
     double vlrPgDep = 0;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
     void AtribuirValoresManualmente() override;
 

@@ -11,7 +11,7 @@ TTarvoESocialCamposDmDevS1200::TTarvoESocialCamposDmDevS1200(TTarvoESocialCampos
       infoPerApur(AinfoBind1200), infoPerAnt(AinfoBind1200), infoComplCont(AinfoBind1200), FInfoBind(AinfoBind1200)
 {}
 
-const TPropriedades& TTarvoESocialCamposDmDevS1200::Propriedades() const
+const TPropriedades& TTarvoESocialCamposDmDevS1200::Tabela()
 {
     using Eu = TTarvoESocialCamposDmDevS1200;
     static const TPropriedades tabela{

@@ -8,7 +8,7 @@ TTarvoESocialCamposIdeADC1200::TTarvoESocialCamposIdeADC1200(TTarvoESocialCampos
     : TTarvoESocialCamposGrupoBase("{D11CC5E8-A4DA-48EE-9B44-60EDAACFE982}"), FInfoBind(AinfoBind1200)
 {}
 
-const TPropriedades& TTarvoESocialCamposIdeADC1200::Propriedades() const
+const TPropriedades& TTarvoESocialCamposIdeADC1200::Tabela()
 {
     using Eu = TTarvoESocialCamposIdeADC1200;
     static const TPropriedades tabela{

@@ -15,7 +15,7 @@ TTarvoESocialCamposIdeEstabLotS1200::TTarvoESocialCamposIdeEstabLotS1200(TTarvoE
       FListaIdsEmpregado(AinfoBind1200.ListaIdsEmpregado()), FListaIdsPrestServico(AinfoBind1200.ListaIdsPrestServico())
 {}
 
-const TPropriedades& TTarvoESocialCamposIdeEstabLotS1200::Propriedades() const
+const TPropriedades& TTarvoESocialCamposIdeEstabLotS1200::Tabela()
 {
     using Eu = TTarvoESocialCamposIdeEstabLotS1200;
     static const TPropriedades tabela{

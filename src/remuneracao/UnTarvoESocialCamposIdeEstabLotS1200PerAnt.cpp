@@ -12,7 +12,7 @@ TTarvoESocialCamposIdeEstabLotS1200PerAnt::TTarvoESocialCamposIdeEstabLotS1200Pe
       FListaIdsEmpregado(AinfoBind1200.ListaIdsEmpregado())
 {}
 
-const TPropriedades& TTarvoESocialCamposIdeEstabLotS1200PerAnt::Propriedades() const
+const TPropriedades& TTarvoESocialCamposIdeEstabLotS1200PerAnt::Tabela()
 {
     using Eu = TTarvoESocialCamposIdeEstabLotS1200PerAnt;
     static const TPropriedades tabela{

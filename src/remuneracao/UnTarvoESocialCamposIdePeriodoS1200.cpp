@@ -15,7 +15,7 @@ TTarvoESocialCamposIdePeriodoS1200::TTarvoESocialCamposIdePeriodoS1200(TTarvoESo
       FTipoQuebraEmpresa(TTarvoConsultasEmpresa::BuscarTipoQuebraGpsGfipEmpresa(AinfoBind1200.IdEmpresa()))
 {}
 
-const TPropriedades& TTarvoESocialCamposIdePeriodoS1200::Propriedades() const
+const TPropriedades& TTarvoESocialCamposIdePeriodoS1200::Tabela()
 {
     using Eu = TTarvoESocialCamposIdePeriodoS1200;
     static const TPropriedades tabela{

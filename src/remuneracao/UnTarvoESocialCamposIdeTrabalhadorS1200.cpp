@@ -13,7 +13,7 @@ TTarvoESocialCamposIdeTrabalhadorS1200::TTarvoESocialCamposIdeTrabalhadorS1200(
       InfoMV(AinfoBind1200), infoComplem(AinfoBind1200), infoInterm(AinfoBind1200), FInfoBind(AinfoBind1200)
 {}
 
-const TPropriedades& TTarvoESocialCamposIdeTrabalhadorS1200::Propriedades() const
+const TPropriedades& TTarvoESocialCamposIdeTrabalhadorS1200::Tabela()
 {
     using Eu = TTarvoESocialCamposIdeTrabalhadorS1200;
     static const TPropriedades tabela{

@@ -28,8 +28,10 @@ public:
     /// A further load adds to procJudTrab.
     void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

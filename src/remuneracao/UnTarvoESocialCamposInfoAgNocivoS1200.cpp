@@ -9,7 +9,7 @@ TTarvoESocialCamposInfoAgNocivoS1200::TTarvoESocialCamposInfoAgNocivoS1200(
     : TTarvoESocialCamposGrupoBase("{5E979268-0B6F-4693-80C5-AEE3070B61AE}"), FInfoBind(AinfoBind1200)
 {}
 
-const TPropriedades& TTarvoESocialCamposInfoAgNocivoS1200::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoAgNocivoS1200::Tabela()
 {
     using Eu = TTarvoESocialCamposInfoAgNocivoS1200;
     static const TPropriedades tabela{

@@ -15,8 +15,10 @@ public:
     std::int32_t grauExp = 0;
     std::string codCateg;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

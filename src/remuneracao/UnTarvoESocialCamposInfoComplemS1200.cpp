@@ -10,7 +10,7 @@ TTarvoESocialCamposInfoComplemS1200::TTarvoESocialCamposInfoComplemS1200(
     : TTarvoESocialCamposGrupoBase("{217555DF-953E-4016-85B0-34B54685AAA6}"), FInfoBind(AinfoBind1200)
 {}
 
-const TPropriedades& TTarvoESocialCamposInfoComplemS1200::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoComplemS1200::Tabela()
 {
     using Eu = TTarvoESocialCamposInfoComplemS1200;
     static const TPropriedades tabela{

@@ -12,7 +12,7 @@ TTarvoESocialCamposInfoMVS1200::TTarvoESocialCamposInfoMVS1200(const TTarvoESoci
     : TTarvoESocialCamposGrupoBase("{F973BA99-4837-456C-9BBA-4D32C02DC035}"), FInfoBind(AinfoBind1200)
 {}
 
-const TPropriedades& TTarvoESocialCamposInfoMVS1200::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoMVS1200::Tabela()
 {
     using Eu = TTarvoESocialCamposInfoMVS1200;
     static const TPropriedades tabela{

@@ -13,7 +13,7 @@ TTarvoESocialCamposInfoPerApurS1200::TTarvoESocialCamposInfoPerApurS1200(TTarvoE
     : TTarvoESocialCamposGrupoBase("{CE849CA7-40F8-4183-915B-AE3D37151892}"), FInfoBind(AinfoBind1200)
 {}
 
-const TPropriedades& TTarvoESocialCamposInfoPerApurS1200::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoPerApurS1200::Tabela()
 {
     using Eu = TTarvoESocialCamposInfoPerApurS1200;
     static const TPropriedades tabela{

@@ -7,7 +7,7 @@ TTarvoESocialCamposInfoSaudeColetS1200::TTarvoESocialCamposInfoSaudeColetS1200(
     : TTarvoESocialCamposGrupoBase("{C672AE56-2259-4EFE-A1B1-D555E2A94E38}"), FInfoBind(AinfoBind1200)
 {}
 
-const TPropriedades& TTarvoESocialCamposInfoSaudeColetS1200::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoSaudeColetS1200::Tabela()
 {
     using Eu = TTarvoESocialCamposInfoSaudeColetS1200;
     static const TPropriedades tabela{

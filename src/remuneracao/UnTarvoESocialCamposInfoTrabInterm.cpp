@@ -8,7 +8,7 @@ TTarvoESocialCamposInfoTrabInterm::TTarvoESocialCamposInfoTrabInterm(std::int64_
     : TTarvoESocialCamposGrupoBase("{EE60A85A-275B-4DFD-A4DA-B0706045527E}"), FIdDetConvocacao(AIdDetConvocacao)
 {}
 
-const TPropriedades& TTarvoESocialCamposInfoTrabInterm::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoTrabInterm::Tabela()
 {
     using Eu = TTarvoESocialCamposInfoTrabInterm;
     static const TPropriedades tabela{

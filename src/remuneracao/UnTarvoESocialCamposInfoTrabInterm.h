@@ -14,8 +14,10 @@ public:
     /// Set by the parent.
     std::int32_t codCateg = 0;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

@@ -19,7 +19,7 @@ TTarvoESocialCamposItensRemunS1200::TTarvoESocialCamposItensRemunS1200(const TTa
     : TTarvoESocialCamposGrupoBase("{362B865D-56C8-4806-B873-3C353B54AAAD}"), FInfoBind(AInfoBind)
 {}
 
-const TPropriedades& TTarvoESocialCamposItensRemunS1200::Propriedades() const
+const TPropriedades& TTarvoESocialCamposItensRemunS1200::Tabela()
 {
     using Eu = TTarvoESocialCamposItensRemunS1200;
     static const TPropriedades tabela{

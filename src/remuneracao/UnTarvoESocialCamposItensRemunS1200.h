@@ -34,8 +34,10 @@ public:
     /// Takes a row and adds it.
     void CarregarDados(const TListaCamposModificados* AListaCamposModificados, const TDadosCalculo& ADadosCalculo);
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

@@ -6,7 +6,7 @@ TTarvoESocialCamposRemunOutrEmprS1200::TTarvoESocialCamposRemunOutrEmprS1200()
     : TTarvoESocialCamposGrupoBase("{020C01EF-0020-44E7-8670-9FE2074EA739}")
 {}
 
-const TPropriedades& TTarvoESocialCamposRemunOutrEmprS1200::Propriedades() const
+const TPropriedades& TTarvoESocialCamposRemunOutrEmprS1200::Tabela()
 {
     using Eu = TTarvoESocialCamposRemunOutrEmprS1200;
     static const TPropriedades tabela{

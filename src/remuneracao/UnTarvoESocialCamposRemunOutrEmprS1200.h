@@ -18,8 +18,10 @@ public:
     /// The spelling is the property's.
     bool PossuiInfomacao() const;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
 };
 
 } // namespace tarvo::remuneracao

@@ -11,10 +11,10 @@ TTarvoESocialCamposRemunPerApurS1200::TTarvoESocialCamposRemunPerApurS1200(TTarv
     : TTarvoESocialCamposRemunS1200(AinfoBind1200, AIdFilial, AIdDepto), InfoSaudeColet(AinfoBind1200)
 {}
 
-const TPropriedades& TTarvoESocialCamposRemunPerApurS1200::Propriedades() const
+const TPropriedades& TTarvoESocialCamposRemunPerApurS1200::Tabela()
 {
     using Eu = TTarvoESocialCamposRemunPerApurS1200;
-    static const TPropriedades tabela(TTarvoESocialCamposRemunS1200::Propriedades(),
+    static const TPropriedades tabela(TTarvoESocialCamposRemunS1200::Tabela(),
                                       {
                                           {"InfoSaudeColet", &Eu::InfoSaudeColet},
                                           {"codCateg", &Eu::codCateg},

@@ -11,7 +11,7 @@ TTarvoESocialCamposRemunS1200::TTarvoESocialCamposRemunS1200(TTarvoESocialCampos
       infoAgNocivo(AinfoBind1200), FInfoBind(AinfoBind1200)
 {}
 
-const TPropriedades& TTarvoESocialCamposRemunS1200::Propriedades() const
+const TPropriedades& TTarvoESocialCamposRemunS1200::Tabela()
 {
     using Eu = TTarvoESocialCamposRemunS1200;
     static const TPropriedades tabela{

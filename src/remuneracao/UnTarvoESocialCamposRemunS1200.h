@@ -22,11 +22,13 @@ public:
     TTarvoESocialCamposInfoAgNocivoS1200 infoAgNocivo;
     TListaDeGrupos<TTarvoESocialCamposInfoTrabInterm> infoTrabInterm;
 
+    static const TPropriedades& Tabela();
+
 protected:
     TTarvoESocialCamposRemunS1200(TTarvoESocialCamposS1200IOP& AinfoBind1200, std::int64_t AIdFilial,
                                   std::int64_t AIdDepto);
 
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     /// The registration of a contract.
     std::string BuscarSQLDados() override;
     void AtribuirValoresManualmente() override;

@@ -99,7 +99,7 @@ TTarvoESocialCamposS1200::TTarvoESocialCamposS1200(TTarvoESocialCamposS1200IOP& 
       FInfoBind(AinfoBind1200)
 {}
 
-const TPropriedades& TTarvoESocialCamposS1200::Propriedades() const
+const TPropriedades& TTarvoESocialCamposS1200::Tabela()
 {
     using Eu = TTarvoESocialCamposS1200;
     static const TPropriedades tabela{

@@ -6,7 +6,7 @@ TTarvoESocialCamposSucessaoVincS1200::TTarvoESocialCamposSucessaoVincS1200()
     : TTarvoESocialCamposGrupoBase("{F8C6879B-D118-4056-9325-1124B2524EB8}")
 {}
 
-const TPropriedades& TTarvoESocialCamposSucessaoVincS1200::Propriedades() const
+const TPropriedades& TTarvoESocialCamposSucessaoVincS1200::Tabela()
 {
     using Eu = TTarvoESocialCamposSucessaoVincS1200;
     static const TPropriedades tabela{

@@ -15,7 +15,7 @@ TTarvoESocialCamposinfoComplCont::TTarvoESocialCamposinfoComplCont(const TTarvoE
     : TTarvoESocialCamposGrupoBase("{5A20ED0A-EA2B-4496-B1F1-949A116BC9DF}"), FInfoBind(AinfoBind1200)
 {}
 
-const TPropriedades& TTarvoESocialCamposinfoComplCont::Propriedades() const
+const TPropriedades& TTarvoESocialCamposinfoComplCont::Tabela()
 {
     using Eu = TTarvoESocialCamposinfoComplCont;
     static const TPropriedades tabela{

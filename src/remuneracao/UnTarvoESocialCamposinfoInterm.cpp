@@ -9,7 +9,7 @@ TTarvoESocialCamposinfoInterm::TTarvoESocialCamposinfoInterm(const TTarvoESocial
     : TTarvoESocialCamposGrupoBase("{FD37107D-863A-4021-84DF-ABED870A4096}"), FInfoBind(AinfoBind1200)
 {}
 
-const TPropriedades& TTarvoESocialCamposinfoInterm::Propriedades() const
+const TPropriedades& TTarvoESocialCamposinfoInterm::Tabela()
 {
     using Eu = TTarvoESocialCamposinfoInterm;
     static const TPropriedades tabela{{"qtdDiasInterm", &Eu::qtdDiasInterm, TFieldRelacionado("DIAS")}};

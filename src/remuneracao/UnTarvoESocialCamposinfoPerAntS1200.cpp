@@ -6,7 +6,7 @@ TTarvoESocialCamposinfoPerAntS1200::TTarvoESocialCamposinfoPerAntS1200(TTarvoESo
     : TTarvoESocialCamposGrupoBase("{4A7FEADB-8F6D-4ADF-B527-F9D7BACD6019}"), FInfoBind(AinfoBind1200)
 {}
 
-const TPropriedades& TTarvoESocialCamposinfoPerAntS1200::Propriedades() const
+const TPropriedades& TTarvoESocialCamposinfoPerAntS1200::Tabela()
 {
     using Eu = TTarvoESocialCamposinfoPerAntS1200;
     static const TPropriedades tabela{

@@ -19,8 +19,10 @@ public:
 
     void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
 
 private:
     void CarregarDadosIdeAdc(const TListaCamposModificados* AListaCamposModificados);

@@ -8,7 +8,7 @@ TTarvoESocialCamposInfoSubstPatr::TTarvoESocialCamposInfoSubstPatr(std::int64_t 
     : TTarvoESocialCamposGrupoBase("{AFDEB5B0-872B-48B5-8205-B1121186200E}"), FIdEmpresa(AIdEmpresa), FCompt(ACompt)
 {}
 
-const TPropriedades& TTarvoESocialCamposInfoSubstPatr::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoSubstPatr::Tabela()
 {
     using Eu = TTarvoESocialCamposInfoSubstPatr;
     static const TPropriedades tabela{

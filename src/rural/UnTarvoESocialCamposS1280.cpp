@@ -7,7 +7,7 @@ TTarvoESocialCamposS1280::TTarvoESocialCamposS1280(std::int64_t AIdEmpresa, TDat
       infoAtivConcom(AIdEmpresa, ACompetencia)
 {}
 
-const TPropriedades& TTarvoESocialCamposS1280::Propriedades() const
+const TPropriedades& TTarvoESocialCamposS1280::Tabela()
 {
     using Eu = TTarvoESocialCamposS1280;
     static const TPropriedades tabela{

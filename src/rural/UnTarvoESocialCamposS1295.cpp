@@ -6,7 +6,7 @@ TTarvoESocialCamposS1295::TTarvoESocialCamposS1295()
     : TTarvoESocialCamposGrupoBase("{EF1E5F06-80E9-43EA-B1EB-F5C165A29CA3}")
 {}
 
-const TPropriedades& TTarvoESocialCamposS1295::Propriedades() const
+const TPropriedades& TTarvoESocialCamposS1295::Tabela()
 {
     static const TPropriedades tabela{{"ideRespInf", &TTarvoESocialCamposS1295::ideRespInf}};
     return tabela;

@@ -8,7 +8,7 @@ TTarvoESocialCamposS1299::TTarvoESocialCamposS1299(std::int32_t AIdEmpresa, TDat
       infoFech(AIdEmpresa, ADataInicio, ADataFim, AIndApur)
 {}
 
-const TPropriedades& TTarvoESocialCamposS1299::Propriedades() const
+const TPropriedades& TTarvoESocialCamposS1299::Tabela()
 {
     using Eu = TTarvoESocialCamposS1299;
     static const TPropriedades tabela{

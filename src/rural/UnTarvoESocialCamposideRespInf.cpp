@@ -6,7 +6,7 @@ TTarvoESocialCamposideRespInf::TTarvoESocialCamposideRespInf()
     : TTarvoESocialCamposGrupoBase("{D41512F9-4174-471F-AFE1-54BF10A1EEDF}")
 {}
 
-const TPropriedades& TTarvoESocialCamposideRespInf::Propriedades() const
+const TPropriedades& TTarvoESocialCamposideRespInf::Tabela()
 {
     using Eu = TTarvoESocialCamposideRespInf;
     static const TPropriedades tabela{

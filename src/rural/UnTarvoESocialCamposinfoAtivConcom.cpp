@@ -8,7 +8,7 @@ TTarvoESocialCamposinfoAtivConcom::TTarvoESocialCamposinfoAtivConcom(std::int64_
     : TTarvoESocialCamposGrupoBase("{C03CF9DD-C91B-4B0C-8E5A-7F614B2CD36D}"), FIdEmpresa(AIdEmpresa), FCompt(ACompt)
 {}
 
-const TPropriedades& TTarvoESocialCamposinfoAtivConcom::Propriedades() const
+const TPropriedades& TTarvoESocialCamposinfoAtivConcom::Tabela()
 {
     using Eu = TTarvoESocialCamposinfoAtivConcom;
     static const TPropriedades tabela{

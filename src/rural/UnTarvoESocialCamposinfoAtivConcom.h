@@ -4,8 +4,8 @@
 
 namespace tarvo::rural {
 
-/// S-1280 infoAtivConcom: factor of concurrent activities of the month, of the head office first. Source:
-/// FP_RECEITASIMPLES.
+/// S-1280 infoAtivConcom: factor of concurrent activities of the month, of the establishment with the lowest EHMATRIZ:
+/// a branch that holds 0 goes before the head office, and that is meant. Source: FP_RECEITASIMPLES.
 class TTarvoESocialCamposinfoAtivConcom : public TTarvoESocialCamposGrupoBase {
 public:
     TTarvoESocialCamposinfoAtivConcom(std::int64_t AIdEmpresa, TDateTime ACompt);
@@ -14,8 +14,10 @@ public:
     /// The same column as fatorMes.
     double fator13 = 0;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

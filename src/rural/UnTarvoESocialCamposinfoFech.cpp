@@ -13,7 +13,7 @@ TTarvoESocialCamposinfoFech::TTarvoESocialCamposinfoFech(std::int32_t AIdEmpresa
       DataInicio(ADataInicio), DataFim(ADataFim), FIndApur(AIndApur), FCdsPesquisaEventoS1299(CriarOvraClientDataset())
 {}
 
-const TPropriedades& TTarvoESocialCamposinfoFech::Propriedades() const
+const TPropriedades& TTarvoESocialCamposinfoFech::Tabela()
 {
     using Eu = TTarvoESocialCamposinfoFech;
     static const TPropriedades tabela{

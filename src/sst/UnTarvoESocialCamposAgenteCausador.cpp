@@ -6,7 +6,7 @@ TTarvoESocialCamposAgenteCausador::TTarvoESocialCamposAgenteCausador()
     : TTarvoESocialCamposGrupoBase("{D663262B-E03F-4E0C-9F53-64960F302863}")
 {}
 
-const TPropriedades& TTarvoESocialCamposAgenteCausador::Propriedades() const
+const TPropriedades& TTarvoESocialCamposAgenteCausador::Tabela()
 {
     using Eu = TTarvoESocialCamposAgenteCausador;
     static const TPropriedades tabela{

@@ -11,8 +11,10 @@ public:
 
     std::int32_t codAgntCausador = 0;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
 };
 
 } // namespace tarvo::sst

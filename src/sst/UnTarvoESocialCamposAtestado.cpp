@@ -10,7 +10,7 @@ TTarvoESocialCamposAtestado::TTarvoESocialCamposAtestado(std::int64_t AIdTabCat)
       FIdTabCat(AIdTabCat)
 {}
 
-const TPropriedades& TTarvoESocialCamposAtestado::Propriedades() const
+const TPropriedades& TTarvoESocialCamposAtestado::Tabela()
 {
     using Eu = TTarvoESocialCamposAtestado;
     static const TPropriedades tabela{

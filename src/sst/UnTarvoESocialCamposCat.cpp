@@ -11,7 +11,7 @@ TTarvoESocialCamposCat::TTarvoESocialCamposCat(std::int64_t AIdTabCat)
       Atestado(AIdTabCat), catOrigem(AIdTabCat), FIdTabCat(AIdTabCat)
 {}
 
-const TPropriedades& TTarvoESocialCamposCat::Propriedades() const
+const TPropriedades& TTarvoESocialCamposCat::Tabela()
 {
     using Eu = TTarvoESocialCamposCat;
     static const TPropriedades tabela{

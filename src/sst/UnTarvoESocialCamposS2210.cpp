@@ -9,7 +9,7 @@ TTarvoESocialCamposS2210::TTarvoESocialCamposS2210(std::int64_t AIdTabCat)
       ideVinculo(TTarvoConsultasCAT::BuscarIdEmpregadoPeloIdTabCat(AIdTabCat)), cat(AIdTabCat)
 {}
 
-const TPropriedades& TTarvoESocialCamposS2210::Propriedades() const
+const TPropriedades& TTarvoESocialCamposS2210::Tabela()
 {
     using Eu = TTarvoESocialCamposS2210;
     static const TPropriedades tabela{

@@ -10,7 +10,7 @@ TTarvoESocialCamposS2221::TTarvoESocialCamposS2221(std::int64_t AIdExameToxicolo
       toxicologico(AIdExameToxicologico)
 {}
 
-const TPropriedades& TTarvoESocialCamposS2221::Propriedades() const
+const TPropriedades& TTarvoESocialCamposS2221::Tabela()
 {
     using Eu = TTarvoESocialCamposS2221;
     static const TPropriedades tabela{

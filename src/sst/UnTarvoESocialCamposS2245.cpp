@@ -10,7 +10,7 @@ TTarvoESocialCamposS2245::TTarvoESocialCamposS2245(std::int64_t AIdCursoEmpregad
       treiCap(AIdCursoEmpregado)
 {}
 
-const TPropriedades& TTarvoESocialCamposS2245::Propriedades() const
+const TPropriedades& TTarvoESocialCamposS2245::Tabela()
 {
     using Eu = TTarvoESocialCamposS2245;
     static const TPropriedades tabela{

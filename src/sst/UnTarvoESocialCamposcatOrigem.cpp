@@ -9,7 +9,7 @@ TTarvoESocialCamposcatOrigem::TTarvoESocialCamposcatOrigem(std::int64_t AIdTabCa
     : TTarvoESocialCamposGrupoBase("{9B50C2F8-D4F1-40FA-AA40-D4E3394DBB1D}"), FIdTabCat(AIdTabCat)
 {}
 
-const TPropriedades& TTarvoESocialCamposcatOrigem::Propriedades() const
+const TPropriedades& TTarvoESocialCamposcatOrigem::Tabela()
 {
     using Eu = TTarvoESocialCamposcatOrigem;
     static const TPropriedades tabela{

@@ -8,7 +8,7 @@ TTarvoESocialCamposideLocalAcid::TTarvoESocialCamposideLocalAcid(std::int64_t AI
     : TTarvoESocialCamposGrupoBase("{2D5A86DD-592C-4FDF-B9E2-7FF54E2040B9}"), FIdTabCat(AIdTabCat)
 {}
 
-const TPropriedades& TTarvoESocialCamposideLocalAcid::Propriedades() const
+const TPropriedades& TTarvoESocialCamposideLocalAcid::Tabela()
 {
     using Eu = TTarvoESocialCamposideLocalAcid;
     static const TPropriedades tabela{

@@ -8,7 +8,7 @@ TTarvoESocialCamposideProfResp::TTarvoESocialCamposideProfResp(std::int64_t AIde
     : TTarvoESocialCamposGrupoBase("{3C788571-88C7-4C7A-9536-B226058BEDAA}"), FIdeProfResp(AIdeProfResp)
 {}
 
-const TPropriedades& TTarvoESocialCamposideProfResp::Propriedades() const
+const TPropriedades& TTarvoESocialCamposideProfResp::Tabela()
 {
     using Eu = TTarvoESocialCamposideProfResp;
     static const TPropriedades tabela{

@@ -10,7 +10,7 @@ TTarvoESocialCamposinfoComplemS2245::TTarvoESocialCamposinfoComplemS2245(std::in
     : TTarvoESocialCamposGrupoBase("{D0F1AC11-CCF4-48C2-A031-98F74C02AF8C}"), FIdCursoEmpregado(AIdCursoEmpregado)
 {}
 
-const TPropriedades& TTarvoESocialCamposinfoComplemS2245::Propriedades() const
+const TPropriedades& TTarvoESocialCamposinfoComplemS2245::Tabela()
 {
     using Eu = TTarvoESocialCamposinfoComplemS2245;
     static const TPropriedades tabela{

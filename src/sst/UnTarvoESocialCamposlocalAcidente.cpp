@@ -9,7 +9,7 @@ TTarvoESocialCamposlocalAcidente::TTarvoESocialCamposlocalAcidente(std::int64_t 
       FIdTabCat(AIdTabCat)
 {}
 
-const TPropriedades& TTarvoESocialCamposlocalAcidente::Propriedades() const
+const TPropriedades& TTarvoESocialCamposlocalAcidente::Tabela()
 {
     using Eu = TTarvoESocialCamposlocalAcidente;
     static const TPropriedades tabela{

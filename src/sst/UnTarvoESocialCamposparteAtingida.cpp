@@ -8,7 +8,7 @@ TTarvoESocialCamposparteAtingida::TTarvoESocialCamposparteAtingida(std::int64_t 
     : TTarvoESocialCamposGrupoBase("{16093F2E-B395-4A77-9832-62D4B4088405}"), FIdCatParteAtingida(AIdCatParteAtingida)
 {}
 
-const TPropriedades& TTarvoESocialCamposparteAtingida::Propriedades() const
+const TPropriedades& TTarvoESocialCamposparteAtingida::Tabela()
 {
     using Eu = TTarvoESocialCamposparteAtingida;
     static const TPropriedades tabela{

@@ -12,8 +12,10 @@ public:
     std::int32_t codParteAting = 0;
     std::int32_t lateralidade = 0;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

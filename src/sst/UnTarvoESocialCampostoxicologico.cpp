@@ -8,7 +8,7 @@ TTarvoeSocialCampostoxicologico::TTarvoeSocialCampostoxicologico(std::int64_t AI
     : TTarvoESocialCamposGrupoBase("{FA948AF9-DCC8-4DD8-B450-6F76DFBA84DF}"), FIdExameToxicologico(AIdExameToxicologico)
 {}
 
-const TPropriedades& TTarvoeSocialCampostoxicologico::Propriedades() const
+const TPropriedades& TTarvoeSocialCampostoxicologico::Tabela()
 {
     using Eu = TTarvoeSocialCampostoxicologico;
     static const TPropriedades tabela{

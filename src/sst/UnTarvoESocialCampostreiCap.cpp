@@ -9,7 +9,7 @@ TTarvoeSocialCampostreiCap::TTarvoeSocialCampostreiCap(std::int64_t AIdCursoEmpr
       FIdCursoEmpregado(AIdCursoEmpregado)
 {}
 
-const TPropriedades& TTarvoeSocialCampostreiCap::Propriedades() const
+const TPropriedades& TTarvoeSocialCampostreiCap::Tabela()
 {
     using Eu = TTarvoeSocialCampostreiCap;
     static const TPropriedades tabela{

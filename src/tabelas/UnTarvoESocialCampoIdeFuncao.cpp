@@ -8,7 +8,7 @@ TTarvoESocialCamposIdeFuncao::TTarvoESocialCamposIdeFuncao(std::int64_t AIDCargo
     : TTarvoESocialCamposGrupoBase("{04E36CBB-4929-40E7-A9FF-6BF9639E705F}"), FIDCargosDescr(AIDCargosDescr)
 {}
 
-const TPropriedades& TTarvoESocialCamposIdeFuncao::Propriedades() const
+const TPropriedades& TTarvoESocialCamposIdeFuncao::Tabela()
 {
     using Eu = TTarvoESocialCamposIdeFuncao;
     static const TPropriedades tabela{

@@ -11,7 +11,7 @@ TTarvoESocialCamposAliqGilRat::TTarvoESocialCamposAliqGilRat(std::int64_t AIDEst
       FLugar(EstabelecimentoPrimeiro(AIDEstab, AIDDepto)), FData(AData)
 {}
 
-const TPropriedades& TTarvoESocialCamposAliqGilRat::Propriedades() const
+const TPropriedades& TTarvoESocialCamposAliqGilRat::Tabela()
 {
     using Eu = TTarvoESocialCamposAliqGilRat;
     static const TPropriedades tabela{

@@ -6,7 +6,7 @@ TTarvoESocialCamposContatoEmpresa::TTarvoESocialCamposContatoEmpresa(std::int64_
     : TTarvoESocialCamposGrupoBase("{FE541E77-0C22-4795-B191-0546A9D21915}")
 {}
 
-const TPropriedades& TTarvoESocialCamposContatoEmpresa::Propriedades() const
+const TPropriedades& TTarvoESocialCamposContatoEmpresa::Tabela()
 {
     using Eu = TTarvoESocialCamposContatoEmpresa;
     static const TPropriedades tabela{

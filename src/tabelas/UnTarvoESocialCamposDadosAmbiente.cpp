@@ -8,7 +8,7 @@ TTarvoESocialCamposDadosAmbiente::TTarvoESocialCamposDadosAmbiente(std::int64_t 
     : TTarvoESocialCamposGrupoBase("{F7488121-D4A0-4B2A-9D3F-F2CEEE851B40}"), FIdAmbiente(AIdAmbiente)
 {}
 
-const TPropriedades& TTarvoESocialCamposDadosAmbiente::Propriedades() const
+const TPropriedades& TTarvoESocialCamposDadosAmbiente::Tabela()
 {
     using Eu = TTarvoESocialCamposDadosAmbiente;
     static const TPropriedades tabela{

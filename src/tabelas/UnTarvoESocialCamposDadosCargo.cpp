@@ -10,7 +10,7 @@ TTarvoESocialCamposDadosCargo::TTarvoESocialCamposDadosCargo(std::int64_t AIDCar
       IDCargo(AIDCargosDescr), FIDCargosDescr(AIDCargosDescr)
 {}
 
-const TPropriedades& TTarvoESocialCamposDadosCargo::Propriedades() const
+const TPropriedades& TTarvoESocialCamposDadosCargo::Tabela()
 {
     using Eu = TTarvoESocialCamposDadosCargo;
     static const TPropriedades tabela{

@@ -8,7 +8,7 @@ TTarvoESocialCamposDadosCarreira::TTarvoESocialCamposDadosCarreira(std::int64_t 
     : TTarvoESocialCamposGrupoBase("{C4684A89-88A7-40C1-8CAC-106918F3A3F2}"), FIDCargosDescr(AIDCargosDescr)
 {}
 
-const TPropriedades& TTarvoESocialCamposDadosCarreira::Propriedades() const
+const TPropriedades& TTarvoESocialCamposDadosCarreira::Tabela()
 {
     using Eu = TTarvoESocialCamposDadosCarreira;
     static const TPropriedades tabela{

@@ -11,7 +11,7 @@ TTarvoESocialCamposDadosEstab::TTarvoESocialCamposDadosEstab(std::int64_t AIDEst
       FLugar(EstabelecimentoPrimeiro(AIDEstab, AIDDepto))
 {}
 
-const TPropriedades& TTarvoESocialCamposDadosEstab::Propriedades() const
+const TPropriedades& TTarvoESocialCamposDadosEstab::Tabela()
 {
     using Eu = TTarvoESocialCamposDadosEstab;
     static const TPropriedades tabela{

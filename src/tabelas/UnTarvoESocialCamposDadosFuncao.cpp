@@ -8,7 +8,7 @@ TTarvoESocialCamposDadosFuncao::TTarvoESocialCamposDadosFuncao(std::int64_t AIDC
     : TTarvoESocialCamposGrupoBase("{C8851FD6-3524-4A64-91AC-51E0BFAEB482}"), FIDCargosDescr(AIDCargosDescr)
 {}
 
-const TPropriedades& TTarvoESocialCamposDadosFuncao::Propriedades() const
+const TPropriedades& TTarvoESocialCamposDadosFuncao::Tabela()
 {
     using Eu = TTarvoESocialCamposDadosFuncao;
     static const TPropriedades tabela{

@@ -13,8 +13,10 @@ public:
     /// Without its hyphen, unlike that of a position.
     std::string codCBO;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

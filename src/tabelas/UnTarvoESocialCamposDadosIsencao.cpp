@@ -11,7 +11,7 @@ TTarvoESocialCamposDadosIsencao::TTarvoESocialCamposDadosIsencao(std::int64_t AI
     : TTarvoESocialCamposGrupoBase("{79BF728D-E393-4B62-840F-5DCE75175BDE}"), FIDEmpresa(AIDEmpresa), FData(AData)
 {}
 
-const TPropriedades& TTarvoESocialCamposDadosIsencao::Propriedades() const
+const TPropriedades& TTarvoESocialCamposDadosIsencao::Tabela()
 {
     using Eu = TTarvoESocialCamposDadosIsencao;
     static const TPropriedades tabela{

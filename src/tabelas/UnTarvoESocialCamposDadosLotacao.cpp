@@ -11,7 +11,7 @@ TTarvoESocialCamposDadosLotacao::TTarvoESocialCamposDadosLotacao(std::int64_t AI
       InfoEmprParcial(AIDEstab, AIDDepto), FLugar(DepartamentoPrimeiro(AIDEstab, AIDDepto)), FData(AData)
 {}
 
-const TPropriedades& TTarvoESocialCamposDadosLotacao::Propriedades() const
+const TPropriedades& TTarvoESocialCamposDadosLotacao::Tabela()
 {
     using Eu = TTarvoESocialCamposDadosLotacao;
     static const TPropriedades tabela{

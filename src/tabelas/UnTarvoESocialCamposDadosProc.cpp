@@ -11,7 +11,7 @@ TTarvoESocialCamposDadosProc::TTarvoESocialCamposDadosProc(std::int64_t AIdProce
       FIdProcesso(AIdProcesso)
 {}
 
-const TPropriedades& TTarvoESocialCamposDadosProc::Propriedades() const
+const TPropriedades& TTarvoESocialCamposDadosProc::Tabela()
 {
     using Eu = TTarvoESocialCamposDadosProc;
     static const TPropriedades tabela{

@@ -8,7 +8,7 @@ TTarvoESocialCamposDadosProcJud::TTarvoESocialCamposDadosProcJud(std::int64_t AI
     : TTarvoESocialCamposGrupoBase("{3297D003-ACB3-405F-BBC0-BA67DD22FFDD}"), FIdProcesso(AIdProcesso)
 {}
 
-const TPropriedades& TTarvoESocialCamposDadosProcJud::Propriedades() const
+const TPropriedades& TTarvoESocialCamposDadosProcJud::Tabela()
 {
     using Eu = TTarvoESocialCamposDadosProcJud;
     static const TPropriedades tabela{

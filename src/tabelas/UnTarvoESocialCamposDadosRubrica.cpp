@@ -17,7 +17,7 @@ TTarvoESocialCamposDadosRubrica::TTarvoESocialCamposDadosRubrica(std::int64_t AI
       FCodigosIncidencia(ACodigosIncidencia)
 {}
 
-const TPropriedades& TTarvoESocialCamposDadosRubrica::Propriedades() const
+const TPropriedades& TTarvoESocialCamposDadosRubrica::Tabela()
 {
     using Eu = TTarvoESocialCamposDadosRubrica;
     static const TPropriedades tabela{

@@ -75,16 +75,7 @@ public:
         vrPgTit = FVerba.Valor - FValorPlanoDependentes;
     }
 
-protected:
-    TTarvoESocialCamposDetOperPlanoSaude(std::string_view AGuid, const TVerbaDoPlanoSaude& AVerba,
-                                         TOperadorasDaVerba AOperadoras)
-        : TTarvoESocialCamposGrupoBase(AGuid), FVerba(AVerba), FOperadoras(AOperadoras)
-    {}
-
-    /// The comparison that selects the worker's plan rows, asked only for a rubric that has an operator.
-    virtual std::string CondicaoDoEmpregado() const = 0;
-
-    const TPropriedades& Propriedades() const override
+    static const TPropriedades& Tabela()
     {
         using Eu = TTarvoESocialCamposDetOperPlanoSaude;
         static const TPropriedades tabela{
@@ -98,6 +89,17 @@ protected:
         };
         return tabela;
     }
+
+protected:
+    TTarvoESocialCamposDetOperPlanoSaude(std::string_view AGuid, const TVerbaDoPlanoSaude& AVerba,
+                                         TOperadorasDaVerba AOperadoras)
+        : TTarvoESocialCamposGrupoBase(AGuid), FVerba(AVerba), FOperadoras(AOperadoras)
+    {}
+
+    /// The comparison that selects the worker's plan rows, asked only for a rubric that has an operator.
+    virtual std::string CondicaoDoEmpregado() const = 0;
+
+    const TPropriedades& Propriedades() const override { return Tabela(); }
 
     std::string BuscarSQLDados() override { return SqlOperadorasDaVerba(FVerba.IdVerba, FOperadoras); }
 

@@ -10,7 +10,7 @@ TTarvoESocialCamposFPASLotacao::TTarvoESocialCamposFPASLotacao(std::int64_t AIDE
       FLugar(DepartamentoPrimeiro(AIDEstab, AIDDepto)), FDataBase(ADataBase)
 {}
 
-const TPropriedades& TTarvoESocialCamposFPASLotacao::Propriedades() const
+const TPropriedades& TTarvoESocialCamposFPASLotacao::Tabela()
 {
     using Eu = TTarvoESocialCamposFPASLotacao;
     static const TPropriedades tabela{

@@ -6,7 +6,7 @@ TTarvoESocialCamposFatorRisco::TTarvoESocialCamposFatorRisco(std::int64_t)
     : TTarvoESocialCamposGrupoBase("{AED04624-90CF-45EE-9915-01568216141A}"), codFatRis("2222")
 {}
 
-const TPropriedades& TTarvoESocialCamposFatorRisco::Propriedades() const
+const TPropriedades& TTarvoESocialCamposFatorRisco::Tabela()
 {
     using Eu = TTarvoESocialCamposFatorRisco;
     static const TPropriedades tabela{

@@ -13,7 +13,7 @@ TTarvoESocialCamposHorarioIntervalo::TTarvoESocialCamposHorarioIntervalo(std::in
       FIdHorario(AIdHorario), FIdHorarioDet(AIdHorarioDet), FDiaSemana(ADiaSemana)
 {}
 
-const TPropriedades& TTarvoESocialCamposHorarioIntervalo::Propriedades() const
+const TPropriedades& TTarvoESocialCamposHorarioIntervalo::Tabela()
 {
     using Eu = TTarvoESocialCamposHorarioIntervalo;
     static const TPropriedades tabela{

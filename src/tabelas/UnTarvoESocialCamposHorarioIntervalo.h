@@ -18,8 +18,10 @@ public:
     /// Kept for the caller; the columns are read by the weekday of the constructor.
     TDiaSemana DiaSemana;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

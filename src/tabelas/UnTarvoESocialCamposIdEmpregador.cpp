@@ -8,7 +8,7 @@ TTarvoESocialCamposIdEmpregador::TTarvoESocialCamposIdEmpregador(std::int64_t AI
     : TTarvoESocialCamposGrupoBase("{57A18B43-2FE6-4077-AAB5-191DFAA9AD20}"), FIDEmpresa(AIDEmpresa)
 {}
 
-const TPropriedades& TTarvoESocialCamposIdEmpregador::Propriedades() const
+const TPropriedades& TTarvoESocialCamposIdEmpregador::Tabela()
 {
     using Eu = TTarvoESocialCamposIdEmpregador;
     static const TPropriedades tabela{

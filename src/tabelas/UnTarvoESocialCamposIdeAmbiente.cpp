@@ -8,7 +8,7 @@ TTarvoESocialCamposIdeAmbiente::TTarvoESocialCamposIdeAmbiente(std::int64_t AIdA
     : TTarvoESocialCamposGrupoBase("{EFAF7733-F1ED-4840-A2A1-7DC9FEE52574}"), FIdAmbiente(AIdAmbiente)
 {}
 
-const TPropriedades& TTarvoESocialCamposIdeAmbiente::Propriedades() const
+const TPropriedades& TTarvoESocialCamposIdeAmbiente::Tabela()
 {
     using Eu = TTarvoESocialCamposIdeAmbiente;
     static const TPropriedades tabela{

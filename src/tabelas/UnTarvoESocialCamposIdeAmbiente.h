@@ -16,8 +16,10 @@ public:
     /// For the caller to fill: the statement reads the company, but nothing takes it; meant.
     std::int64_t idEmpresa = 0;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

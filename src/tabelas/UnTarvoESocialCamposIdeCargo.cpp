@@ -8,7 +8,7 @@ TTarvoESocialCamposIdeCargo::TTarvoESocialCamposIdeCargo(std::int64_t AIDCargosD
     : TTarvoESocialCamposGrupoBase("{BA7A68F2-8515-44DA-916B-99CCF3266294}"), FIDCargosDescr(AIDCargosDescr)
 {}
 
-const TPropriedades& TTarvoESocialCamposIdeCargo::Propriedades() const
+const TPropriedades& TTarvoESocialCamposIdeCargo::Tabela()
 {
     using Eu = TTarvoESocialCamposIdeCargo;
     static const TPropriedades tabela{

@@ -8,7 +8,7 @@ TTarvoESocialCamposIdeCarreira::TTarvoESocialCamposIdeCarreira(std::int64_t AIDC
     : TTarvoESocialCamposGrupoBase("{4F3A44C8-F59A-40D2-9926-667ED5C4B7E2}"), FIDCargosDescr(AIDCargosDescr)
 {}
 
-const TPropriedades& TTarvoESocialCamposIdeCarreira::Propriedades() const
+const TPropriedades& TTarvoESocialCamposIdeCarreira::Tabela()
 {
     using Eu = TTarvoESocialCamposIdeCarreira;
     static const TPropriedades tabela{

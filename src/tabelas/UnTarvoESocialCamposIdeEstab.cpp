@@ -9,7 +9,7 @@ TTarvoESocialCamposIdeEstab::TTarvoESocialCamposIdeEstab(std::int64_t AIDEstab, 
       FLugar(EstabelecimentoPrimeiro(AIDEstab, AIDDepto))
 {}
 
-const TPropriedades& TTarvoESocialCamposIdeEstab::Propriedades() const
+const TPropriedades& TTarvoESocialCamposIdeEstab::Tabela()
 {
     using Eu = TTarvoESocialCamposIdeEstab;
     static const TPropriedades tabela{

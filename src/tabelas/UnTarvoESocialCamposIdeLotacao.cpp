@@ -9,7 +9,7 @@ TTarvoESocialCamposIdeLotacao::TTarvoESocialCamposIdeLotacao(std::int64_t AIDEst
       FLugar(DepartamentoPrimeiro(AIDEstab, AIDDepto))
 {}
 
-const TPropriedades& TTarvoESocialCamposIdeLotacao::Propriedades() const
+const TPropriedades& TTarvoESocialCamposIdeLotacao::Tabela()
 {
     using Eu = TTarvoESocialCamposIdeLotacao;
     static const TPropriedades tabela{

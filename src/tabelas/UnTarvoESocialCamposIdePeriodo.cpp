@@ -10,7 +10,7 @@ TTarvoESocialCamposIdePeriodo::TTarvoESocialCamposIdePeriodo(std::int64_t AIDEmp
     : TTarvoESocialCamposGrupoBase("{7D97CC73-27A8-4D09-9084-19D81F6BBC0A}"), FIDEmpresa(AIDEmpresa)
 {}
 
-const TPropriedades& TTarvoESocialCamposIdePeriodo::Propriedades() const
+const TPropriedades& TTarvoESocialCamposIdePeriodo::Tabela()
 {
     using Eu = TTarvoESocialCamposIdePeriodo;
     static const TPropriedades tabela{

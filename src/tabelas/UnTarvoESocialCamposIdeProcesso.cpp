@@ -9,7 +9,7 @@ TTarvoESocialCamposIdeProcesso::TTarvoESocialCamposIdeProcesso(std::int64_t AIdP
     : TTarvoESocialCamposGrupoBase("{ED03F5F6-11BD-4D8E-AE4E-E95B4B0317AF}"), FIdProcesso(AIdProcesso)
 {}
 
-const TPropriedades& TTarvoESocialCamposIdeProcesso::Propriedades() const
+const TPropriedades& TTarvoESocialCamposIdeProcesso::Tabela()
 {
     using Eu = TTarvoESocialCamposIdeProcesso;
     static const TPropriedades tabela{

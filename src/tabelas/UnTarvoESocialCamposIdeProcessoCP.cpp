@@ -9,7 +9,7 @@ TTarvoESocialCamposIdeProcessoCP::TTarvoESocialCamposIdeProcessoCP()
     : TTarvoESocialCamposIdeProcessoVerba("{2E195B15-6A53-43BD-A0F1-97B19946AA2F}")
 {}
 
-const TPropriedades& TTarvoESocialCamposIdeProcessoCP::Propriedades() const
+const TPropriedades& TTarvoESocialCamposIdeProcessoCP::Tabela()
 {
     using Eu = TTarvoESocialCamposIdeProcessoCP;
     static const TPropriedades tabela{

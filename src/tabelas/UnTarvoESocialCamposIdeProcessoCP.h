@@ -19,8 +19,10 @@ public:
     void CarregarDados(const TListaCamposModificados* AListaCamposModificados, std::int64_t AIdVerba,
                        std::int64_t AIdProcesso);
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

@@ -8,7 +8,7 @@ TTarvoESocialCamposIdeProcessoFGTS::TTarvoESocialCamposIdeProcessoFGTS()
     : TTarvoESocialCamposIdeProcessoVerba("{191D0C64-5DE5-482F-AFF5-58678CCDE592}")
 {}
 
-const TPropriedades& TTarvoESocialCamposIdeProcessoFGTS::Propriedades() const
+const TPropriedades& TTarvoESocialCamposIdeProcessoFGTS::Tabela()
 {
     static const TPropriedades tabela{
         {"NrProc", &TTarvoESocialCamposIdeProcessoFGTS::NrProc, TFieldRelacionado("NUMERO")},

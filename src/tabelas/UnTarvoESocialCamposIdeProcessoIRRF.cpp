@@ -8,7 +8,7 @@ TTarvoESocialCamposIdeProcessoIRRF::TTarvoESocialCamposIdeProcessoIRRF()
     : TTarvoESocialCamposIdeProcessoVerba("{FAEA57A6-60F4-46FB-A371-0D2FF4DC533D}")
 {}
 
-const TPropriedades& TTarvoESocialCamposIdeProcessoIRRF::Propriedades() const
+const TPropriedades& TTarvoESocialCamposIdeProcessoIRRF::Tabela()
 {
     using Eu = TTarvoESocialCamposIdeProcessoIRRF;
     static const TPropriedades tabela{

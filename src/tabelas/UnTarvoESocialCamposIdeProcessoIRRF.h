@@ -13,8 +13,10 @@ public:
     std::string NrProc;
     std::string CodSusp;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 };
 

@@ -9,7 +9,7 @@ TTarvoESocialCamposIdeProcessoSIND::TTarvoESocialCamposIdeProcessoSIND()
     : TTarvoESocialCamposIdeProcessoVerba("{CA518786-0640-4B1C-AC0E-EC9EB185DAF8}")
 {}
 
-const TPropriedades& TTarvoESocialCamposIdeProcessoSIND::Propriedades() const
+const TPropriedades& TTarvoESocialCamposIdeProcessoSIND::Tabela()
 {
     static const TPropriedades tabela{
         {"NrProc", &TTarvoESocialCamposIdeProcessoSIND::NrProc, TFieldRelacionado("NUMERO")},

@@ -14,7 +14,7 @@ TTarvoESocialCamposIdeRubrica::TTarvoESocialCamposIdeRubrica(std::int64_t AIdVer
         IdeTabRubr = "0";
 }
 
-const TPropriedades& TTarvoESocialCamposIdeRubrica::Propriedades() const
+const TPropriedades& TTarvoESocialCamposIdeRubrica::Tabela()
 {
     using Eu = TTarvoESocialCamposIdeRubrica;
     static const TPropriedades tabela{

@@ -19,7 +19,7 @@ TTarvoESocialCamposInfoApr::TTarvoESocialCamposInfoApr(std::int64_t AIDEstab, st
     CarregarInfoEntEduc();
 }
 
-const TPropriedades& TTarvoESocialCamposInfoApr::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoApr::Tabela()
 {
     using Eu = TTarvoESocialCamposInfoApr;
     static const TPropriedades tabela{

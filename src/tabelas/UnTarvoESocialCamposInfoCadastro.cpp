@@ -13,7 +13,7 @@ TTarvoESocialCamposInfoCadastro::TTarvoESocialCamposInfoCadastro(std::int64_t AI
       FIDEmpresa(AIDEmpresa), FData(AData)
 {}
 
-const TPropriedades& TTarvoESocialCamposInfoCadastro::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoCadastro::Tabela()
 {
     using Eu = TTarvoESocialCamposInfoCadastro;
     static const TPropriedades tabela{

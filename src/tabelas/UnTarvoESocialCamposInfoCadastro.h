@@ -42,8 +42,10 @@ public:
     /// Those of the children, then nine statements. Texts aren't escaped.
     void ReverterDados() override;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

@@ -9,7 +9,7 @@ TTarvoESocialCamposInfoCaepf::TTarvoESocialCamposInfoCaepf(std::int64_t AIDEstab
       FData(AData)
 {}
 
-const TPropriedades& TTarvoESocialCamposInfoCaepf::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoCaepf::Tabela()
 {
     using Eu = TTarvoESocialCamposInfoCaepf;
     static const TPropriedades tabela{

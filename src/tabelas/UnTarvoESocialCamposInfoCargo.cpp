@@ -7,7 +7,7 @@ TTarvoESocialCamposInfoCargo::TTarvoESocialCamposInfoCargo(std::int64_t AIDCargo
       DadosCargo(AIDCargosDescr)
 {}
 
-const TPropriedades& TTarvoESocialCamposInfoCargo::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoCargo::Tabela()
 {
     using Eu = TTarvoESocialCamposInfoCargo;
     static const TPropriedades tabela{

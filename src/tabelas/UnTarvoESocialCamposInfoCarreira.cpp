@@ -7,7 +7,7 @@ TTarvoESocialCamposInfoCarreira::TTarvoESocialCamposInfoCarreira(std::int64_t AI
       dadosCarreira(AIDCargosDescr)
 {}
 
-const TPropriedades& TTarvoESocialCamposInfoCarreira::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoCarreira::Tabela()
 {
     using Eu = TTarvoESocialCamposInfoCarreira;
     static const TPropriedades tabela{

@@ -7,7 +7,7 @@ TTarvoESocialCamposInfoComplementares::TTarvoESocialCamposInfoComplementares(std
       situacaoPF(AIDEmpresa, AData)
 {}
 
-const TPropriedades& TTarvoESocialCamposInfoComplementares::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoComplementares::Tabela()
 {
     using Eu = TTarvoESocialCamposInfoComplementares;
     static const TPropriedades tabela{

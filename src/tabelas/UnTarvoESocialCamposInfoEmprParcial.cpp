@@ -8,7 +8,7 @@ TTarvoESocialCamposInfoEmprParcial::TTarvoESocialCamposInfoEmprParcial(std::int6
     : TTarvoESocialCamposGrupoBase("{836E36C4-697C-4F10-A171-1D38CE9A5FB7}"), FIDDepto(AIDDepto)
 {}
 
-const TPropriedades& TTarvoESocialCamposInfoEmprParcial::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoEmprParcial::Tabela()
 {
     using Eu = TTarvoESocialCamposInfoEmprParcial;
     static const TPropriedades tabela{

@@ -7,7 +7,7 @@ TTarvoESocialCamposInfoEmpregador::TTarvoESocialCamposInfoEmpregador(std::int64_
       idePeriodo(AIDEmpresa)
 {}
 
-const TPropriedades& TTarvoESocialCamposInfoEmpregador::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoEmpregador::Tabela()
 {
     using Eu = TTarvoESocialCamposInfoEmpregador;
     static const TPropriedades tabela{

@@ -9,7 +9,7 @@ TTarvoESocialCamposInfoEntEduc::TTarvoESocialCamposInfoEntEduc(std::int64_t AIDE
     : TTarvoESocialCamposGrupoBase("{4BFD74AF-832A-4A12-84A0-21AF824A54FC}"), FIDEntEduc(AIDEntEduc)
 {}
 
-const TPropriedades& TTarvoESocialCamposInfoEntEduc::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoEntEduc::Tabela()
 {
     using Eu = TTarvoESocialCamposInfoEntEduc;
     static const TPropriedades tabela{

@@ -15,8 +15,10 @@ public:
     /// Reads even when the list of groups leaves this one out.
     void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
 
 private:
     std::int64_t FIDEntEduc;

@@ -8,7 +8,7 @@ TTarvoESocialCamposInfoEstab::TTarvoESocialCamposInfoEstab(std::int64_t AIDEstab
       DadosEstab(AIDEstab, AIDDepto, AData)
 {}
 
-const TPropriedades& TTarvoESocialCamposInfoEstab::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoEstab::Tabela()
 {
     using Eu = TTarvoESocialCamposInfoEstab;
     static const TPropriedades tabela{

@@ -7,7 +7,7 @@ TTarvoESocialCamposInfoFuncao::TTarvoESocialCamposInfoFuncao(std::int64_t AIDCar
       dadosFuncao(AIDCargosDescr)
 {}
 
-const TPropriedades& TTarvoESocialCamposInfoFuncao::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoFuncao::Tabela()
 {
     using Eu = TTarvoESocialCamposInfoFuncao;
     static const TPropriedades tabela{

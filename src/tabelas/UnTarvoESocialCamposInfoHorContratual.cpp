@@ -9,7 +9,7 @@ TTarvoESocialCamposInfoHorContratual::TTarvoESocialCamposInfoHorContratual(std::
       ideHorContratual(AIdHorario, AIdHorarioDet), dadosHorContratual(AIdHorario, AIdHorarioDet, ADiaSemana)
 {}
 
-const TPropriedades& TTarvoESocialCamposInfoHorContratual::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoHorContratual::Tabela()
 {
     using Eu = TTarvoESocialCamposInfoHorContratual;
     static const TPropriedades tabela{

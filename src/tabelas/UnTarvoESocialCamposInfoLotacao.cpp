@@ -8,7 +8,7 @@ TTarvoESocialCamposInfoLotacao::TTarvoESocialCamposInfoLotacao(std::int64_t AIDE
       DadosLotacao(AIDEstab, AIDDepto, AData)
 {}
 
-const TPropriedades& TTarvoESocialCamposInfoLotacao::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoLotacao::Tabela()
 {
     using Eu = TTarvoESocialCamposInfoLotacao;
     static const TPropriedades tabela{

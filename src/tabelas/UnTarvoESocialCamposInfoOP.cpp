@@ -14,7 +14,7 @@ TTarvoESocialCamposInfoOP::TTarvoESocialCamposInfoOP(std::int64_t)
     : TTarvoESocialCamposGrupoBase("{D0DE68ED-313F-4085-AD3C-9A859B8783AC}")
 {}
 
-const TPropriedades& TTarvoESocialCamposInfoOP::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoOP::Tabela()
 {
     using Eu = TTarvoESocialCamposInfoOP;
     static const TPropriedades tabela{

@@ -27,8 +27,10 @@ public:
 
     void ReverterDados() override;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
 };
 
 } // namespace tarvo::tabelas

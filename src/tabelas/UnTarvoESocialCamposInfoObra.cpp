@@ -9,7 +9,7 @@ TTarvoESocialCamposInfoObra::TTarvoESocialCamposInfoObra(std::int64_t AIDEstab, 
       FIDDepto(AIDDepto), FData(AData)
 {}
 
-const TPropriedades& TTarvoESocialCamposInfoObra::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoObra::Tabela()
 {
     using Eu = TTarvoESocialCamposInfoObra;
     static const TPropriedades tabela{

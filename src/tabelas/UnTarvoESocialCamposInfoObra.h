@@ -14,8 +14,10 @@ public:
     std::int64_t IdEstab;
     std::int64_t IdDepto;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

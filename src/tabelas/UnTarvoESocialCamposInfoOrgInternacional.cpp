@@ -6,7 +6,7 @@ TTarvoESocialCamposInfoOrgInternacional::TTarvoESocialCamposInfoOrgInternacional
     : TTarvoESocialCamposGrupoBase("{2077594F-5B43-44D6-84B7-73E960CAD3FD}")
 {}
 
-const TPropriedades& TTarvoESocialCamposInfoOrgInternacional::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoOrgInternacional::Tabela()
 {
     static const TPropriedades tabela{
         {"IndAcordoIsenMulta", &TTarvoESocialCamposInfoOrgInternacional::IndAcordoIsenMulta},

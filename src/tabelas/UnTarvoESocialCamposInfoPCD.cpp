@@ -9,7 +9,7 @@ TTarvoESocialCamposInfoPCD::TTarvoESocialCamposInfoPCD(std::int64_t AIDEstab, st
       FLugar(EstabelecimentoPrimeiro(AIDEstab, AIDDepto)), FData(AData)
 {}
 
-const TPropriedades& TTarvoESocialCamposInfoPCD::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoPCD::Tabela()
 {
     using Eu = TTarvoESocialCamposInfoPCD;
     static const TPropriedades tabela{

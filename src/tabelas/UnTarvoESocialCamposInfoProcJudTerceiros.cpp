@@ -43,7 +43,7 @@ TTarvoESocialCamposInfoProcJudTerceiros::TTarvoESocialCamposInfoProcJudTerceiros
     CarregarDadosProcJudTerceiro();
 }
 
-const TPropriedades& TTarvoESocialCamposInfoProcJudTerceiros::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoProcJudTerceiros::Tabela()
 {
     using Eu = TTarvoESocialCamposInfoProcJudTerceiros;
     static const TPropriedades tabela{

@@ -16,8 +16,10 @@ public:
     /// One child an entity, all of the same process. Read at construction, so that a reload leaves it as it is.
     TListaDeGrupos<TTarvoESocialCamposProcJudTerceiro> ProcJudTerceiro;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
 
 private:
     void CarregarDadosProcJudTerceiro();

@@ -10,7 +10,7 @@ TTarvoESocialCamposInfoRubrica::TTarvoESocialCamposInfoRubrica(std::int64_t AIdV
       DadosRubrica(AIdVerba, AidEmpresa, ADataGeracao, AIdRubricaRpa, ACodigosIncidencia)
 {}
 
-const TPropriedades& TTarvoESocialCamposInfoRubrica::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoRubrica::Tabela()
 {
     using Eu = TTarvoESocialCamposInfoRubrica;
     static const TPropriedades tabela{

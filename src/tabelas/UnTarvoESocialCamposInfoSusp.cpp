@@ -8,7 +8,7 @@ TTarvoESocialCamposInfoSusp::TTarvoESocialCamposInfoSusp(std::int64_t AIdInfoSus
     : TTarvoESocialCamposGrupoBase("{F527C803-0B49-4B59-BB9E-ECF17533F32C}"), FIdInfoSusp(AIdInfoSusp)
 {}
 
-const TPropriedades& TTarvoESocialCamposInfoSusp::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoSusp::Tabela()
 {
     using Eu = TTarvoESocialCamposInfoSusp;
     static const TPropriedades tabela{

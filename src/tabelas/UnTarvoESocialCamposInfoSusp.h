@@ -16,8 +16,10 @@ public:
     TDateTime dtDecisao;
     std::string indDeposito;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

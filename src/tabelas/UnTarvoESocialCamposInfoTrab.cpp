@@ -9,7 +9,7 @@ TTarvoESocialCamposInfoTrab::TTarvoESocialCamposInfoTrab(std::int64_t AIDEstab, 
       InfoPCD(AIDEstab, AIDDepto, AData), FLugar(EstabelecimentoPrimeiro(AIDEstab, AIDDepto)), FData(AData)
 {}
 
-const TPropriedades& TTarvoESocialCamposInfoTrab::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoTrab::Tabela()
 {
     using Eu = TTarvoESocialCamposInfoTrab;
     static const TPropriedades tabela{

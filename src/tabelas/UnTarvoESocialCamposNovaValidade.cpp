@@ -6,7 +6,7 @@ TTarvoESocialCamposNovaValidade::TTarvoESocialCamposNovaValidade()
     : TTarvoESocialCamposGrupoBase("{3DA25510-A3D6-421A-9FDC-B2A6CAD33F2E}")
 {}
 
-const TPropriedades& TTarvoESocialCamposNovaValidade::Propriedades() const
+const TPropriedades& TTarvoESocialCamposNovaValidade::Tabela()
 {
     using Eu = TTarvoESocialCamposNovaValidade;
     static const TPropriedades tabela{

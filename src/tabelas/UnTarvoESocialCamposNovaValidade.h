@@ -12,8 +12,10 @@ public:
     std::string IniValid() const { return {}; }
     std::string FimValid() const { return {}; }
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
 };
 
 } // namespace tarvo::tabelas

@@ -9,7 +9,7 @@ TTarvoESocialCamposProcAdmJud::TTarvoESocialCamposProcAdmJud(std::string_view AG
     : TTarvoESocialCamposGrupoBase(AGuid), FLugar(EstabelecimentoPrimeiro(AIDEstab, AIDDepto)), FData(AData)
 {}
 
-const TPropriedades& TTarvoESocialCamposProcAdmJud::Propriedades() const
+const TPropriedades& TTarvoESocialCamposProcAdmJud::Tabela()
 {
     using Eu = TTarvoESocialCamposProcAdmJud;
     static const TPropriedades tabela{

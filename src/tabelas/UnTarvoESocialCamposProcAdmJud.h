@@ -14,11 +14,13 @@ public:
     std::string IndMatProc;
     std::int64_t IdSPPROC = 0;
 
+    static const TPropriedades& Tabela();
+
 protected:
     TTarvoESocialCamposProcAdmJud(std::string_view AGuid, std::int64_t AIDEstab, std::int64_t AIDDepto,
                                   TDateTime AData);
 
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     /// The columns of the process whose id ASqlDoId selects, one row a suspension. APrefixo is `FIRST 1 ` or empty.
     static std::string SqlProcesso(std::string_view APrefixo, const std::string& ASqlDoId);
 

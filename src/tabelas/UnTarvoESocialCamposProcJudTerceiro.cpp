@@ -8,7 +8,7 @@ TTarvoESocialCamposProcJudTerceiro::TTarvoESocialCamposProcJudTerceiro(std::int6
     : TTarvoESocialCamposGrupoBase("{65526F29-BF82-44FB-B607-FB5A072EE627}"), FIdProcesso(AIdProcesso)
 {}
 
-const TPropriedades& TTarvoESocialCamposProcJudTerceiro::Propriedades() const
+const TPropriedades& TTarvoESocialCamposProcJudTerceiro::Tabela()
 {
     using Eu = TTarvoESocialCamposProcJudTerceiro;
     static const TPropriedades tabela{

@@ -7,7 +7,7 @@ TTarvoESocialCamposS1000::TTarvoESocialCamposS1000(std::int64_t AIDEmpresa, TDat
       InfoEmpregador(AIDEmpresa, AData)
 {}
 
-const TPropriedades& TTarvoESocialCamposS1000::Propriedades() const
+const TPropriedades& TTarvoESocialCamposS1000::Tabela()
 {
     using Eu = TTarvoESocialCamposS1000;
     static const TPropriedades tabela{

@@ -6,7 +6,7 @@ TTarvoESocialCamposS1005::TTarvoESocialCamposS1005(std::int64_t AIDEstab, std::i
     : TTarvoESocialCamposGrupoBase("{D80AD426-C0B7-4BCC-A993-0A5110D0F3C2}"), InfoEstab(AIDEstab, AIDDepto, AData)
 {}
 
-const TPropriedades& TTarvoESocialCamposS1005::Propriedades() const
+const TPropriedades& TTarvoESocialCamposS1005::Tabela()
 {
     using Eu = TTarvoESocialCamposS1005;
     static const TPropriedades tabela{

@@ -9,7 +9,7 @@ TTarvoESocialCamposS1010::TTarvoESocialCamposS1010(std::int64_t AIdVerba, std::i
       InfoRubrica(AIdVerba, AidEmpresa, AIdRubricaRpa, ADataGeracao, ACodigosIncidencia)
 {}
 
-const TPropriedades& TTarvoESocialCamposS1010::Propriedades() const
+const TPropriedades& TTarvoESocialCamposS1010::Tabela()
 {
     static const TPropriedades tabela{
         {"InfoRubrica", &TTarvoESocialCamposS1010::InfoRubrica},

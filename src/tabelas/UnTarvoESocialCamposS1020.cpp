@@ -6,7 +6,7 @@ TTarvoESocialCamposS1020::TTarvoESocialCamposS1020(std::int64_t AIDEstab, std::i
     : TTarvoESocialCamposGrupoBase("{C2AB6AC1-4B8B-4531-A121-69F20791F694}"), InfoLotacao(AIDEstab, AIDDepto, AData)
 {}
 
-const TPropriedades& TTarvoESocialCamposS1020::Propriedades() const
+const TPropriedades& TTarvoESocialCamposS1020::Tabela()
 {
     using Eu = TTarvoESocialCamposS1020;
     static const TPropriedades tabela{

@@ -6,7 +6,7 @@ TTarvoESocialCamposS1030::TTarvoESocialCamposS1030(std::int64_t AIDCargosDescr)
     : TTarvoESocialCamposGrupoBase("{8745651A-235E-4038-86DF-FB569C94F5D0}"), InfoCargo(AIDCargosDescr)
 {}
 
-const TPropriedades& TTarvoESocialCamposS1030::Propriedades() const
+const TPropriedades& TTarvoESocialCamposS1030::Tabela()
 {
     using Eu = TTarvoESocialCamposS1030;
     static const TPropriedades tabela{

@@ -8,7 +8,7 @@ TTarvoESocialCamposS1050::TTarvoESocialCamposS1050(std::int64_t AIdHorario, std:
       infoHorContratual(AIdHorario, AIdHorarioDet, ADiaSemana)
 {}
 
-const TPropriedades& TTarvoESocialCamposS1050::Propriedades() const
+const TPropriedades& TTarvoESocialCamposS1050::Tabela()
 {
     static const TPropriedades tabela{
         {"infoHorContratual", &TTarvoESocialCamposS1050::infoHorContratual},

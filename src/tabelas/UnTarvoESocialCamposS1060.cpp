@@ -7,7 +7,7 @@ TTarvoESocialCamposS1060::TTarvoESocialCamposS1060(std::int64_t AIdAmbiente)
       DadosAmbiente(AIdAmbiente), FatorRisco(AIdAmbiente)
 {}
 
-const TPropriedades& TTarvoESocialCamposS1060::Propriedades() const
+const TPropriedades& TTarvoESocialCamposS1060::Tabela()
 {
     using Eu = TTarvoESocialCamposS1060;
     static const TPropriedades tabela{

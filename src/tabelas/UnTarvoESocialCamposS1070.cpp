@@ -7,7 +7,7 @@ TTarvoESocialCamposS1070::TTarvoESocialCamposS1070(std::int64_t AIdProcesso)
       DadosProc(AIdProcesso)
 {}
 
-const TPropriedades& TTarvoESocialCamposS1070::Propriedades() const
+const TPropriedades& TTarvoESocialCamposS1070::Tabela()
 {
     using Eu = TTarvoESocialCamposS1070;
     static const TPropriedades tabela{

@@ -9,7 +9,7 @@ TTarvoESocialCamposSituacaoPF::TTarvoESocialCamposSituacaoPF(std::int64_t AIDEmp
     : TTarvoESocialCamposGrupoBase("{FF46BCB0-5892-41C6-A7DE-C8F0A32CC087}"), FIDEmpresa(AIDEmpresa), FData(AData)
 {}
 
-const TPropriedades& TTarvoESocialCamposSituacaoPF::Propriedades() const
+const TPropriedades& TTarvoESocialCamposSituacaoPF::Tabela()
 {
     static const TPropriedades tabela{
         {"indSitPF", &TTarvoESocialCamposSituacaoPF::indSitPF, TFieldRelacionado("INFORMACAO1")},

@@ -8,7 +8,7 @@ TTarvoESocialCamposSituacaoPJ::TTarvoESocialCamposSituacaoPJ(std::int64_t AIDEmp
     : TTarvoESocialCamposGrupoBase("{D428D78E-7613-424D-A62D-962AA5796A15}"), FIDEmpresa(AIDEmpresa), FData(AData)
 {}
 
-const TPropriedades& TTarvoESocialCamposSituacaoPJ::Propriedades() const
+const TPropriedades& TTarvoESocialCamposSituacaoPJ::Tabela()
 {
     static const TPropriedades tabela{
         {"indSitPJ", &TTarvoESocialCamposSituacaoPJ::indSitPJ, TFieldRelacionado("INFORMACAO1")},

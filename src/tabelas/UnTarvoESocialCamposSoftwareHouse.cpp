@@ -8,7 +8,7 @@ TTarvoESocialCamposSoftwareHouse::TTarvoESocialCamposSoftwareHouse(std::int64_t)
       email("esocial@tarvo.example")
 {}
 
-const TPropriedades& TTarvoESocialCamposSoftwareHouse::Propriedades() const
+const TPropriedades& TTarvoESocialCamposSoftwareHouse::Tabela()
 {
     using Eu = TTarvoESocialCamposSoftwareHouse;
     static const TPropriedades tabela{

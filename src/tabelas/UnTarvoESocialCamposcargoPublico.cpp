@@ -10,7 +10,7 @@ TTarvoESocialCamposcargoPublico::TTarvoESocialCamposcargoPublico(std::int64_t AI
       IdCargosDescr(AIDCargosDescr), FIDCargosDescr(AIDCargosDescr)
 {}
 
-const TPropriedades& TTarvoESocialCamposcargoPublico::Propriedades() const
+const TPropriedades& TTarvoESocialCamposcargoPublico::Tabela()
 {
     using Eu = TTarvoESocialCamposcargoPublico;
     static const TPropriedades tabela{

@@ -19,8 +19,10 @@ public:
     /// One statement unless acumCargo is empty, then that of the law. The values are codes and go without quotes.
     void ReverterDados() override;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

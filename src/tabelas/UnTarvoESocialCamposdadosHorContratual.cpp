@@ -14,7 +14,7 @@ TTarvoESocialCamposdadosHorContratual::TTarvoESocialCamposdadosHorContratual(std
       FDiaSemana(ADiaSemana)
 {}
 
-const TPropriedades& TTarvoESocialCamposdadosHorContratual::Propriedades() const
+const TPropriedades& TTarvoESocialCamposdadosHorContratual::Tabela()
 {
     using Eu = TTarvoESocialCamposdadosHorContratual;
     static const TPropriedades tabela{

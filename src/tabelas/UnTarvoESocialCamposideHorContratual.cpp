@@ -10,7 +10,7 @@ TTarvoESocialCamposideHorContratual::TTarvoESocialCamposideHorContratual(std::in
       FIdHorarioDet(AIdHorarioDet)
 {}
 
-const TPropriedades& TTarvoESocialCamposideHorContratual::Propriedades() const
+const TPropriedades& TTarvoESocialCamposideHorContratual::Tabela()
 {
     using Eu = TTarvoESocialCamposideHorContratual;
     static const TPropriedades tabela{

@@ -12,7 +12,7 @@ TTarvoESocialCamposleiCargo::TTarvoESocialCamposleiCargo(std::int64_t AIDCargosD
       FIDCargosDescr(AIDCargosDescr)
 {}
 
-const TPropriedades& TTarvoESocialCamposleiCargo::Propriedades() const
+const TPropriedades& TTarvoESocialCamposleiCargo::Tabela()
 {
     using Eu = TTarvoESocialCamposleiCargo;
     static const TPropriedades tabela{

@@ -18,8 +18,10 @@ public:
     /// One statement unless dtLei is empty; a text that is no date is written as day 0.
     void ReverterDados() override;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

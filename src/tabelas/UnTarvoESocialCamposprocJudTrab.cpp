@@ -8,7 +8,7 @@ TTarvoESocialCamposprocJudTrab::TTarvoESocialCamposprocJudTrab(std::int64_t AIdS
     : TTarvoESocialCamposGrupoBase(AGuid), FIdSpProc(AIdSpProc)
 {}
 
-const TPropriedades& TTarvoESocialCamposprocJudTrab::Propriedades() const
+const TPropriedades& TTarvoESocialCamposprocJudTrab::Tabela()
 {
     using Eu = TTarvoESocialCamposprocJudTrab;
     static const TPropriedades tabela{

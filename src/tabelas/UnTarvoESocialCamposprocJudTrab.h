@@ -17,8 +17,10 @@ public:
     std::string codSusp;
     std::int32_t DetalhamentoIndMat = 0;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

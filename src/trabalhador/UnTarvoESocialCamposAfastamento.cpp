@@ -11,7 +11,7 @@ TTarvoESocialCamposAfastamento::TTarvoESocialCamposAfastamento(std::int64_t AIDE
 {
 }
 
-const TPropriedades& TTarvoESocialCamposAfastamento::Propriedades() const
+const TPropriedades& TTarvoESocialCamposAfastamento::Tabela()
 {
     using Eu = TTarvoESocialCamposAfastamento;
     static const TPropriedades tabela{

@@ -17,8 +17,10 @@ public:
     /// Unset while the end is open.
     TDate DataFimSituacao;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

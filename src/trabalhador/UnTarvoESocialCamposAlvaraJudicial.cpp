@@ -10,7 +10,7 @@ TTarvoESocialCamposAlvaraJudicial::TTarvoESocialCamposAlvaraJudicial(std::int64_
 {
 }
 
-const TPropriedades& TTarvoESocialCamposAlvaraJudicial::Propriedades() const
+const TPropriedades& TTarvoESocialCamposAlvaraJudicial::Tabela()
 {
     using Eu = TTarvoESocialCamposAlvaraJudicial;
     static const TPropriedades tabela{

@@ -15,8 +15,10 @@ public:
     bool PossuiInformacao() const;
     std::int64_t IdProcesso = 0;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

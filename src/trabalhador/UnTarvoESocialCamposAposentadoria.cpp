@@ -9,7 +9,7 @@ TTarvoESocialCamposAposentadoria::TTarvoESocialCamposAposentadoria(std::int64_t 
 {
 }
 
-const TPropriedades& TTarvoESocialCamposAposentadoria::Propriedades() const
+const TPropriedades& TTarvoESocialCamposAposentadoria::Tabela()
 {
     using Eu = TTarvoESocialCamposAposentadoria;
     static const TPropriedades tabela{

@@ -10,7 +10,7 @@ TTarvoESocialCamposBrasil::TTarvoESocialCamposBrasil(std::int64_t AIDEmpregado)
 {
 }
 
-const TPropriedades& TTarvoESocialCamposBrasil::Propriedades() const
+const TPropriedades& TTarvoESocialCamposBrasil::Tabela()
 {
     using Eu = TTarvoESocialCamposBrasil;
     static const TPropriedades tabela{

@@ -26,8 +26,10 @@ public:
     /// "S/N" for a number of blanks; a number that is not set stays empty.
     std::string NumeroLogrESocial;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

@@ -10,7 +10,7 @@ TTarvoESocialCamposCargoFuncao::TTarvoESocialCamposCargoFuncao(std::int64_t AIDE
       FDataGeracao(ADataGeracao)
 {}
 
-const TPropriedades& TTarvoESocialCamposCargoFuncao::Propriedades() const
+const TPropriedades& TTarvoESocialCamposCargoFuncao::Tabela()
 {
     using Eu = TTarvoESocialCamposCargoFuncao;
     static const TPropriedades tabela{

@@ -9,7 +9,7 @@ TTarvoESocialCamposCnh::TTarvoESocialCamposCnh(std::int64_t AIDEmpregado)
 {
 }
 
-const TPropriedades& TTarvoESocialCamposCnh::Propriedades() const
+const TPropriedades& TTarvoESocialCamposCnh::Tabela()
 {
     using Eu = TTarvoESocialCamposCnh;
     static const TPropriedades tabela{

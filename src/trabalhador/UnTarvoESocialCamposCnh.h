@@ -21,8 +21,10 @@ public:
     /// For the caller; no load sets it.
     std::int64_t CodEmpregado = 0;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

@@ -35,7 +35,7 @@ TTarvoESocialCamposContato::TTarvoESocialCamposContato(std::int64_t AIDEmpregado
 {
 }
 
-const TPropriedades& TTarvoESocialCamposContato::Propriedades() const
+const TPropriedades& TTarvoESocialCamposContato::Tabela()
 {
     using Eu = TTarvoESocialCamposContato;
     static const TPropriedades tabela{

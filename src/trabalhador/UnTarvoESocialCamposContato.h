@@ -18,8 +18,10 @@ public:
     /// EMPREGADOS.FONE; never stands in for a missing FonePrincipal.
     std::string FoneCadEmpregado;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
     void AtribuirValoresManualmente() override;
 

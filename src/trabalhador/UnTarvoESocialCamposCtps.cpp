@@ -9,7 +9,7 @@ TTarvoESocialCamposCtps::TTarvoESocialCamposCtps(std::int64_t AIDEmpregado)
 {
 }
 
-const TPropriedades& TTarvoESocialCamposCtps::Propriedades() const
+const TPropriedades& TTarvoESocialCamposCtps::Tabela()
 {
     using Eu = TTarvoESocialCamposCtps;
     static const TPropriedades tabela{

@@ -9,7 +9,7 @@ TTarvoESocialCamposDependente::TTarvoESocialCamposDependente(std::int64_t AIDDep
 {
 }
 
-const TPropriedades& TTarvoESocialCamposDependente::Propriedades() const
+const TPropriedades& TTarvoESocialCamposDependente::Tabela()
 {
     using Eu = TTarvoESocialCamposDependente;
     static const TPropriedades tabela{

@@ -22,8 +22,10 @@ public:
     std::int32_t CodEmpresa = 0;
     std::int32_t CodEmpregado = 0;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

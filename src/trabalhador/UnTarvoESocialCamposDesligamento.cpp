@@ -8,7 +8,7 @@ TTarvoESocialCamposDesligamento::TTarvoESocialCamposDesligamento(std::int64_t AI
     : TTarvoESocialCamposGrupoBase("{F2AD8527-5E0E-4402-9267-4F081978DAE6}"), FIDEmpregado(AIDEmpregado)
 {}
 
-const TPropriedades& TTarvoESocialCamposDesligamento::Propriedades() const
+const TPropriedades& TTarvoESocialCamposDesligamento::Tabela()
 {
     using Eu = TTarvoESocialCamposDesligamento;
     static const TPropriedades tabela{

@@ -12,8 +12,10 @@ public:
     TDate DataDesligamento;
     bool PossuiInformacao() const { return DataDesligamento > TDate(); }
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

@@ -8,7 +8,7 @@ TTarvoESocialCamposDocumentos::TTarvoESocialCamposDocumentos(std::int64_t AIDEmp
 {
 }
 
-const TPropriedades& TTarvoESocialCamposDocumentos::Propriedades() const
+const TPropriedades& TTarvoESocialCamposDocumentos::Tabela()
 {
     using Eu = TTarvoESocialCamposDocumentos;
     static const TPropriedades tabela{

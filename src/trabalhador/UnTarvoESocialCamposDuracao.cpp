@@ -9,7 +9,7 @@ TTarvoESocialCamposDuracao::TTarvoESocialCamposDuracao(std::int64_t AIDEmpregado
 {
 }
 
-const TPropriedades& TTarvoESocialCamposDuracao::Propriedades() const
+const TPropriedades& TTarvoESocialCamposDuracao::Tabela()
 {
     using Eu = TTarvoESocialCamposDuracao;
     static const TPropriedades tabela{

@@ -9,7 +9,7 @@ TTarvoESocialCamposEmitente::TTarvoESocialCamposEmitente(std::int64_t AIdPrestSe
     : TTarvoESocialCamposGrupoBase("{6DC67193-A7AE-4474-8739-17DB3513432A}"), FIdPrestServico(AIdPrestServico)
 {}
 
-const TPropriedades& TTarvoESocialCamposEmitente::Propriedades() const
+const TPropriedades& TTarvoESocialCamposEmitente::Tabela()
 {
     using Eu = TTarvoESocialCamposEmitente;
     static const TPropriedades tabela{

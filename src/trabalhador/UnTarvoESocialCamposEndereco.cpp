@@ -8,7 +8,7 @@ TTarvoESocialCamposEndereco::TTarvoESocialCamposEndereco(std::int64_t AIDEmprega
 {
 }
 
-const TPropriedades& TTarvoESocialCamposEndereco::Propriedades() const
+const TPropriedades& TTarvoESocialCamposEndereco::Tabela()
 {
     using Eu = TTarvoESocialCamposEndereco;
     static const TPropriedades tabela{

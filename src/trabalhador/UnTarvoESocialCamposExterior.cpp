@@ -10,7 +10,7 @@ TTarvoESocialCamposExterior::TTarvoESocialCamposExterior(std::int64_t AIDEmprega
 {
 }
 
-const TPropriedades& TTarvoESocialCamposExterior::Propriedades() const
+const TPropriedades& TTarvoESocialCamposExterior::Tabela()
 {
     using Eu = TTarvoESocialCamposExterior;
     static const TPropriedades tabela{

@@ -9,7 +9,7 @@ TTarvoESocialCamposFgts::TTarvoESocialCamposFgts(std::int64_t AIDEmpregado)
 {
 }
 
-const TPropriedades& TTarvoESocialCamposFgts::Propriedades() const
+const TPropriedades& TTarvoESocialCamposFgts::Tabela()
 {
     using Eu = TTarvoESocialCamposFgts;
     static const TPropriedades tabela{

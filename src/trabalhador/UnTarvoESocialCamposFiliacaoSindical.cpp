@@ -9,7 +9,7 @@ TTarvoESocialCamposFiliacaoSindical::TTarvoESocialCamposFiliacaoSindical(std::in
 {
 }
 
-const TPropriedades& TTarvoESocialCamposFiliacaoSindical::Propriedades() const
+const TPropriedades& TTarvoESocialCamposFiliacaoSindical::Tabela()
 {
     using Eu = TTarvoESocialCamposFiliacaoSindical;
     static const TPropriedades tabela{

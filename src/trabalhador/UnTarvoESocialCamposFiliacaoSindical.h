@@ -12,8 +12,10 @@ public:
     std::string CnpjSindicato;
     std::string EmpregSindicalizado;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

@@ -25,7 +25,7 @@ TTarvoESocialCamposHorContratual::TTarvoESocialCamposHorContratual(std::int64_t 
 {
 }
 
-const TPropriedades& TTarvoESocialCamposHorContratual::Propriedades() const
+const TPropriedades& TTarvoESocialCamposHorContratual::Tabela()
 {
     using Eu = TTarvoESocialCamposHorContratual;
     static const TPropriedades tabela{

@@ -11,7 +11,7 @@ TTarvoESocialCamposHorario::TTarvoESocialCamposHorario(std::int64_t AIDHorario, 
 {
 }
 
-const TPropriedades& TTarvoESocialCamposHorario::Propriedades() const
+const TPropriedades& TTarvoESocialCamposHorario::Tabela()
 {
     using Eu = TTarvoESocialCamposHorario;
     static const TPropriedades tabela{

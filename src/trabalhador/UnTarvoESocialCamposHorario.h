@@ -17,8 +17,10 @@ public:
     /// Takes no notice of the list and reads nothing.
     void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
 
 private:
     std::int32_t FDiaSemana;

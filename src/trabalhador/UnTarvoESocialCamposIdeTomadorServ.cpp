@@ -12,7 +12,7 @@ TTarvoESocialCamposIdeTomadorServ::TTarvoESocialCamposIdeTomadorServ(std::int64_
 {
 }
 
-const TPropriedades& TTarvoESocialCamposIdeTomadorServ::Propriedades() const
+const TPropriedades& TTarvoESocialCamposIdeTomadorServ::Tabela()
 {
     using Eu = TTarvoESocialCamposIdeTomadorServ;
     static const TPropriedades tabela{

@@ -15,8 +15,10 @@ public:
     std::string TipoInscricao;
     std::string NumeroInscricao;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

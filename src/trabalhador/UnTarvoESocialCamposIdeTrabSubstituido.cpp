@@ -12,7 +12,7 @@ TTarvoESocialCamposIdeTrabSubstituido::TTarvoESocialCamposIdeTrabSubstituido(std
 {
 }
 
-const TPropriedades& TTarvoESocialCamposIdeTrabSubstituido::Propriedades() const
+const TPropriedades& TTarvoESocialCamposIdeTrabSubstituido::Tabela()
 {
     using Eu = TTarvoESocialCamposIdeTrabSubstituido;
     static const TPropriedades tabela{

@@ -21,7 +21,7 @@ TTarvoESocialCamposInfoCeletista::TTarvoESocialCamposInfoCeletista(std::int64_t 
 {
 }
 
-const TPropriedades& TTarvoESocialCamposInfoCeletista::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoCeletista::Tabela()
 {
     using Eu = TTarvoESocialCamposInfoCeletista;
     static const TPropriedades tabela{

@@ -20,7 +20,7 @@ TTarvoESocialCamposInfoContrato::TTarvoESocialCamposInfoContrato(std::string_vie
 {
 }
 
-const TPropriedades& TTarvoESocialCamposInfoContrato::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoContrato::Tabela()
 {
     using Eu = TTarvoESocialCamposInfoContrato;
     static const TPropriedades tabela{

@@ -38,11 +38,13 @@ public:
 
     void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
 
+    static const TPropriedades& Tabela();
+
 protected:
     /// For a subclass with a GUID of its own, a literal.
     TTarvoESocialCamposInfoContrato(std::string_view AGuid, std::int64_t AIDEmpregado, TDate ADataGeracao);
 
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

@@ -9,7 +9,7 @@ TTarvoESocialCamposInfoDeficiencia::TTarvoESocialCamposInfoDeficiencia(std::int6
 {
 }
 
-const TPropriedades& TTarvoESocialCamposInfoDeficiencia::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoDeficiencia::Tabela()
 {
     using Eu = TTarvoESocialCamposInfoDeficiencia;
     static const TPropriedades tabela{

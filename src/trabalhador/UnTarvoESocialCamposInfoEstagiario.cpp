@@ -11,7 +11,7 @@ TTarvoESocialCamposInfoEstagiario::TTarvoESocialCamposInfoEstagiario(std::int64_
       FDataGeracao(ADataGeracao)
 {}
 
-const TPropriedades& TTarvoESocialCamposInfoEstagiario::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoEstagiario::Tabela()
 {
     using Eu = TTarvoESocialCamposInfoEstagiario;
     static const TPropriedades tabela{

@@ -11,7 +11,7 @@ TTarvoESocialCamposInfoEstatutario::TTarvoESocialCamposInfoEstatutario(std::int6
 {
 }
 
-const TPropriedades& TTarvoESocialCamposInfoEstatutario::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoEstatutario::Tabela()
 {
     using Eu = TTarvoESocialCamposInfoEstatutario;
     static const TPropriedades tabela{

@@ -19,8 +19,10 @@ public:
     std::string nrProcJud;
     std::int64_t IdEmpregado() const { return FIDEmpregado; }
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

@@ -8,7 +8,7 @@ TTarvoESocialCamposInfoRegimeTrab::TTarvoESocialCamposInfoRegimeTrab(std::int64_
 {
 }
 
-const TPropriedades& TTarvoESocialCamposInfoRegimeTrab::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoRegimeTrab::Tabela()
 {
     using Eu = TTarvoESocialCamposInfoRegimeTrab;
     static const TPropriedades tabela{

@@ -11,7 +11,7 @@ TTarvoESocialCamposLocalTrabDom::TTarvoESocialCamposLocalTrabDom(std::int64_t AI
 {
 }
 
-const TPropriedades& TTarvoESocialCamposLocalTrabDom::Propriedades() const
+const TPropriedades& TTarvoESocialCamposLocalTrabDom::Tabela()
 {
     using Eu = TTarvoESocialCamposLocalTrabDom;
     static const TPropriedades tabela{

@@ -12,7 +12,7 @@ TTarvoESocialCamposLocalTrabGeral::TTarvoESocialCamposLocalTrabGeral(std::int64_
 {
 }
 
-const TPropriedades& TTarvoESocialCamposLocalTrabGeral::Propriedades() const
+const TPropriedades& TTarvoESocialCamposLocalTrabGeral::Tabela()
 {
     using Eu = TTarvoESocialCamposLocalTrabGeral;
     static const TPropriedades tabela{

@@ -8,7 +8,7 @@ TTarvoESocialCamposLocalTrabalho::TTarvoESocialCamposLocalTrabalho(std::int64_t 
 {
 }
 
-const TPropriedades& TTarvoESocialCamposLocalTrabalho::Propriedades() const
+const TPropriedades& TTarvoESocialCamposLocalTrabalho::Tabela()
 {
     using Eu = TTarvoESocialCamposLocalTrabalho;
     static const TPropriedades tabela{

@@ -9,7 +9,7 @@ TTarvoESocialCamposNascimento::TTarvoESocialCamposNascimento(std::int64_t AIDEmp
 {
 }
 
-const TPropriedades& TTarvoESocialCamposNascimento::Propriedades() const
+const TPropriedades& TTarvoESocialCamposNascimento::Tabela()
 {
     using Eu = TTarvoESocialCamposNascimento;
     static const TPropriedades tabela{

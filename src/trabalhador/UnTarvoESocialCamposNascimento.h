@@ -27,8 +27,10 @@ public:
     std::string CodigoESocialPaisNascion;
     std::int64_t IdEmpregado() const { return FIDEmpregado; }
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

@@ -10,7 +10,7 @@ TTarvoESocialCamposObservacoes::TTarvoESocialCamposObservacoes(std::int64_t AIdE
 {
 }
 
-const TPropriedades& TTarvoESocialCamposObservacoes::Propriedades() const
+const TPropriedades& TTarvoESocialCamposObservacoes::Tabela()
 {
     static const TPropriedades tabela{
         {"Observacao", &TTarvoESocialCamposObservacoes::Observacao},

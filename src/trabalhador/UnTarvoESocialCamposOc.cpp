@@ -9,7 +9,7 @@ TTarvoESocialCamposOc::TTarvoESocialCamposOc(std::int64_t AIDEmpregado)
 {
 }
 
-const TPropriedades& TTarvoESocialCamposOc::Propriedades() const
+const TPropriedades& TTarvoESocialCamposOc::Tabela()
 {
     using Eu = TTarvoESocialCamposOc;
     static const TPropriedades tabela{

@@ -11,7 +11,7 @@ TTarvoESocialCamposRemuneracao::TTarvoESocialCamposRemuneracao(std::int64_t AIDE
 {
 }
 
-const TPropriedades& TTarvoESocialCamposRemuneracao::Propriedades() const
+const TPropriedades& TTarvoESocialCamposRemuneracao::Tabela()
 {
     using Eu = TTarvoESocialCamposRemuneracao;
     static const TPropriedades tabela{

@@ -17,8 +17,10 @@ public:
     std::string TipoRemuneracaoDesc;
     std::string DescricaoSalarioVariavel;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
     void AtribuirValoresManualmente() override;
 

@@ -9,7 +9,7 @@ TTarvoESocialCamposRg::TTarvoESocialCamposRg(std::int64_t AIDEmpregado)
 {
 }
 
-const TPropriedades& TTarvoESocialCamposRg::Propriedades() const
+const TPropriedades& TTarvoESocialCamposRg::Tabela()
 {
     using Eu = TTarvoESocialCamposRg;
     static const TPropriedades tabela{

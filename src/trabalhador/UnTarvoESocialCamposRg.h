@@ -17,8 +17,10 @@ public:
     /// CA06_PAIS.PAIS, not the id.
     std::int32_t PaisNascimento = 0;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

@@ -7,7 +7,7 @@ TTarvoESocialCamposRic::TTarvoESocialCamposRic()
 {
 }
 
-const TPropriedades& TTarvoESocialCamposRic::Propriedades() const
+const TPropriedades& TTarvoESocialCamposRic::Tabela()
 {
     using Eu = TTarvoESocialCamposRic;
     static const TPropriedades tabela{

@@ -13,8 +13,10 @@ public:
     std::string OrgaoEmissor;
     TDate DataExpedicao;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
 };
 
 } // namespace tarvo::trabalhador

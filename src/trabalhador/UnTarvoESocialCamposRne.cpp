@@ -9,7 +9,7 @@ TTarvoESocialCamposRne::TTarvoESocialCamposRne(std::int64_t AIDEmpregado)
 {
 }
 
-const TPropriedades& TTarvoESocialCamposRne::Propriedades() const
+const TPropriedades& TTarvoESocialCamposRne::Tabela()
 {
     using Eu = TTarvoESocialCamposRne;
     static const TPropriedades tabela{

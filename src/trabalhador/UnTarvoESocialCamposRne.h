@@ -17,8 +17,10 @@ public:
     /// Whether the document is to be reported; the country alone is no reason to.
     bool PossuiInformacao() const;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

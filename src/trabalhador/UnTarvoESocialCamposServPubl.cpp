@@ -10,7 +10,7 @@ TTarvoESocialCamposServPubl::TTarvoESocialCamposServPubl(std::int64_t AIdEmprega
 {
 }
 
-const TPropriedades& TTarvoESocialCamposServPubl::Propriedades() const
+const TPropriedades& TTarvoESocialCamposServPubl::Tabela()
 {
     using Eu = TTarvoESocialCamposServPubl;
     static const TPropriedades tabela{

@@ -9,7 +9,7 @@ TTarvoESocialCamposSucessaoVinc::TTarvoESocialCamposSucessaoVinc(std::int64_t AI
 {
 }
 
-const TPropriedades& TTarvoESocialCamposSucessaoVinc::Propriedades() const
+const TPropriedades& TTarvoESocialCamposSucessaoVinc::Tabela()
 {
     using Eu = TTarvoESocialCamposSucessaoVinc;
     static const TPropriedades tabela{

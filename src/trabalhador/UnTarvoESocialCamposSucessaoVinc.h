@@ -20,8 +20,10 @@ public:
     std::string TpInscEmpregador;
     std::int64_t IdEmpregado() const { return FIDEmpregado; }
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

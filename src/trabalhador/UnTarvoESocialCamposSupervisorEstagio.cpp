@@ -9,7 +9,7 @@ TTarvoESocialCamposSupervisorEstagio::TTarvoESocialCamposSupervisorEstagio(std::
     : TTarvoESocialCamposGrupoBase("{C50D08D9-50EB-41D1-8905-C064E23BFEFF}"), FIDEmpregado(AIDEmpregado)
 {}
 
-const TPropriedades& TTarvoESocialCamposSupervisorEstagio::Propriedades() const
+const TPropriedades& TTarvoESocialCamposSupervisorEstagio::Tabela()
 {
     using Eu = TTarvoESocialCamposSupervisorEstagio;
     static const TPropriedades tabela{

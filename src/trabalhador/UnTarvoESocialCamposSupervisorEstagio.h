@@ -12,8 +12,10 @@ public:
     std::string cpfSupervisor;
     std::string nmSuperv;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

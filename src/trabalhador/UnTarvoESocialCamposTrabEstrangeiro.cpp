@@ -10,7 +10,7 @@ TTarvoESocialCamposTrabEstrangeiro::TTarvoESocialCamposTrabEstrangeiro(std::int6
 {
 }
 
-const TPropriedades& TTarvoESocialCamposTrabEstrangeiro::Propriedades() const
+const TPropriedades& TTarvoESocialCamposTrabEstrangeiro::Tabela()
 {
     using Eu = TTarvoESocialCamposTrabEstrangeiro;
     static const TPropriedades tabela{

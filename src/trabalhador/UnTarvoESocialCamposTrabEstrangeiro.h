@@ -19,8 +19,10 @@ public:
     /// True for every country of birth but Brazil, and also where there is none.
     bool PossuiInformacao() const;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

@@ -13,7 +13,7 @@ TTarvoESocialCamposTrabTemporario::TTarvoESocialCamposTrabTemporario(std::int64_
 {
 }
 
-const TPropriedades& TTarvoESocialCamposTrabTemporario::Propriedades() const
+const TPropriedades& TTarvoESocialCamposTrabTemporario::Tabela()
 {
     using Eu = TTarvoESocialCamposTrabTemporario;
     static const TPropriedades tabela{

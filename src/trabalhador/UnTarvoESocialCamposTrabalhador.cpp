@@ -12,7 +12,7 @@ TTarvoESocialCamposTrabalhador::TTarvoESocialCamposTrabalhador(std::int64_t AIDE
       Aposentadoria(AIDEmpregado), Contato(AIDEmpregado), FIDEmpregado(AIDEmpregado)
 {}
 
-const TPropriedades& TTarvoESocialCamposTrabalhador::Propriedades() const
+const TPropriedades& TTarvoESocialCamposTrabalhador::Tabela()
 {
     using Eu = TTarvoESocialCamposTrabalhador;
     static const TPropriedades tabela{

@@ -49,8 +49,10 @@ public:
     /// Leaves one dependant of id 0, not loaded, in the list.
     void CriarDependenteUnico();
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

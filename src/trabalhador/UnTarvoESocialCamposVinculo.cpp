@@ -13,7 +13,7 @@ TTarvoESocialCamposVinculo::TTarvoESocialCamposVinculo(std::int64_t AIDEmpregado
 {
 }
 
-const TPropriedades& TTarvoESocialCamposVinculo::Propriedades() const
+const TPropriedades& TTarvoESocialCamposVinculo::Tabela()
 {
     using Eu = TTarvoESocialCamposVinculo;
     static const TPropriedades tabela{

@@ -9,7 +9,7 @@ TTarvoESocialCamposideVinculo::TTarvoESocialCamposideVinculo(std::int64_t AIdEmp
 {
 }
 
-const TPropriedades& TTarvoESocialCamposideVinculo::Propriedades() const
+const TPropriedades& TTarvoESocialCamposideVinculo::Tabela()
 {
     using Eu = TTarvoESocialCamposideVinculo;
     static const TPropriedades tabela{

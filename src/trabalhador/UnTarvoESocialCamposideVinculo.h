@@ -18,8 +18,10 @@ public:
     /// Always two characters when set: a longer one is cut.
     std::string Contrato;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

@@ -6,7 +6,7 @@ TTarvoESocialCamposinstEnsino::TTarvoESocialCamposinstEnsino(std::int64_t AIDEmp
     : TTarvoESocialCamposEntidadeEstagio("{80BA0B7E-BFFF-49C1-88F0-6202E2F522A7}", AIDEmpregado, "INFORMACAO5")
 {}
 
-const TPropriedades& TTarvoESocialCamposinstEnsino::Propriedades() const
+const TPropriedades& TTarvoESocialCamposinstEnsino::Tabela()
 {
     static const TPropriedades tabela = TabelaComCnpj(
         {"cnpjInstEnsino", &TTarvoESocialCamposinstEnsino::cnpjInstEnsino, TFieldRelacionado("INSCRICAO")});

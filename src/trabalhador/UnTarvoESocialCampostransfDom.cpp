@@ -9,7 +9,7 @@ TTarvoESocialCampostransfDom::TTarvoESocialCampostransfDom(std::int64_t AIdEmpre
 {
 }
 
-const TPropriedades& TTarvoESocialCampostransfDom::Propriedades() const
+const TPropriedades& TTarvoESocialCampostransfDom::Tabela()
 {
     using Eu = TTarvoESocialCampostransfDom;
     static const TPropriedades tabela{

@@ -1,5 +1,6 @@
 #include "apoio/UnBancoDeTeste.h"
 
+#include <ibase.h>
 #include <unistd.h>
 
 #include <cstdlib>
@@ -11,6 +12,7 @@
 #include "banco/UnBancoEmbutido.h"
 #include "imports/UnOvraConversoes.h"
 #include "imports/UnOvraScriptSql.h"
+#include "imports/UnTarvoConexaoBrenco.h"
 #include "imports/UnTarvoUtilsDb.h"
 
 namespace tarvo::testes {
@@ -89,15 +91,7 @@ TValorSql::TValorSql(double AValor) : FTexto(FloatToStr(AValor))
 
 TValorSql::TValorSql(TDateTime AData) : FTexto(FormatarDataDB(AData, true)) {}
 
-TValorSql::TValorSql(const char* ATexto) : FTexto("'")
-{
-    for (; *ATexto != '\0'; ++ATexto) {
-        FTexto += *ATexto;
-        if (*ATexto == '\'')
-            FTexto += '\'';
-    }
-    FTexto += "'";
-}
+TValorSql::TValorSql(const char* ATexto) : FTexto(QuotedStr(ATexto)) {}
 
 void Inserir(const char* ATabela, TCamposSql ACampos)
 {
@@ -137,23 +131,46 @@ void TTesteComBanco::TearDown()
     DefinirOvraConnection(nullptr);
 }
 
-void FecharConexoes() { Conexoes().clear(); }
+void FecharConexoes()
+{
+    Conexoes().clear();
+    // The engine's own threads end here, and not while the process, or the search for leaks at its end, is under way.
+    constexpr unsigned MILISSEGUNDOS = 10'000;
+    fb_shutdown(MILISSEGUNDOS, fb_shutrsn_app_stopped);
+}
 
 TOvraConnection& TTesteComBanco::Conexao() { return *Conexoes()[ComExemplo()]; }
 
-void ConferirGolden(const std::string& ANome, const std::string& AJson)
+TBrencoLigado::TBrencoLigado(TOvraConnection& AConexao)
 {
-    const fs::path LArquivo = fs::path(PASTA_DOS_GOLDENS) / (ANome + ".json");
+    BuscarInstanciaTarvoConexaoBrenco().DefinirConexao(&AConexao);
+    BuscarInstanciaTarvoConexaoBrencoUsuario().DefinirUsuarioTemPermissao(true);
+}
+
+TBrencoLigado::~TBrencoLigado()
+{
+    BuscarInstanciaTarvoConexaoBrenco().DefinirConexao(nullptr);
+    BuscarInstanciaTarvoConexaoBrencoUsuario().DefinirUsuarioTemPermissao(false);
+}
+
+void ConferirArquivo(const std::string& AArquivo, const std::string& ATexto)
+{
+    const fs::path LArquivo(AArquivo);
     if (!DoAmbiente("ATUALIZAR_GOLDENS", "").empty()) {
         fs::create_directories(LArquivo.parent_path());
-        std::ofstream(LArquivo) << AJson << '\n';
+        std::ofstream(LArquivo) << ATexto;
         return;
     }
     std::ifstream LEntrada(LArquivo);
-    ASSERT_TRUE(LEntrada) << "Falta o golden " << LArquivo;
+    ASSERT_TRUE(LEntrada) << "Falta o arquivo " << LArquivo;
     std::stringstream LEsperado;
     LEsperado << LEntrada.rdbuf();
-    EXPECT_EQ(LEsperado.str(), AJson + '\n') << LArquivo;
+    EXPECT_EQ(LEsperado.str(), ATexto) << LArquivo;
+}
+
+void ConferirGolden(const std::string& ANome, const std::string& AJson)
+{
+    ConferirArquivo(std::string(PASTA_DOS_GOLDENS) + "/" + ANome + ".json", AJson + '\n');
 }
 
 } // namespace tarvo::testes

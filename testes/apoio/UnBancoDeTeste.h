@@ -19,7 +19,7 @@ namespace tarvo::testes {
 TParametrosConexao ParametrosDoBanco(const std::string& ANomeDoArquivo);
 /// A fresh database with the schema, and with the sample company when asked; made once per name.
 TParametrosConexao CriarBancoDeTeste(const std::string& ANomeDoArquivo, bool AComExemplo);
-/// Closes the connections that the fixtures share; the last act of a run.
+/// Closes the connections that the fixtures share and ends the engine; the last act of a run.
 void FecharConexoes();
 
 /// A value of a column on its way into an INSERT.
@@ -68,7 +68,18 @@ protected:
     bool ComExemplo() const override { return true; }
 };
 
-/// Compares a JSON with the file of that name in goldens/; with ATUALIZAR_GOLDENS=1 in the environment writes it.
+/// The sibling system on a connection, and the user allowed to read it, as long as this lives.
+class TBrencoLigado {
+public:
+    explicit TBrencoLigado(TOvraConnection& AConexao);
+    TBrencoLigado(const TBrencoLigado&) = delete;
+    TBrencoLigado& operator=(const TBrencoLigado&) = delete;
+    ~TBrencoLigado();
+};
+
+/// Compares a text with a file, whole; with ATUALIZAR_GOLDENS=1 in the environment writes it.
+void ConferirArquivo(const std::string& AArquivo, const std::string& ATexto);
+/// The same for a JSON and the file of that name in goldens/.
 void ConferirGolden(const std::string& ANome, const std::string& AJson);
 
 } // namespace tarvo::testes

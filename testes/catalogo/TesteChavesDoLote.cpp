@@ -108,6 +108,73 @@ TEST_F(TTesteChavesDoLote, SaudeESegurancaVaoPelosRegistrosDaEmpresa)
     }
 }
 
+TEST_F(TTesteChavesDoLote, SemVinculoPelaCategoriaECadaEventoDoVinculoPeloSeuRegistro)
+{
+    // The categories that the payments know are without a bond, and so is every one from 700 on.
+    int LId = 20;
+    for (const char* LCodigo : {"101", "158", "201", "301", "401", "410", "701", "723.1", "901", "903"}) {
+        Inserir("FP_ESOCIALTABELA", {{"IDESOCIALTABELA", ++LId}, {"CODIGO", LCodigo}});
+        Inserir("EMPREGADOS", {{"IDEMPREGADO", LId},
+                               {"IDEMPRESA", 2},
+                               {"IDCATEGORIAESOCIAL", LId},
+                               {"DATA_DEMISSAO", LId % 2 == 0 ? TValorSql(D(2021, 3, 31)) : TValorSql(nullptr)}});
+    }
+    Inserir("EMPREGADOS", {{"IDEMPREGADO", 40}, {"IDEMPRESA", 2}, {"DATA_DEMISSAO", D(2021, 3, 1)}});
+    Inserir("EMPREGADOS", {{"IDEMPREGADO", 50}, {"IDEMPRESA", 1}, {"IDCATEGORIAESOCIAL", 29}});
+    for (const int LDono : {21, 50})
+        for (const int LMais : {2, 1}) {
+            const int LNumero = LDono * 10 + LMais;
+            const TValorSql LSoNoPrimeiro = LMais == 1 ? TValorSql(D(2021, 3, 31)) : TValorSql(nullptr);
+            Inserir("SITUACOES", {{"IDSITUACAO", LNumero},
+                                  {"IDEMPREGADO", LDono},
+                                  {"DATA", D(2021, 3, 1)},
+                                  {"DATA_FIM", LSoNoPrimeiro},
+                                  {"IDESOCIALTABELA18", 21}});
+            Inserir("FP_AVISOPREVIO", {{"IDAVISOPREVIO", LNumero}, {"IDEMPREGADO", LDono}});
+            for (int LVez = 0; LVez < 2; ++LVez)
+                Inserir("FP_CONTRAINTERM", {{"IDEMPREGADO", LDono}, {"DATACONVOCACAO", D(2021, 3, LMais)}});
+            Inserir("SC00_ESOCIALREINFXML", {{"IDESOCIALREINFXML", LNumero},
+                                             {"IDEMPRESA", LDono == 50 ? 1 : 2},
+                                             {"TPEVENTO", "S-2300"},
+                                             {"TPAMB", LMais}});
+            for (const int LStatus : {401, 201, 202})
+                Inserir("SC00_ESOCIALREINFDET", {{"IDEVENTO", LNumero}, {"STATUS", LStatus}});
+        }
+    // Neither a situation that is no leave nor an event that was refused.
+    Inserir("SITUACOES",
+            {{"IDSITUACAO", 3}, {"IDEMPREGADO", 21}, {"DATA", D(2021, 3, 1)}, {"DATA_FIM", D(2021, 3, 2)}});
+    Inserir("SC00_ESOCIALREINFXML", {{"IDESOCIALREINFXML", 3}, {"IDEMPRESA", 2}, {"TPEVENTO", "S-2300"}, {"TPAMB", 1}});
+    Inserir("SC00_ESOCIALREINFDET", {{"IDEVENTO", 3}, {"STATUS", 401}});
+
+    using TArgumentos = std::map<std::string, std::string>;
+    const TArgumentos LPeriodo{
+        {"DataInicio", "2021-03-01"}, {"DataFim", "2021-03-31"}, {"ADataInicioEventosPeriodicos", "2018-05-01"}};
+    for (auto [LEvento, LArgumentos, LEsperado] :
+         {std::tuple<const char*, TArgumentos, const char*>{"S-2100", {{"ADataGeracao", "2021-03-31"}}, "21 24 40 "},
+          {"S-2190", {}, "21 24 40 "},
+          {"S-2205", {}, "21 22 23 24 25 26 27 28 29 30 40 "},
+          {"S-2206", {{"AData", "2021-03-31"}}, "21 24 40 "},
+          {"S-2300", {{"ADataGeracao", "2021-03-31"}}, "22 23 25 26 27 28 29 30 "},
+          {"S-2306", {{"adata", "2021-03-31"}}, "22 23 25 26 27 28 29 30 "},
+          {"S-2399", LPeriodo, "22 26 28 30 "},
+          {"S-2299", LPeriodo, "24 40 "},
+          {"S-2230", {{"ATipoEvento", "1"}}, "211 212 "},
+          {"S-2230", {{"ATipoEvento", "2"}}, "211 "},
+          {"S-2250", {}, "211 212 "},
+          {"S-2260",
+           {},
+           R"({"AIdEmpregado":21,"ADataInicio":"2021-03-01"} {"AIdEmpregado":21,"ADataInicio":"2021-03-02"} )"},
+          {"S-3000", {}, "211 "}}) {
+        LArgumentos["IdEmpresa"] = "2";
+        std::string LTexto;
+        for (const auto& LChave : BuscarChavesDoLote(LEvento, LArgumentos)) {
+            LTexto += LChave.Json + " ";
+            EXPECT_NO_THROW(ConstruirEvento(LEvento, LChave.Argumentos)) << LEvento;
+        }
+        EXPECT_EQ(LEsperado, LTexto) << LEvento;
+    }
+}
+
 TEST_F(TTesteChavesDoLote, ArgumentoErradoOuEventoSemLote)
 {
     EXPECT_THROW(BuscarChavesDoLote("S-1000", {}), EArgumentoInvalido);

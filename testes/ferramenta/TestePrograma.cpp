@@ -86,6 +86,8 @@ TEST(TTestePrograma, UsoErradoDizOQueEstaErradoESaiComDois)
          "não é uma data"},
         {{"reverter", "S-2200", "--banco", B}, "desconhecido: 'S-2200'"},
         {{"eventos", "S-0"}, "Evento desconhecido"},
+        {{"eventos", "--esquema"}, "Falta informar o evento"},
+        {{"eventos", "S-1000", "--esquema", "--markdown"}, "só uma das opções"},
         {{"criar-banco"}, "Falta informar --banco"},
     };
     for (const auto& [LArgumentos, LTexto] : LCasos) {
@@ -112,6 +114,28 @@ TEST(TTestePrograma, FalhaDaCargaSaiComUmENadaNaSaidaPadrao)
         EXPECT_NE(std::string::npos, LSaida.Erros.find(LTexto)) << LSaida.Erros;
     }
     EXPECT_EQ(0, Rodar(S1000()).Codigo); // the refused criar-banco left the database as it was
+}
+
+TEST(TTestePrograma, OSistemaIrmaoVemDeOutroBancoOuDoMesmo)
+{
+    const auto Compras = [](const char* ATipoConexao, const std::vector<std::string>& AMais = {}) {
+        std::vector<std::string> LArgumentos{
+            "carregar",      "S-1250",     "--banco",    Banco(),      "--AIDEstabelecimento", "8101",
+            "--ADataInicio", "2021-03-01", "--ADataFim", "2021-03-31", "--ATipoConexao",       ATipoConexao};
+        LArgumentos.insert(LArgumentos.end(), AMais.begin(), AMais.end());
+        return Rodar(LArgumentos);
+    };
+    const auto Golden = [](const std::string& ANome) {
+        return LerArquivo(std::string(PASTA_DOS_GOLDENS) + "/S-1250/" + ANome + ".json");
+    };
+    const auto LIrmao = CriarBancoDeTeste("programa-brenco.fdb", true).BancoDeDados;
+    EXPECT_EQ(Golden("folha"), Compras("1").Padrao);
+    EXPECT_EQ(Golden("brenco"), Compras("2", {"--brenco", Banco()}).Padrao);
+    EXPECT_EQ(Golden("externo"), Compras("2", {"--brenco", LIrmao}).Padrao);
+    const auto LSemIrmao = Compras("2");
+    EXPECT_EQ(1, LSemIrmao.Codigo);
+    EXPECT_EQ("", LSemIrmao.Padrao);
+    EXPECT_NE(std::string::npos, LSemIrmao.Erros.find("ideEstabAdquir")) << LSemIrmao.Erros;
 }
 
 TEST(TTestePrograma, CarregaEMostraOJson)

@@ -242,6 +242,7 @@ protected:
 TEST_P(TTesteDadosRuins, CadaPropriedadeComColunaSegueAsRegras)
 {
     Conexao().DefinirReaproveitamento(false);
+    const TBrencoLigado LBrenco(Conexao());
     for (const auto& LCaso : CasosDoEvento(GetParam(), true)) {
         const auto LEvento = ConstruirEvento(LCaso.Evento, LCaso.Argumentos);
         ProvarArvore(*LEvento.Evento); // what the constructor makes is there even if the load changes it

@@ -148,19 +148,34 @@ TEST_F(TTesteFechamento, PercentualDaDesoneracaoSoComIndicadorUm)
     EXPECT_THROW(LGrupo.CarregarDados(), EDatabaseError);
 }
 
-TEST_F(TTesteFechamento, FatorVemDaMatrizPrimeiro)
+TEST_F(TTesteFechamento, FatorSegueAOrdemDosEstabelecimentos)
 {
-    Inserir("SC00_FILIAL", {{"IDFILIAL", 1}, {"EHMATRIZ", 2}});
-    Inserir("SC00_FILIAL", {{"IDFILIAL", 2}, {"EHMATRIZ", 1}});
-    for (const auto& [LData, LFilial, LFator] : {std::tuple{D(2021, 3, 15), 1, 0.25},
-                                                 {D(2021, 3, 31), 2, 0.5},
-                                                 {D(2020, 3, 1), 2, 0.75},
-                                                 {D(2021, 4, 1), 2, 0.85}})
-        Inserir("FP_RECEITASIMPLES", {{"IDEMPRESA", 1}, {"IDFILIAL", LFilial}, {"DATA", LData}, {"FATOR", LFator}});
-    TTarvoESocialCamposinfoAtivConcom LGrupo(1, D(2021, 3, 1));
-    LGrupo.CarregarDados();
-    EXPECT_EQ(0.5, LGrupo.fatorMes);
-    EXPECT_EQ(0.5, LGrupo.fator13);
+    struct TCaso {
+        int Filial;
+        int EhMatriz;
+        TValorSql Depto;
+        TDateTime Data;
+        double Fator;
+        double Esperado;
+    };
+    // Each row goes before those that are already there, or is of another month.
+    for (const auto& LCaso :
+         {TCaso{5, 2, nullptr, D(2021, 3, 15), 0.125, 0.125}, TCaso{4, 1, 9, D(2021, 3, 31), 0.25, 0.25},
+          TCaso{4, 1, 8, D(2021, 3, 1), 0.375, 0.375}, TCaso{3, 1, 9, D(2021, 3, 1), 0.5, 0.5},
+          TCaso{6, 0, 9, D(2021, 3, 1), 0.625, 0.625}, TCaso{1, 0, 1, D(2020, 3, 1), 0.75, 0.625},
+          TCaso{1, 0, 1, D(2021, 4, 1), 0.875, 0.625}}) {
+        Executar("DELETE FROM SC00_FILIAL WHERE IDFILIAL = " + std::to_string(LCaso.Filial));
+        Inserir("SC00_FILIAL", {{"IDFILIAL", LCaso.Filial}, {"EHMATRIZ", LCaso.EhMatriz}});
+        Inserir("FP_RECEITASIMPLES", {{"IDEMPRESA", 1},
+                                      {"IDFILIAL", LCaso.Filial},
+                                      {"IDDEPTO", LCaso.Depto},
+                                      {"DATA", LCaso.Data},
+                                      {"FATOR", LCaso.Fator}});
+        TTarvoESocialCamposinfoAtivConcom LGrupo(1, D(2021, 3, 1));
+        LGrupo.CarregarDados();
+        EXPECT_EQ(LCaso.Esperado, LGrupo.fatorMes);
+        EXPECT_EQ(LCaso.Esperado, LGrupo.fator13);
+    }
 }
 
 } // namespace

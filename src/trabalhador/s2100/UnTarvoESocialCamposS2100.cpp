@@ -8,7 +8,7 @@ TTarvoESocialCamposS2100::TTarvoESocialCamposS2100(std::int64_t AIDEmpregado, TD
 {
 }
 
-const TPropriedades& TTarvoESocialCamposS2100::Propriedades() const
+const TPropriedades& TTarvoESocialCamposS2100::Tabela()
 {
     using Eu = TTarvoESocialCamposS2100;
     static const TPropriedades tabela{

@@ -7,7 +7,7 @@ TTarvoESocialCamposS2190::TTarvoESocialCamposS2190(std::int64_t AIdEmpregado)
 {
 }
 
-const TPropriedades& TTarvoESocialCamposS2190::Propriedades() const
+const TPropriedades& TTarvoESocialCamposS2190::Tabela()
 {
     static const TPropriedades tabela{
         {"infoRegPrelim", &TTarvoESocialCamposS2190::infoRegPrelim},

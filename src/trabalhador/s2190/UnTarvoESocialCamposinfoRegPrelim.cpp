@@ -9,7 +9,7 @@ TTarvoESocialCamposinfoRegPrelim::TTarvoESocialCamposinfoRegPrelim(std::int64_t 
 {
 }
 
-const TPropriedades& TTarvoESocialCamposinfoRegPrelim::Propriedades() const
+const TPropriedades& TTarvoESocialCamposinfoRegPrelim::Tabela()
 {
     using Eu = TTarvoESocialCamposinfoRegPrelim;
     static const TPropriedades tabela{

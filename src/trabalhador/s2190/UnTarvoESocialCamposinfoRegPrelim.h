@@ -13,8 +13,10 @@ public:
     TDateTime dtNascto;
     TDateTime dtAdm;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

@@ -8,7 +8,7 @@ TTarvoESocialCamposS2200::TTarvoESocialCamposS2200(std::int64_t, std::int64_t AI
 {
 }
 
-const TPropriedades& TTarvoESocialCamposS2200::Propriedades() const
+const TPropriedades& TTarvoESocialCamposS2200::Tabela()
 {
     using Eu = TTarvoESocialCamposS2200;
     static const TPropriedades tabela{

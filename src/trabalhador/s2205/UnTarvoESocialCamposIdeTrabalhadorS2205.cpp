@@ -9,7 +9,7 @@ TTarvoESocialCamposIdeTrabalhadorS2205::TTarvoESocialCamposIdeTrabalhadorS2205(s
 {
 }
 
-const TPropriedades& TTarvoESocialCamposIdeTrabalhadorS2205::Propriedades() const
+const TPropriedades& TTarvoESocialCamposIdeTrabalhadorS2205::Tabela()
 {
     static const TPropriedades tabela{
         {"cpfTrab", &TTarvoESocialCamposIdeTrabalhadorS2205::cpfTrab, TFieldRelacionado("CPF")},

@@ -8,7 +8,7 @@ TTarvoESocialCamposS2205::TTarvoESocialCamposS2205(std::int64_t AIDEmpregado)
 {
 }
 
-const TPropriedades& TTarvoESocialCamposS2205::Propriedades() const
+const TPropriedades& TTarvoESocialCamposS2205::Tabela()
 {
     using Eu = TTarvoESocialCamposS2205;
     static const TPropriedades tabela{

@@ -7,7 +7,7 @@ TTarvoESocialCamposalteracao::TTarvoESocialCamposalteracao(std::int64_t AIDEmpre
 {
 }
 
-const TPropriedades& TTarvoESocialCamposalteracao::Propriedades() const
+const TPropriedades& TTarvoESocialCamposalteracao::Tabela()
 {
     using Eu = TTarvoESocialCamposalteracao;
     static const TPropriedades tabela{

@@ -9,10 +9,10 @@ TTarvoESocialCamposInfoContratoS2206::TTarvoESocialCamposInfoContratoS2206(std::
 {
 }
 
-const TPropriedades& TTarvoESocialCamposInfoContratoS2206::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoContratoS2206::Tabela()
 {
     static const TPropriedades tabela{
-        TTarvoESocialCamposInfoContrato::Propriedades(),
+        TTarvoESocialCamposInfoContrato::Tabela(),
         {{"servPubl", &TTarvoESocialCamposInfoContratoS2206::servPubl}},
     };
     return tabela;

@@ -8,7 +8,7 @@ TTarvoESocialCamposS2206::TTarvoESocialCamposS2206(std::int64_t AIDEmpregado, TD
 {
 }
 
-const TPropriedades& TTarvoESocialCamposS2206::Propriedades() const
+const TPropriedades& TTarvoESocialCamposS2206::Tabela()
 {
     using Eu = TTarvoESocialCamposS2206;
     static const TPropriedades tabela{

@@ -12,7 +12,7 @@ TTarvoESocialCamposaltContratual::TTarvoESocialCamposaltContratual(std::int64_t 
 {
 }
 
-const TPropriedades& TTarvoESocialCamposaltContratual::Propriedades() const
+const TPropriedades& TTarvoESocialCamposaltContratual::Tabela()
 {
     using Eu = TTarvoESocialCamposaltContratual;
     static const TPropriedades tabela{

@@ -10,7 +10,7 @@ TTarvoESocialCamposS2230::TTarvoESocialCamposS2230(std::int64_t AIdSituacao, TTi
       infoAfastamento(AIdSituacao, ATipoEvento)
 {}
 
-const TPropriedades& TTarvoESocialCamposS2230::Propriedades() const
+const TPropriedades& TTarvoESocialCamposS2230::Tabela()
 {
     using Eu = TTarvoESocialCamposS2230;
     static const TPropriedades tabela{

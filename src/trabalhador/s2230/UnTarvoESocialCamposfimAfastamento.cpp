@@ -8,7 +8,7 @@ TTarvoESocialCamposfimAfastamento::TTarvoESocialCamposfimAfastamento(std::int64_
     : TTarvoESocialCamposGrupoBase("{1FEEC1EB-572C-43D1-801D-F45F1969E20C}"), FIdSituacao(AIdSituacao)
 {}
 
-const TPropriedades& TTarvoESocialCamposfimAfastamento::Propriedades() const
+const TPropriedades& TTarvoESocialCamposfimAfastamento::Tabela()
 {
     using Eu = TTarvoESocialCamposfimAfastamento;
     static const TPropriedades tabela{

@@ -8,7 +8,7 @@ TTarvoESocialCamposinfoAfastamento::TTarvoESocialCamposinfoAfastamento(std::int6
       fimAfastamento(AIdSituacao), infoRetif(AIdSituacao), FTipoEvento(ATipoEvento)
 {}
 
-const TPropriedades& TTarvoESocialCamposinfoAfastamento::Propriedades() const
+const TPropriedades& TTarvoESocialCamposinfoAfastamento::Tabela()
 {
     using Eu = TTarvoESocialCamposinfoAfastamento;
     static const TPropriedades tabela{

@@ -11,7 +11,7 @@ TTarvoESocialCamposinfoAtestado::TTarvoESocialCamposinfoAtestado(std::int64_t AI
       FIdSituacaoAtestado(AIdSituacaoAtestado)
 {}
 
-const TPropriedades& TTarvoESocialCamposinfoAtestado::Propriedades() const
+const TPropriedades& TTarvoESocialCamposinfoAtestado::Tabela()
 {
     using Eu = TTarvoESocialCamposinfoAtestado;
     static const TPropriedades tabela{

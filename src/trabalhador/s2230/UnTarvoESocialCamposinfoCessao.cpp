@@ -9,7 +9,7 @@ TTarvoESocialCamposinfoCessao::TTarvoESocialCamposinfoCessao(std::int64_t AIdSit
     : TTarvoESocialCamposGrupoBase("{3E71567F-5B97-4D64-ACF5-3939831EFAE1}"), FIdSituacao(AIdSituacao)
 {}
 
-const TPropriedades& TTarvoESocialCamposinfoCessao::Propriedades() const
+const TPropriedades& TTarvoESocialCamposinfoCessao::Tabela()
 {
     using Eu = TTarvoESocialCamposinfoCessao;
     static const TPropriedades tabela{

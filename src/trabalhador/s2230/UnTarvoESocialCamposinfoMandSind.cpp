@@ -9,7 +9,7 @@ TTarvoESocialCamposinfoMandSind::TTarvoESocialCamposinfoMandSind(std::int64_t AI
     : TTarvoESocialCamposGrupoBase("{91696DCC-1C0E-444D-B423-41A37FDED03F}"), FIdSituacao(AIdSituacao)
 {}
 
-const TPropriedades& TTarvoESocialCamposinfoMandSind::Propriedades() const
+const TPropriedades& TTarvoESocialCamposinfoMandSind::Tabela()
 {
     using Eu = TTarvoESocialCamposinfoMandSind;
     static const TPropriedades tabela{

@@ -12,8 +12,10 @@ public:
     std::string cnpjSind;
     std::int32_t infOnusRemun = 0;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

@@ -8,7 +8,7 @@ TTarvoESocialCamposinfoRetif::TTarvoESocialCamposinfoRetif(std::int64_t AIDSitua
     : TTarvoESocialCamposGrupoBase("{67A72D5A-6912-4C58-8BF7-04742722E828}"), FIDSituacao(AIDSituacao)
 {}
 
-const TPropriedades& TTarvoESocialCamposinfoRetif::Propriedades() const
+const TPropriedades& TTarvoESocialCamposinfoRetif::Tabela()
 {
     using Eu = TTarvoESocialCamposinfoRetif;
     static const TPropriedades tabela{

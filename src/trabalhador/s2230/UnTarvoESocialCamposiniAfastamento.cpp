@@ -18,7 +18,7 @@ TTarvoESocialCamposiniAfastamento::TTarvoESocialCamposiniAfastamento(std::int64_
       infoMandSind(AIdSituacao), FIdSituacao(AIdSituacao)
 {}
 
-const TPropriedades& TTarvoESocialCamposiniAfastamento::Propriedades() const
+const TPropriedades& TTarvoESocialCamposiniAfastamento::Tabela()
 {
     using Eu = TTarvoESocialCamposiniAfastamento;
     static const TPropriedades tabela{

@@ -10,7 +10,7 @@ TTarvoESocialCamposS2250::TTarvoESocialCamposS2250(std::int64_t AIdAvisoPrevio)
       infoAvPrevio(AIdAvisoPrevio)
 {}
 
-const TPropriedades& TTarvoESocialCamposS2250::Propriedades() const
+const TPropriedades& TTarvoESocialCamposS2250::Tabela()
 {
     using Eu = TTarvoESocialCamposS2250;
     static const TPropriedades tabela{

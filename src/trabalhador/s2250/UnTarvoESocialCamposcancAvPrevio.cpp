@@ -8,7 +8,7 @@ TTarvoESocialCamposcancAvPrevio::TTarvoESocialCamposcancAvPrevio(std::int64_t AI
     : TTarvoESocialCamposGrupoBase("{95482CA8-54DB-4824-A7CF-8AA4AE1276B5}"), FIdAvisoPrevio(AIdAvisoPrevio)
 {}
 
-const TPropriedades& TTarvoESocialCamposcancAvPrevio::Propriedades() const
+const TPropriedades& TTarvoESocialCamposcancAvPrevio::Tabela()
 {
     using Eu = TTarvoESocialCamposcancAvPrevio;
     static const TPropriedades tabela{

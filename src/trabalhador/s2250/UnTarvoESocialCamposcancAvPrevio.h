@@ -13,8 +13,10 @@ public:
     std::string observacao;
     std::string mtvCancAvPrevio;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

@@ -8,7 +8,7 @@ TTarvoESocialCamposdetAvPrevio::TTarvoESocialCamposdetAvPrevio(std::int64_t AIdA
     : TTarvoESocialCamposGrupoBase("{FF49A5FF-F3FB-4C14-BD0D-47DDE7E89216}"), FIdAvisoPrevio(AIdAvisoPrevio)
 {}
 
-const TPropriedades& TTarvoESocialCamposdetAvPrevio::Propriedades() const
+const TPropriedades& TTarvoESocialCamposdetAvPrevio::Tabela()
 {
     using Eu = TTarvoESocialCamposdetAvPrevio;
     static const TPropriedades tabela{

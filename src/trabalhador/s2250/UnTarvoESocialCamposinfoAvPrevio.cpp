@@ -7,7 +7,7 @@ TTarvoESocialCamposinfoAvPrevio::TTarvoESocialCamposinfoAvPrevio(std::int64_t AI
       cancAvPrevio(AIdAvisoPrevio)
 {}
 
-const TPropriedades& TTarvoESocialCamposinfoAvPrevio::Propriedades() const
+const TPropriedades& TTarvoESocialCamposinfoAvPrevio::Tabela()
 {
     using Eu = TTarvoESocialCamposinfoAvPrevio;
     static const TPropriedades tabela{

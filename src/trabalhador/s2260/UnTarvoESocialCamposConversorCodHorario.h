@@ -8,6 +8,7 @@ namespace tarvo::trabalhador {
 class TTarvoESocialCamposConversorCodHorario : public TTarvoESocialCamposConversorAbstrato {
 public:
     static constexpr const char* NOME = "TTarvoESocialCamposConversorCodHorario";
+    static constexpr const char* REGRA = "um número inteiro sai com sete dígitos";
     std::string BuscarValor(const std::string& AValor) override;
 };
 

@@ -12,7 +12,7 @@ TTarvoESocialCamposInfoConvInterm::TTarvoESocialCamposInfoConvInterm(std::int64_
       FIdEmpregado(static_cast<std::int32_t>(AIdEmpregado)), FDataInicio(ADataInicio)
 {}
 
-const TPropriedades& TTarvoESocialCamposInfoConvInterm::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoConvInterm::Tabela()
 {
     using Eu = TTarvoESocialCamposInfoConvInterm;
     static const TPropriedades tabela{

@@ -13,7 +13,7 @@ TTarvoESocialCamposJornada::TTarvoESocialCamposJornada(std::int64_t AIdEmpregado
     RegistrarConversor(ClasseConversor<TTarvoESocialCamposConversorCodHorario>());
 }
 
-const TPropriedades& TTarvoESocialCamposJornada::Propriedades() const
+const TPropriedades& TTarvoESocialCamposJornada::Tabela()
 {
     using Eu = TTarvoESocialCamposJornada;
     static const TPropriedades tabela{

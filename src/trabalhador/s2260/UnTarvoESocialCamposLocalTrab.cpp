@@ -10,7 +10,7 @@ TTarvoESocialCamposLocalTrab::TTarvoESocialCamposLocalTrab(std::int64_t AIdEmpre
       LocalTrabInterm(AIdEmpregado, ADataInicio), FIdEmpregado(AIdEmpregado), FDataInicio(ADataInicio)
 {}
 
-const TPropriedades& TTarvoESocialCamposLocalTrab::Propriedades() const
+const TPropriedades& TTarvoESocialCamposLocalTrab::Tabela()
 {
     using Eu = TTarvoESocialCamposLocalTrab;
     static const TPropriedades tabela{

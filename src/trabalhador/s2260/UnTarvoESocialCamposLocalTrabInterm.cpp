@@ -10,7 +10,7 @@ TTarvoESocialCamposLocalTrabInterm::TTarvoESocialCamposLocalTrabInterm(std::int6
       FDataInicio(ADataInicio)
 {}
 
-const TPropriedades& TTarvoESocialCamposLocalTrabInterm::Propriedades() const
+const TPropriedades& TTarvoESocialCamposLocalTrabInterm::Tabela()
 {
     using Eu = TTarvoESocialCamposLocalTrabInterm;
     static const TPropriedades tabela{

@@ -7,7 +7,7 @@ TTarvoESocialCamposS2260::TTarvoESocialCamposS2260(std::int64_t AIdEmpregado, TD
       InfoConvInterm(AIdEmpregado, ADataInicio)
 {}
 
-const TPropriedades& TTarvoESocialCamposS2260::Propriedades() const
+const TPropriedades& TTarvoESocialCamposS2260::Tabela()
 {
     using Eu = TTarvoESocialCamposS2260;
     static const TPropriedades tabela{

@@ -9,7 +9,7 @@ TTarvoESocialCamposInfoComplementaresEmpregado::TTarvoESocialCamposInfoComplemen
       InfoTrabCedido(AIDEmpregado), InfoEstagiario(AIDEmpregado, ADataGeracao)
 {}
 
-const TPropriedades& TTarvoESocialCamposInfoComplementaresEmpregado::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoComplementaresEmpregado::Tabela()
 {
     using Eu = TTarvoESocialCamposInfoComplementaresEmpregado;
     static const TPropriedades tabela{

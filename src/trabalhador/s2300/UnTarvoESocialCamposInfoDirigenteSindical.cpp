@@ -8,7 +8,7 @@ TTarvoESocialCamposInfoDirigenteSindical::TTarvoESocialCamposInfoDirigenteSindic
     : TTarvoESocialCamposGrupoBase("{0DEAFC3F-F175-4F40-A19E-92D71D6CBE32}"), FIDEmpregado(AIDEmpregado)
 {}
 
-const TPropriedades& TTarvoESocialCamposInfoDirigenteSindical::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoDirigenteSindical::Tabela()
 {
     using Eu = TTarvoESocialCamposInfoDirigenteSindical;
     static const TPropriedades tabela{

@@ -15,8 +15,10 @@ public:
     TDateTime dtAdmOrigem;
     std::string matricOrig;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

@@ -11,7 +11,7 @@ TTarvoESocialCamposInfoTSVInicio::TTarvoESocialCamposInfoTSVInicio(std::int64_t 
       FIDEmpregado(AIDEmpregado)
 {}
 
-const TPropriedades& TTarvoESocialCamposInfoTSVInicio::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoTSVInicio::Tabela()
 {
     using Eu = TTarvoESocialCamposInfoTSVInicio;
     static const TPropriedades tabela{

@@ -9,7 +9,7 @@ TTarvoESocialCamposInfoTrabCedido::TTarvoESocialCamposInfoTrabCedido(std::int64_
     : TTarvoESocialCamposGrupoBase("{79BD2DB1-3436-4D42-9CFD-D2F6409078C9}"), FIDEmpregado(AIDEmpregado)
 {}
 
-const TPropriedades& TTarvoESocialCamposInfoTrabCedido::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoTrabCedido::Tabela()
 {
     using Eu = TTarvoESocialCamposInfoTrabCedido;
     static const TPropriedades tabela{

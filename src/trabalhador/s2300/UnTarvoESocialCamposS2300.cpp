@@ -7,7 +7,7 @@ TTarvoESocialCamposS2300::TTarvoESocialCamposS2300(std::int64_t AIdEmpregado, TD
       infoTSVInicio(AIdEmpregado, ADataGeracao)
 {}
 
-const TPropriedades& TTarvoESocialCamposS2300::Propriedades() const
+const TPropriedades& TTarvoESocialCamposS2300::Tabela()
 {
     using Eu = TTarvoESocialCamposS2300;
     static const TPropriedades tabela{

@@ -9,7 +9,7 @@ TTarvoESocialCamposTermino::TTarvoESocialCamposTermino(std::int64_t AIDEmpregado
     : TTarvoESocialCamposGrupoBase("{9373C2B3-BBF9-4D74-8DFD-ABEC95E0590A}"), FIDEmpregado(AIDEmpregado)
 {}
 
-const TPropriedades& TTarvoESocialCamposTermino::Propriedades() const
+const TPropriedades& TTarvoESocialCamposTermino::Tabela()
 {
     using Eu = TTarvoESocialCamposTermino;
     static const TPropriedades tabela{

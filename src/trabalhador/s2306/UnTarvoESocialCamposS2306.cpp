@@ -7,7 +7,7 @@ TTarvoESocialCamposS2306::TTarvoESocialCamposS2306(std::int64_t AIdEmpregado, TD
       infoTSVAlteracao(AIdEmpregado, AData)
 {}
 
-const TPropriedades& TTarvoESocialCamposS2306::Propriedades() const
+const TPropriedades& TTarvoESocialCamposS2306::Tabela()
 {
     using Eu = TTarvoESocialCamposS2306;
     static const TPropriedades tabela{

@@ -8,7 +8,7 @@ TTarvoESocialCamposinfoComplementares2306::TTarvoESocialCamposinfoComplementares
       remuneracao(AIdEmpregado, AData), infoEstagiario(AIdEmpregado, AData)
 {}
 
-const TPropriedades& TTarvoESocialCamposinfoComplementares2306::Propriedades() const
+const TPropriedades& TTarvoESocialCamposinfoComplementares2306::Tabela()
 {
     using Eu = TTarvoESocialCamposinfoComplementares2306;
     static const TPropriedades tabela{

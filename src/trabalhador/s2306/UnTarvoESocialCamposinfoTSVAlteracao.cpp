@@ -9,7 +9,7 @@ TTarvoESocialCamposinfoTSVAlteracao::TTarvoESocialCamposinfoTSVAlteracao(std::in
       infoComplementares2306(AIdEmpregado, AData), FIdEmpregado(AIdEmpregado)
 {}
 
-const TPropriedades& TTarvoESocialCamposinfoTSVAlteracao::Propriedades() const
+const TPropriedades& TTarvoESocialCamposinfoTSVAlteracao::Tabela()
 {
     using Eu = TTarvoESocialCamposinfoTSVAlteracao;
     static const TPropriedades tabela{

@@ -8,7 +8,7 @@ TTarvoESocialCamposIdeFolhaPagtoS3000::TTarvoESocialCamposIdeFolhaPagtoS3000(std
     : TTarvoESocialCamposGrupoBase("{EF5DFA59-4ED4-4C77-9D34-F688B3CB8E7D}"), FIdEvento(AIdEvento)
 {}
 
-const TPropriedades& TTarvoESocialCamposIdeFolhaPagtoS3000::Propriedades() const
+const TPropriedades& TTarvoESocialCamposIdeFolhaPagtoS3000::Tabela()
 {
     using Eu = TTarvoESocialCamposIdeFolhaPagtoS3000;
     static const TPropriedades tabela{

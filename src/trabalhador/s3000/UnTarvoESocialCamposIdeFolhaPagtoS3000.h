@@ -13,8 +13,10 @@ public:
     std::int32_t indApuracao = 0;
     TDate perApur;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

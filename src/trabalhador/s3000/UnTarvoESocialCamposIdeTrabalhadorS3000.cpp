@@ -15,7 +15,7 @@ TTarvoESocialCamposIdeTrabalhadorS3000::TTarvoESocialCamposIdeTrabalhadorS3000(s
     BuscarTipoEvento(AIdEvento);
 }
 
-const TPropriedades& TTarvoESocialCamposIdeTrabalhadorS3000::Propriedades() const
+const TPropriedades& TTarvoESocialCamposIdeTrabalhadorS3000::Tabela()
 {
     using Eu = TTarvoESocialCamposIdeTrabalhadorS3000;
     static const TPropriedades tabela{

@@ -17,8 +17,10 @@ public:
     /// 0 for the pay and the payments of a month, and for a category whose code is no whole number (723.1).
     std::int32_t CodCateg = 0;
 
+    static const TPropriedades& Tabela();
+
 protected:
-    const TPropriedades& Propriedades() const override;
+    const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
 
 private:

@@ -9,7 +9,7 @@ TTarvoESocialCamposInfoExclusao::TTarvoESocialCamposInfoExclusao(std::int64_t AI
       ideFolhaPagto(AIdEvento), FIdEvento(AIdEvento)
 {}
 
-const TPropriedades& TTarvoESocialCamposInfoExclusao::Propriedades() const
+const TPropriedades& TTarvoESocialCamposInfoExclusao::Tabela()
 {
     using Eu = TTarvoESocialCamposInfoExclusao;
     static const TPropriedades tabela{

@@ -1,0 +1,35 @@
+#include "rural/UnTarvoESocialCampostpAquis.h"
+
+#include "imports/UnOvraFormat.h"
+#include "imports/UnTarvoConsultasGeral.h"
+#include "rural/UnTarvoESocialCamposideProdutor.h"
+
+namespace tarvo::rural {
+
+TTarvoESocialCampostpAquis::TTarvoESocialCampostpAquis(std::int64_t AIDEstabelecimento, TDateTime ADataInicio,
+                                                       TDateTime ADataFim, std::int32_t AProducaoIsenta)
+    : TTarvoESocialCampostpAquisBase(AIDEstabelecimento, ADataInicio, ADataFim, AProducaoIsenta)
+{}
+
+std::string TTarvoESocialCampostpAquis::BuscarSQLDados()
+{
+    static constexpr std::string_view SQL = R"(SELECT DISTINCT SUM (MOV_PRESTSERV.VALOR) AS VALOR
+%0:s)";
+    return Format(SQL, ComprasDaFolha(Compras(), ProducaoIsenta()));
+}
+
+void TTarvoESocialCampostpAquis::CarregarDados(const TListaCamposModificados* AListaCamposModificados)
+{
+    static constexpr std::string_view SQL = R"(SELECT DISTINCT PREST_SERVICO.CPF
+%0:s)";
+    TTarvoESocialCampostpAquisBase::CarregarDados(AListaCamposModificados);
+    const auto LProdutores =
+        TTarvoConsultasGeral::BuscarRegistros(Format(SQL, ComprasDaFolha(Compras(), ProducaoIsenta())));
+    if (LProdutores->IsEmpty())
+        return;
+    const auto LSomas =
+        AcrescentarProdutores<TTarvoESocialCamposideProdutor>(*LProdutores, "CPF", AListaCamposModificados);
+    AcrescentarInfoProcJ(LSomas, AListaCamposModificados);
+}
+
+} // namespace tarvo::rural
