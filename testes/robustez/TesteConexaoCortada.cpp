@@ -89,9 +89,16 @@ TEST_P(TTesteConexaoCortada, ACargaFalhaEUmaConexaoNovaServe)
         DefinirOvraConnection(LConexao.get());
         const auto LId = Consultar("SELECT CURRENT_CONNECTION FROM RDB$DATABASE");
         std::size_t LPasso = 0;
-        LConexao->DefinirVigia([&](TPassoSql) {
-            if (LPasso++ == LCorte)
-                Cortar(LId);
+        std::size_t LPedidos = 0;
+        std::size_t LPodem = 0;
+        LConexao->DefinirVigia([&](TPassoSql APasso) {
+            if (LPasso > LCorte && APasso != TPassoSql::LerLinha)
+                ++LPedidos;
+            if (LPasso++ != LCorte)
+                return;
+            // Rows that the client has already got are still read; the loss shows with the next statement then.
+            LPodem = APasso == TPassoSql::LerLinha ? 1 : 0;
+            Cortar(LId);
         });
         try {
             CarregarCaso(LCasos[0]);
@@ -100,7 +107,7 @@ TEST_P(TTesteConexaoCortada, ACargaFalhaEUmaConexaoNovaServe)
             EXPECT_NE(0, LErro.Codigo());
             EXPECT_STRNE("", LErro.what());
         }
-        EXPECT_EQ(LCorte + 1, LPasso) << "nothing is tried again on a lost connection";
+        EXPECT_LE(LPedidos, LPodem) << "nothing is tried again on a lost connection";
         // The lost one keeps failing with an error, and may be freed.
         EXPECT_THROW(CarregarCaso(LCasos[0]), EDatabaseError);
         ++FCortes;

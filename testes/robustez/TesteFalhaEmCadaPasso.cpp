@@ -91,9 +91,11 @@ class TTesteFalhaEmCadaPasso : public TTesteComExemplo, public ::testing::WithPa
 protected:
     static void TearDownTestSuite()
     {
-        std::printf("Falhas provocadas: %zu eventos, %zu casos, %zu comandos, %zu passos contados, %zu falhas%s\n",
-                    FEventos, FCasos, FComandos, FPassos, FFalhas,
-                    TestesLongos() ? "" : "; no máximo 36 passos de cada modo por evento (TESTES_LONGOS=1 faz todos)");
+        std::printf("Falhas provocadas: %zu eventos, %zu casos, %zu comandos, %zu passos contados, %zu falhas",
+                    FEventos, FCasos, FComandos, FPassos, FFalhas);
+        if (!TestesLongos())
+            std::printf("; no máximo %zu passos de cada modo por evento (TESTES_LONGOS=1 faz todos)", MAXIMO_DE_PASSOS);
+        std::printf("\n");
     }
     void TearDown() override
     {
