@@ -33,7 +33,7 @@ def lote(opcoes, mais, saida):
         return subprocess.Popen(comando, stdout=arquivo, stderr=erros)
 
 
-def conferir_todo(arquivo, trabalhadores):
+def conferir_inteiro(arquivo, trabalhadores):
     """Each key of the whole answered once, without an error; the number of lines."""
     chaves = set()
     with open(arquivo, encoding="utf-8") as linhas:
@@ -49,13 +49,13 @@ def conferir_todo(arquivo, trabalhadores):
     return quantas
 
 
-def conferir_partes(todo, partes):
+def conferir_partes(inteiro, partes):
     """Line i of part k is line k + i * N of the whole, and none is left over."""
     abertas = [open(parte, "rb") for parte in partes]
-    with open(todo, "rb") as linhas:
+    with open(inteiro, "rb") as linhas:
         for numero, linha in enumerate(linhas):
             if abertas[numero % len(partes)].readline() != linha:
-                raise SystemExit(f"A parte {numero % len(partes) + 1} difere do todo na chave {numero + 1}")
+                raise SystemExit(f"A parte {numero % len(partes) + 1} difere do lote inteiro na chave {numero + 1}")
     for parte, arquivo in zip(partes, abertas):
         if arquivo.readline():
             raise SystemExit(f"{parte} tem linhas a mais")
@@ -99,12 +99,12 @@ def main():
     opcoes = argumentos.parse_args()
     pasta = pathlib.Path(opcoes.saida)
 
-    todo = pasta / "todo.jsonl"
+    inteiro = pasta / "inteiro.jsonl"
     inicio = time.monotonic()
-    if lote(opcoes, [], todo).wait() != 0:
-        raise SystemExit(pathlib.Path(f"{todo}.erros").read_text())
-    chaves = conferir_todo(todo, opcoes.trabalhadores)
-    print(f"O todo: {chaves} chaves, cada uma uma vez, em {time.monotonic() - inicio:.1f} s", flush=True)
+    if lote(opcoes, [], inteiro).wait() != 0:
+        raise SystemExit(pathlib.Path(f"{inteiro}.erros").read_text())
+    chaves = conferir_inteiro(inteiro, opcoes.trabalhadores)
+    print(f"O lote inteiro: {chaves} chaves, cada uma uma vez, em {time.monotonic() - inicio:.1f} s", flush=True)
 
     fim = time.monotonic() + opcoes.minutos * 60
     servidor = []
@@ -116,7 +116,7 @@ def main():
             pico = max(pico, memoria_kb(opcoes.servidor))
             time.sleep(0.1)
         memorias = [processo.conferir() for processo in processos]
-        conferir_partes(todo, [processo.saida for processo in processos])
+        conferir_partes(inteiro, [processo.saida for processo in processos])
         servidor.append(pico)
         texto = "  ".join(f"{antes}-{depois}" for antes, depois in memorias)
         print(f"rodada {rodada}: {time.monotonic() - inicio:.1f} s; KB por processo {texto}; servidor {pico} KB", flush=True)
@@ -124,7 +124,7 @@ def main():
             break
     if len(servidor) > 2 and servidor[-1] > servidor[1] * FOLGA + FOLGA_KB:
         raise SystemExit(f"A memória do servidor cresceu de {servidor[1]} para {servidor[-1]} KB")
-    print(f"{len(servidor)} rodadas, {len(servidor) * chaves} cargas: as {opcoes.processos} partes são o todo, nada se perdeu "
+    print(f"{len(servidor)} rodadas, {len(servidor) * chaves} cargas: as {opcoes.processos} partes são o lote inteiro, nada se perdeu "
           "e a memória não cresceu")
 
 
