@@ -880,11 +880,11 @@ TResultStatus TOvraConnection::ExecutouSQL(const std::vector<std::string>& ASql,
         try {
             for (const auto& LSql : ASql)
                 Executar(LSql);
+            FImplementacao->Executar("RELEASE SAVEPOINT OVRA_EXECUTOUSQL ONLY");
         } catch (const EDatabaseError&) {
             FImplementacao->Executar("ROLLBACK TO SAVEPOINT OVRA_EXECUTOUSQL");
             throw;
         }
-        FImplementacao->Executar("RELEASE SAVEPOINT OVRA_EXECUTOUSQL ONLY");
         if (ACommit)
             Confirmar();
     } catch (const EDatabaseError& LErro) {

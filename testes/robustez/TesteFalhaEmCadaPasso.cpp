@@ -199,6 +199,36 @@ TEST_P(TTesteFalhaEmCadaPasso, OErroChegaEAConexaoSegue)
     ++FEventos;
 }
 
+class TTesteFalhaNaGravacao : public TTesteComBanco {};
+
+TEST_F(TTesteFalhaNaGravacao, ExecutouSqlEhTudoOuNadaEmCadaPasso)
+{
+    const std::vector<std::string> LComandos{"INSERT INTO SC00_EMPRESA (IDEMPRESA, EMPRESA) VALUES (901, '901')",
+                                             "UPDATE SC00_EMPRESA SET NOME = 'novo' WHERE IDEMPRESA = 900"};
+    const auto LEstado = [] {
+        return Consultar("SELECT LIST(IDEMPRESA || COALESCE(NOME, '-')) FROM SC00_EMPRESA WHERE IDEMPRESA >= 900");
+    };
+    Inserir("SC00_EMPRESA", {{"IDEMPRESA", 900}, {"EMPRESA", "900"}});
+    const auto LAntes = LEstado();
+    TProvocador LProvocador(Conexao());
+    std::size_t LFalhas = 0;
+    for (std::size_t LPasso = 0;; ++LPasso) {
+        SCOPED_TRACE(LPasso);
+        LProvocador.FalharNoPasso(LPasso, CODIGO_QUALQUER);
+        const auto LResultado = Conexao().ExecutouSQL(LComandos, false);
+        const bool LProvocada = LProvocador.Falhas() > 0;
+        LProvocador.Zerar();
+        EXPECT_EQ(!LProvocada, LResultado.Sucesso);
+        EXPECT_EQ(LProvocada ? TEXTO_DA_FALHA : "", LResultado.Mensagem);
+        if (!LProvocada)
+            break;
+        EXPECT_EQ(LAntes, LEstado());
+        ++LFalhas;
+    }
+    EXPECT_EQ(8U, LFalhas) << "two statements and the two of their savepoint, each prepared and run";
+    EXPECT_EQ("900novo,901-", LEstado());
+}
+
 INSTANTIATE_TEST_SUITE_P(Eventos, TTesteFalhaEmCadaPasso, ::testing::ValuesIn(EventosDoCatalogo()), NomeDoEvento);
 
 } // namespace
