@@ -418,6 +418,7 @@ struct TOvraConnection::TImplementacao {
     TReferencia<IAttachment> Anexo;
     TReferencia<ITransaction> Transacao;
     TObservadorSql Observador;
+    TVigiaSql Vigia;
     int VersaoMaior = 0;
     bool Reaproveitar = true;
     TComandosGuardados Guardados;
@@ -443,6 +444,12 @@ struct TOvraConnection::TImplementacao {
     std::int64_t Executar(std::string_view ASql);
     void LerLinha(TConjuntoDeLinhas& ALinhas, const TDescricao& ADescricao, const unsigned char* AMensagem);
     std::string LerBlob(ISC_QUAD AId, bool ATexto);
+
+    void Vigiar(TPassoSql APasso) const
+    {
+        if (Vigia)
+            Vigia(APasso);
+    }
 
     /// Runs an operation, and tells the observer of it when it ends well.
     template <class TOperacao, class TContagem>
@@ -490,6 +497,7 @@ TReferencia<IStatement> TOvraConnection::TImplementacao::Preparar(std::string_vi
 {
     ITransaction* LTransacao = TransacaoCorrente();
     TStatus LStatus;
+    Vigiar(TPassoSql::Preparar);
     TReferencia<IStatement> LComando(Anexo->prepare(&LStatus, LTransacao, static_cast<unsigned>(ASql.size()),
                                                     ASql.data(), DIALETO, IStatement::PREPARE_PREFETCH_METADATA));
     LStatus.Verificar();
@@ -499,6 +507,7 @@ TReferencia<IStatement> TOvraConnection::TImplementacao::Preparar(std::string_vi
 std::string TOvraConnection::TImplementacao::LerBlob(ISC_QUAD AId, bool ATexto)
 {
     TStatus LStatus;
+    Vigiar(TPassoSql::LerLinha);
     TReferencia<IBlob> LBlob(Anexo->openBlob(&LStatus, TransacaoCorrente(), &AId, 0, nullptr));
     LStatus.Verificar();
     std::string LConteudo;
@@ -609,6 +618,7 @@ TConjuntoDeLinhas TOvraConnection::TImplementacao::Ler(TComando& AComando)
     IMessageMetadata* LEntrada = AComando.Parametros.empty() ? nullptr : AComando.Entrada.get();
     void* LParametros = AComando.Parametros.empty() ? nullptr : AComando.MensagemDeEntrada.data();
     unsigned char* LMensagem = AComando.MensagemDeSaida.data();
+    Vigiar(TPassoSql::Executar);
     if (!AComando.TemCursor) {
         // A statement that returns its one row by itself, as INSERT ... RETURNING does, or none at all.
         AComando.Comando->execute(&LStatus, TransacaoCorrente(), LEntrada, LParametros, AComando.Saida.get(), LMensagem);
@@ -621,6 +631,7 @@ TConjuntoDeLinhas TOvraConnection::TImplementacao::Ler(TComando& AComando)
         AComando.Comando->openCursor(&LStatus, TransacaoCorrente(), LEntrada, LParametros, AComando.Saida.get(), 0));
     LStatus.Verificar();
     for (;;) {
+        Vigiar(TPassoSql::LerLinha);
         const int LResultado = LCursor->fetchNext(&LStatus, LMensagem);
         LStatus.Verificar();
         if (LResultado != IStatus::RESULT_OK)
@@ -780,6 +791,7 @@ std::int64_t TOvraConnection::TImplementacao::Executar(std::string_view ASql)
     if (LComando->getType(&LStatus) == isc_info_sql_stmt_ddl)
         EsquecerComandos();
     LStatus.Verificar();
+    Vigiar(TPassoSql::Executar);
     LComando->execute(&LStatus, TransacaoCorrente(), nullptr, nullptr, nullptr, nullptr);
     LStatus.Verificar();
     const auto LAfetadas = LComando->getAffectedRecords(&LStatus);
@@ -868,11 +880,11 @@ TResultStatus TOvraConnection::ExecutouSQL(const std::vector<std::string>& ASql,
         try {
             for (const auto& LSql : ASql)
                 Executar(LSql);
+            FImplementacao->Executar("RELEASE SAVEPOINT OVRA_EXECUTOUSQL ONLY");
         } catch (const EDatabaseError&) {
             FImplementacao->Executar("ROLLBACK TO SAVEPOINT OVRA_EXECUTOUSQL");
             throw;
         }
-        FImplementacao->Executar("RELEASE SAVEPOINT OVRA_EXECUTOUSQL ONLY");
         if (ACommit)
             Confirmar();
     } catch (const EDatabaseError& LErro) {
@@ -936,6 +948,8 @@ void TOvraConnection::DefinirObservador(TObservadorSql AObservador)
 {
     FImplementacao->Observador = std::move(AObservador);
 }
+
+void TOvraConnection::DefinirVigia(TVigiaSql AVigia) { FImplementacao->Vigia = std::move(AVigia); }
 
 namespace {
 TOvraConnection* LConexaoCorrente = nullptr;

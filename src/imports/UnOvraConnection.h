@@ -32,6 +32,12 @@ struct TExecucaoSql {
 
 using TObservadorSql = std::function<void(const TExecucaoSql&)>;
 
+/// What a connection asks of the engine for one statement.
+enum class TPassoSql { Preparar, Executar, LerLinha };
+
+/// Asked before each step; what it raises comes in the place of the engine's answer.
+using TVigiaSql = std::function<void(TPassoSql)>;
+
 /// Result of ExecutouSQL.
 struct TResultStatus {
     bool Sucesso = false;
@@ -86,6 +92,9 @@ public:
 
     /// One observer, called after each statement; an empty function removes it.
     void DefinirObservador(TObservadorSql AObservador);
+    /// One guard, asked before each step of each statement, so that any of them can be made to fail; an empty function
+    /// removes it. The library never sets one.
+    void DefinirVigia(TVigiaSql AVigia);
 
 private:
     struct TImplementacao;

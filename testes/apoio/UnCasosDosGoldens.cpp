@@ -4,6 +4,10 @@
 #include <fstream>
 #include <sstream>
 
+#include "apoio/UnBancoDeTeste.h"
+#include "catalogo/UnTarvoESocialCamposCatalogo.h"
+#include "framework/UnTarvoESocialCamposGrupoBase.h"
+
 namespace tarvo::testes {
 
 void PrintTo(const TCasoDoGolden& ACaso, std::ostream* ASaida) { *ASaida << ACaso.Evento << "/" << ACaso.Nome; }
@@ -28,6 +32,14 @@ std::vector<TCasoDoGolden> LerCasosDosGoldens()
         }
     }
     return LCasos;
+}
+
+std::string CarregarCaso(const TCasoDoGolden& ACaso, bool AIndentado)
+{
+    const TBrencoLigado LBrenco(OvraConnection()); // the sibling system's tables of the same database
+    const auto LEvento = ConstruirEvento(ACaso.Evento, ACaso.Argumentos);
+    LEvento.Evento->CarregarDados();
+    return LEvento.Evento->ToJson().AsJSON(AIndentado);
 }
 
 } // namespace tarvo::testes

@@ -19,5 +19,7 @@ void PrintTo(const TCasoDoGolden& ACaso, std::ostream* ASaida);
 
 /// The cases of every event.
 std::vector<TCasoDoGolden> LerCasosDosGoldens();
+/// Loads a case on the current connection, which is the sibling system's too: its JSON.
+std::string CarregarCaso(const TCasoDoGolden& ACaso, bool AIndentado = false);
 
 } // namespace tarvo::testes

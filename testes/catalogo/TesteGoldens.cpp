@@ -1,7 +1,5 @@
 #include "apoio/UnBancoDeTeste.h"
 #include "apoio/UnCasosDosGoldens.h"
-#include "catalogo/UnTarvoESocialCamposCatalogo.h"
-#include "framework/UnTarvoESocialCamposGrupoBase.h"
 
 namespace tarvo::testes {
 namespace {
@@ -11,10 +9,7 @@ class TTesteGolden : public TTesteComExemplo, public ::testing::WithParamInterfa
 TEST_P(TTesteGolden, Carrega)
 {
     const auto& LCaso = GetParam();
-    const TBrencoLigado LBrenco(Conexao()); // the sibling system's tables of the same database
-    const auto LEvento = ConstruirEvento(LCaso.Evento, LCaso.Argumentos);
-    LEvento.Evento->CarregarDados();
-    ConferirGolden(LCaso.Evento + "/" + LCaso.Nome, LEvento.Evento->ToJson().AsJSON(true));
+    ConferirGolden(LCaso.Evento + "/" + LCaso.Nome, CarregarCaso(LCaso, true));
 }
 
 std::string NomeDoCaso(const ::testing::TestParamInfo<TCasoDoGolden>& AInfo)

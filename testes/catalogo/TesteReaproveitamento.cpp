@@ -1,7 +1,5 @@
 #include "apoio/UnBancoDeTeste.h"
 #include "apoio/UnCasosDosGoldens.h"
-#include "catalogo/UnTarvoESocialCamposCatalogo.h"
-#include "framework/UnTarvoESocialCamposGrupoBase.h"
 #include "imports/UnOvraExcecoes.h"
 #include "imports/UnOvraFormaSql.h"
 
@@ -151,21 +149,15 @@ class TTesteReaproveitamentoDosGoldens : public TTesteComExemplo {};
 
 TEST_F(TTesteReaproveitamentoDosGoldens, OJsonEhOMesmoLigadoEDesligado)
 {
-    const TBrencoLigado LBrenco(Conexao());
-    const auto Carregar = [](const TCasoDoGolden& ACaso) {
-        const auto LEvento = ConstruirEvento(ACaso.Evento, ACaso.Argumentos);
-        LEvento.Evento->CarregarDados();
-        return LEvento.Evento->ToJson().AsJSON();
-    };
     const auto LCasos = LerCasosDosGoldens();
     std::vector<std::string> LDesligado;
     Conexao().DefinirReaproveitamento(false);
     for (const auto& LCaso : LCasos)
-        LDesligado.push_back(Carregar(LCaso));
+        LDesligado.push_back(CarregarCaso(LCaso));
     Conexao().DefinirReaproveitamento(true);
     for (int LVez = 0; LVez < 2; ++LVez)
         for (std::size_t i = 0; i < LCasos.size(); ++i)
-            EXPECT_EQ(LDesligado[i], Carregar(LCasos[i])) << LCasos[i].Evento << "/" << LCasos[i].Nome;
+            EXPECT_EQ(LDesligado[i], CarregarCaso(LCasos[i])) << LCasos[i].Evento << "/" << LCasos[i].Nome;
     EXPECT_LE(Conexao().ComandosGuardados(), 256U);
 }
 

@@ -1,0 +1,55 @@
+# A Firebird server of one's own on a loopback port, for ./test and bench/aguentar; to be sourced after preparar.sh.
+
+# The server is told to end and, as its orderly end may wait for ever on a client that vanished, made to.
+encerrar_servidor() {
+    [ -z "${SERVIDOR_PID:-}" ] && return
+    kill "$SERVIDOR_PID" 2>/dev/null || true
+    local tentativa
+    for tentativa in $(seq 50); do
+        kill -0 "$SERVIDOR_PID" 2>/dev/null || break
+        sleep 0.1
+    done
+    kill -9 "$SERVIDOR_PID" 2>/dev/null || true
+    wait "$SERVIDOR_PID" 2>/dev/null || true
+    SERVIDOR_PID=
+}
+
+# A Firebird server with a configuration, a security database and a port of its own; it ends with the script.
+iniciar_servidor() {
+    SERVIDOR=$(mktemp -d)
+    trap 'encerrar_servidor; rm -rf "$SERVIDOR"' EXIT
+    SERVIDOR_PORTA=$(python3 -c 'import socket; s = socket.socket(); s.bind(("127.0.0.1", 0)); print(s.getsockname()[1])')
+    mkdir "$SERVIDOR/trava"
+    ln -s /usr/lib/*/firebird/3.0/{plugins,firebird.msg,plugins.conf} "$SERVIDOR/"
+    # A copy: the server loads its character sets from no folder behind a link.
+    cp -rL /usr/lib/*/firebird/3.0/intl "$SERVIDOR/"
+    : > "$SERVIDOR/databases.conf"
+    cat > "$SERVIDOR/firebird.conf" <<CONF
+RemoteServicePort = $SERVIDOR_PORTA
+RemoteBindAddress = 127.0.0.1
+SecurityDatabase = $SERVIDOR/seguranca.fdb
+AuthServer = Srp
+UserManager = Srp
+WireCrypt = Enabled
+DatabaseAccess = Full
+CONF
+    export FIREBIRD_LOCK="$SERVIDOR/trava"
+    FIREBIRD="$SERVIDOR" isql-fb -q <<SQL
+CREATE DATABASE '$SERVIDOR/seguranca.fdb' USER 'SYSDBA';
+SQL
+    FIREBIRD="$SERVIDOR" isql-fb -q -user SYSDBA "$SERVIDOR/seguranca.fdb" <<SQL
+CREATE USER SYSDBA PASSWORD 'tarvo';
+COMMIT;
+SQL
+    FIREBIRD="$SERVIDOR" /usr/sbin/firebird -p "$SERVIDOR_PORTA" >"$SERVIDOR/servidor.log" 2>&1 &
+    SERVIDOR_PID=$!
+    unset FIREBIRD_LOCK
+    local tentativa
+    for tentativa in $(seq 50); do
+        (exec 3<>"/dev/tcp/127.0.0.1/$SERVIDOR_PORTA") 2>/dev/null && return
+        sleep 0.1
+    done
+    cat "$SERVIDOR/servidor.log"
+    echo "O servidor de testes não respondeu na porta $SERVIDOR_PORTA"
+    return 1
+}
