@@ -21,6 +21,13 @@ constexpr char USO[] = "Uso: esocial-campos";
 
 std::size_t LRodadas = 0;
 
+/// A sanitized program takes a tenth of a second to start and end: a short run tries one command of each event there.
+#ifdef __SANITIZE_ADDRESS__
+const bool SO_CARREGAR = !TestesLongos();
+#else
+const bool SO_CARREGAR = false;
+#endif
+
 std::string NaLinha(const std::vector<std::string>& AArgumentos)
 {
     std::string LTexto;
@@ -74,7 +81,10 @@ std::vector<std::string> Linha(const std::string& AComando, const TEventoDoCatal
 
 class TTesteUsoErrado : public ::testing::TestWithParam<std::string> {
 protected:
-    static void TearDownTestSuite() { std::printf("Uso errado: %zu linhas de comando\n", LRodadas); }
+    static void TearDownTestSuite()
+    {
+        std::printf("Uso errado: %zu linhas de comando%s\n", LRodadas, SO_CARREGAR ? ", só de carregar" : "");
+    }
 
     static void Provar(const std::string& AComando, const TEventoDoCatalogo& AEvento,
                        const std::vector<TArgumentoDeEvento>& AArgumentos)
@@ -105,6 +115,8 @@ TEST_P(TTesteUsoErrado, CadaArgumentoQueFaltaSeRepeteOuNaoServe)
 {
     const auto& LEvento = BuscarEventoDoCatalogo(GetParam());
     Provar("carregar", LEvento, LEvento.Argumentos);
+    if (SO_CARREGAR)
+        return;
     if (LEvento.Lote)
         Provar("lote", LEvento, LEvento.Lote->Argumentos);
     if (GetParam() == "S-1000" || GetParam() == "S-1030")
