@@ -2,6 +2,7 @@
 
 #include "framework/UnTarvoESocialCamposSqlCategoria.h"
 #include "imports/UnOvraEsocialReinfControleAmbientes.h"
+#include "imports/UnTarvoConsultasEmpregado.h"
 #include "imports/UnTarvoUtilsDb.h"
 #include "imports/pcesConversaoeSocial.h"
 
@@ -67,7 +68,8 @@ template <bool ASemVinculo>
 std::string SqlDosDesligados(const TArgumentosDeEvento& AArgumentos)
 {
     return SqlDosTrabalhadoresCom(AArgumentos, ASemVinculo,
-                                  Format("AND EMPREGADOS.DATA_DEMISSAO BETWEEN %0:s AND %1:s",
+                                  Format("AND %0:s BETWEEN %1:s AND %2:s",
+                                         TTarvoConsultasEmpregado::ExpressaoDemissaoOuTransfDefinitiva(),
                                          FormatarDataDB(AArgumentos.Data("DataInicio"), true),
                                          FormatarDataDB(AArgumentos.Data("DataFim"), true)));
 }

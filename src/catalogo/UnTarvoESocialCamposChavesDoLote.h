@@ -19,7 +19,7 @@ std::string SqlDosCpfs(const TArgumentosDeEvento& AArgumentos);
 /// 700 on that the payments don't know are without a bond too.
 template <bool ASemVinculo>
 std::string SqlDosTrabalhadores(const TArgumentosDeEvento& AArgumentos);
-/// Those whose work ended in a period, by dismissal.
+/// Those whose work ended in a period, by dismissal or by definitive transfer.
 template <bool ASemVinculo>
 std::string SqlDosDesligados(const TArgumentosDeEvento& AArgumentos);
 /// The leaves of a company's workers: situations with a reason of the layout, for the end those that have one.

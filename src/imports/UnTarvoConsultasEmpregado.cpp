@@ -127,32 +127,43 @@ TDateTime TTarvoConsultasEmpregado::BuscarDataDemissao(std::int64_t AIDEmpregado
     return TTarvoConsultasGeral::BuscarData(Format(SQL_DEMISSAO, AIDEmpregado));
 }
 
-static constexpr std::string_view SQL_TRANSFERENCIA_PARA_OUTRA = R"(SELECT CAST(MAX(MOV_TRANSF.DATAINICIOMOV) AS DATE)
-FROM MOV_TRANSF
-JOIN EMPREGADOS ON (EMPREGADOS.IDEMPREGADO = MOV_TRANSF.IDEMPREGADO)
-WHERE MOV_TRANSF.MOTIVOINICIAL = 'TRANSFERENCIA DEFINITIVA'
-  AND MOV_TRANSF.COD_EMPRESA <> EMPREGADOS.COD_EMPRESA
-  %0:s)";
+static constexpr std::string_view TRANSFERENCIA_PARA_OUTRA = R"(MOV_TRANSF.MOTIVOINICIAL = 'TRANSFERENCIA DEFINITIVA'
+    AND MOV_TRANSF.COD_EMPRESA <> EMPREGADOS.COD_EMPRESA)";
+
+std::string TTarvoConsultasEmpregado::ExpressaoDemissaoOuTransfDefinitiva(bool ASomenteTransf)
+{
+    static constexpr std::string_view SQL = R"((SELECT CAST(MAX(MOV_TRANSF.DATAINICIOMOV) AS DATE)
+  FROM MOV_TRANSF
+  WHERE MOV_TRANSF.IDEMPREGADO = EMPREGADOS.IDEMPREGADO
+    AND %0:s))";
+    const auto LTransferencia = Format(SQL, TRANSFERENCIA_PARA_OUTRA);
+    return ASomenteTransf ? LTransferencia
+                          : Format("COALESCE(CAST(EMPREGADOS.DATA_DEMISSAO AS DATE), %0:s)", LTransferencia);
+}
+
+static constexpr std::string_view SQL_FIM_DO_CONTRATO = R"(SELECT %0:s
+FROM EMPREGADOS
+WHERE EMPREGADOS.IDEMPREGADO = %1:d)";
 
 TDateTime TTarvoConsultasEmpregado::BuscarDataDemissaoOuTransfDefinitiva(std::int64_t AIDEmpregado, bool ASomenteTransf)
 {
-    if (!ASomenteTransf)
-        if (const auto LDemissao = BuscarDataDemissao(AIDEmpregado); !LDemissao.Vazia())
-            return LDemissao;
     return TTarvoConsultasGeral::BuscarData(
-        Format(SQL_TRANSFERENCIA_PARA_OUTRA, Format("AND MOV_TRANSF.IDEMPREGADO = %0:d", AIDEmpregado)));
+        Format(SQL_FIM_DO_CONTRATO, ExpressaoDemissaoOuTransfDefinitiva(ASomenteTransf), AIDEmpregado));
 }
 
 bool TTarvoConsultasEmpregado::EncontrouMovimPorTransfDefinitivaParaOhEmpregado(std::string_view AIds,
                                                                                 TDateTime ADataInicio,
                                                                                 TDateTime ADataFim)
 {
+    static constexpr std::string_view SQL = R"(SELECT FIRST 1 MOV_TRANSF.IDEMPREGADO
+FROM MOV_TRANSF
+JOIN EMPREGADOS ON (EMPREGADOS.IDEMPREGADO = MOV_TRANSF.IDEMPREGADO)
+WHERE %0:s
+  %1:s
+  AND CAST(MOV_TRANSF.DATAINICIOMOV AS DATE) BETWEEN %2:s AND %3:s)";
     const auto LIds = FormatarListaParaClausulaIN("MOV_TRANSF", "IDEMPREGADO", AIds, "AND");
-    if (LIds.empty())
-        return false;
-    const auto LIntervalo = Format(" AND CAST(MOV_TRANSF.DATAINICIOMOV AS DATE) BETWEEN %0:s AND %1:s",
-                                   DiaDB(ADataInicio), DiaDB(ADataFim));
-    return !TTarvoConsultasGeral::BuscarTexto(Format(SQL_TRANSFERENCIA_PARA_OUTRA, LIds + LIntervalo)).empty();
+    return !LIds.empty() && TTarvoConsultasGeral::EncontrouRegistros(
+                                Format(SQL, TRANSFERENCIA_PARA_OUTRA, LIds, DiaDB(ADataInicio), DiaDB(ADataFim)));
 }
 
 static constexpr std::string_view SQL_CATEGORIAS_ATIVAS = R"(SELECT COUNT(DISTINCT FP_ESOCIALTABELA.CODIGO)

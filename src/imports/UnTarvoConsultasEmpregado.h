@@ -35,6 +35,8 @@ public:
     /// The end of the contract: the dismissal, else the last definitive transfer to another company; 0 when there is
     /// none. With ASomenteTransf the dismissal doesn't count.
     static TDateTime BuscarDataDemissaoOuTransfDefinitiva(std::int64_t AIDEmpregado, bool ASomenteTransf = false);
+    /// The same day as an expression over a row of EMPREGADOS, for statements that list contracts by it.
+    static std::string ExpressaoDemissaoOuTransfDefinitiva(bool ASomenteTransf = false);
     /// True when one of the contracts (comma text of ids) has a definitive transfer to another company on a day of the
     /// interval, ends included.
     static bool EncontrouMovimPorTransfDefinitivaParaOhEmpregado(std::string_view AIds, TDateTime ADataInicio,
