@@ -98,6 +98,49 @@ TEST_F(TTesteLeitorDoDesligamento, SoLinhasVizinhasSeJuntam)
     EXPECT_EQ(2u, LLeitor.LotacoesDoCalculo().size());
 }
 
+TEST_F(TTesteLeitorDoDesligamento, OutraVerbaNoMeioSeparaAMesmaLotacao)
+{
+    // Without a split by department both departments are one lotação, but the rows still come by department.
+    Verba(1, "1A");
+    Verba(2, "1B");
+    Calculo(1, 10, {.SubTipo = 104, .Depto = 10});
+    Calculo(2, 1, {.SubTipo = 104, .Depto = 10});
+    Calculo(1, 20, {.SubTipo = 104, .Depto = 20});
+    EXPECT_EQ("1@1/0=10 2@1/0=1 1@1/0=20", S2299(Rescisao));
+    EXPECT_EQ("1@1/0=10 2@1/0=1 1@1/0=20", S2399(Rescisao));
+}
+
+TEST_F(TTesteLeitorDoDesligamento, OrdemEGemeasNaFormaComQuebra)
+{
+    Verba(1, "1A");
+    Verba(2, "1B");
+    // By lotação in S-2299, by rubric in S-2399.
+    Quebra(Calculo(1, 5, {.SubTipo = 104}), 2, 20, 5, 9);
+    Quebra(Calculo(2, 7, {.SubTipo = 104}), 1, 10, 7, 9);
+    EXPECT_EQ("2@1/10=7 1@2/20=5", S2299(Rescisao, "01", 3));
+    EXPECT_EQ("1@2/20=5 2@1/10=7", S2399(Rescisao, "01", 3));
+    // Two rows alike in every column count once in a UNION; that is meant.
+    Quebra(Calculo(2, 7, {.SubTipo = 105}), 1, 10, 7, 9);
+    EXPECT_EQ("2@1/10=14 1@2/20=5", S2299(Rescisao, "01", 3));
+    EXPECT_EQ("1@2/20=5 2@1/10=7", S2399(Rescisao, "01", 3));
+}
+
+TEST_F(TTesteLeitorDoDesligamento, NaturezaInformativaMostraABaseDesdeOInicioDoCalculo)
+{
+    Verba(1, "1A");
+    Verba(2, "99H");
+    Verba(3, "7L");
+    Natureza(1, "9905");
+    Natureza(2, "9931");
+    Calculo(1, 1, {.SubTipo = 104, .Base = 50});
+    Calculo(2, 2, {.SubTipo = 104, .Base = 60});
+    Calculo(3, 100, {.SubTipo = 104});
+    EXPECT_EQ("1@1/0=50 3@1/0=160", S2299(Rescisao));
+    EXPECT_EQ("1@1/0=50 3@1/0=100", S2399(Rescisao));
+    Executar("UPDATE FP_RUBRICARELAC SET DATAINICIO = '02.03.2021'");
+    EXPECT_EQ("1@1/0=1 3@1/0=102", S2299(Rescisao));
+}
+
 TEST_F(TTesteLeitorDoDesligamento, QuebraMostraSoAsLinhasQuebradasNoS2299ETodasNoS2399)
 {
     Verba(1, "1A");

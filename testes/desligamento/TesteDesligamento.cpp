@@ -1,7 +1,10 @@
+#include <set>
+
 #include "desligamento/UnTarvoESocialCamposConversoresDesligamento.h"
 #include "desligamento/UnTarvoESocialCamposS2299.h"
 #include "desligamento/UnTarvoESocialCamposS2399.h"
 #include "imports/UnOvraExcecoes.h"
+#include "imports/UnTarvoUtilsDb.h"
 #include "remuneracao/UnCenarioDeFolha.h"
 
 namespace tarvo::testes {
@@ -186,9 +189,62 @@ TEST_F(TTesteDesligamento, CategoriaEncerraAIdentificacaoDeVariosContratos)
                            {"IDCATEGORIAESOCIAL", 723},
                            {"DATA_ADMISSAO", D(2019, 1, 1)}});
     EXPECT_EQ("05_000_01_03_2021_101", S2299());
-    Executar("UPDATE CALCULO SET TIPO = 'AB' WHERE TIPO = '05'");
-    Executar("UPDATE CALCULO SET TIPO = '02' WHERE TIPO = 'AB'");
+    EXPECT_EQ("05_000_01_03_2021_101", S2399());
+    Executar("UPDATE CALCULO SET TIPO = '02' WHERE TIPO = '05'");
     EXPECT_EQ("02_000_0_03_2021_101", S2299());
+    // Of a category with a fraction its first three digits.
+    Executar("UPDATE EMPREGADOS SET IDCATEGORIAESOCIAL = 723 + 101 - IDCATEGORIAESOCIAL");
+    EXPECT_EQ("02_000_0_03_2021_723", S2299());
+    // Ended before the calculation: no longer active.
+    Executar("UPDATE EMPREGADOS SET DATA_DEMISSAO = '28.02.2021' WHERE IDEMPREGADO = 2");
+    EXPECT_EQ("02_000_0_03_2021", S2299());
+}
+
+TEST_F(TTesteDesligamento, FolhaSemNumeroNaoSeIdentifica)
+{
+    Calculo(1, 30, {.Tipo = "AB", .Convocacao = 11});
+    EXPECT_THROW(Carregar(), EConvertError);
+}
+
+TEST_F(TTesteDesligamento, OsItensSaoDoMesDoDesligamentoMesmoDeRescisaoCalculadaEmOutro)
+{
+    Calculo(1, 100, {.Tipo = "05", .Inicio = D(2021, 2, 1), .Fim = D(2021, 2, 20)});
+    Calculo(1, 80, {.SubTipo = 105});
+    const auto LEvento = Carregar();
+    ASSERT_EQ("05_000_01_02_2021", Demonstrativos(LEvento->infoDeslig.verbasResc));
+    const auto& LItens = LEvento->infoDeslig.verbasResc.dmDev[0]->infoPerApur.ideEstabLot[0]->detVerbas;
+    ASSERT_EQ(1u, LItens.size());
+    EXPECT_EQ(R("80"), LItens[0]->vrRubr);
+}
+
+TEST_F(TTesteDesligamento, QuantidadeEFatorPelaVerba)
+{
+    const struct {
+        const char* Formula;
+        const char* Horas;
+        const char* Quantidade;
+        const char* Fator;
+    } LCasos[] = {{"1B", "Nao", "0", "0"},     {"1D", "Sim", "10,3", "0"}, {"4TA", "Nao", "10,3", "0"},
+                  {"99C", "Nao", "0", "10,3"}, {"1Z", "Nao", "0", "1,5"},  {"3G", "Sim", "10,3", "1,5"},
+                  {"3C", "Nao", "0", "1,5"},   {"1CA", "Nao", "0", "1,5"}, {"3GA", "Nao", "0", "0"}};
+    Calculo(1, 100, {.Tipo = "05"});
+    int LCodigo = 10;
+    for (const auto& LCaso : LCasos) {
+        Verba(++LCodigo, LCaso.Formula, {{"HORAS", LCaso.Horas}, {"VLR_CALC", 1.5}});
+        Calculo(LCodigo, 7, {.SubTipo = 104, .Referencia = 10.3});
+    }
+    const auto LEvento = Carregar();
+    const auto LTermino = Carregar<TTarvoESocialCamposS2399>();
+    const auto& LVerbas = LEvento->infoDeslig.verbasResc.dmDev[0]->infoPerApur.ideEstabLot[0]->detVerbas;
+    const auto& LVerbasSemVinculo = LTermino->infoTSVTermino.verbasResc.dmDev[0]->ideEstabLot[0]->detVerbas;
+    ASSERT_EQ(std::size(LCasos), LVerbas.size());
+    ASSERT_EQ(std::size(LCasos), LVerbasSemVinculo.size());
+    for (std::size_t I = 0; I < LVerbas.size(); ++I) {
+        EXPECT_EQ(R(LCasos[I].Quantidade), LVerbas[I]->qtdRubr) << LCasos[I].Formula;
+        EXPECT_EQ(R(LCasos[I].Fator), LVerbas[I]->fatorRubr) << LCasos[I].Formula;
+        EXPECT_EQ(LVerbas[I]->qtdRubr, LVerbasSemVinculo[I]->qtdRubr);
+        EXPECT_EQ(LVerbas[I]->fatorRubr, LVerbasSemVinculo[I]->fatorRubr);
+    }
 }
 
 TEST_F(TTesteDesligamento, VerbasSoDesdeOInicioDosEventosPeriodicos)
@@ -200,6 +256,10 @@ TEST_F(TTesteDesligamento, VerbasSoDesdeOInicioDosEventosPeriodicos)
     }
     EXPECT_EQ("2", Carregar(D(2021, 3, 21))->infoDeslig.mtvDeslig);
     EXPECT_EQ("MAT1", Carregar(D(2021, 3, 21))->ideVinculo.matricula);
+    // Nobody dismissed: no day, and no amounts.
+    Executar("UPDATE EMPREGADOS SET DATA_DEMISSAO = NULL");
+    EXPECT_TRUE(Carregar()->infoDeslig.dtDeslig.Vazia());
+    EXPECT_TRUE(Carregar()->infoDeslig.verbasResc.dmDev.empty());
 }
 
 TEST_F(TTesteDesligamento, TransferenciaDaOMotivoEDispensaAsVerbas)
@@ -292,6 +352,74 @@ TEST_F(TTesteDesligamento, PlanoDeSaudeDaRescisaoENaoDaComplementar)
     ASSERT_EQ(2u, LVerbas.dmDev.size());
     EXPECT_EQ(2u, LVerbas.dmDev[0]->ideEstabLot[0]->infoSaudeColet.detOper.size());
     EXPECT_TRUE(LVerbas.dmDev[1]->ideEstabLot[0]->infoSaudeColet.detOper.empty());
+}
+
+TEST_F(TTesteDesligamento, PlanoDeSaudePelosDiasDeCadaLotacao)
+{
+    TipoDeQuebra(3);
+    Inserir("PSAUDE_OPER", {{"IDPSAUDE_OPER", 1}, {"CNPJ", "x"}, {"TIPO", 1}});
+    Inserir("PSAUDE_VERBAS", {{"IDPSAUDE_OPER", 1}, {"IDVERBA", 1001}});
+    Inserir("DEPENDENTES", {{"IDDEPENDENTE", 1}, {"NOME", "Dependente"}});
+    Inserir(
+        "FP_PSAUDEVLRMESDEP",
+        {{"IDPSAUDEOPER", 1}, {"IDEMPREGADO", 1}, {"IDDEPENDENTE", 1}, {"DATAINICIO", D(2021, 1, 1)}, {"VALOR", 31.1}});
+    const auto LItem = Calculo(1, 150, {.SubTipo = 104});
+    Quebra(LItem, 1, 10, 90, 8);
+    Quebra(LItem, 2, 20, 60, 0);
+    Calculo(1, 100, {.Tipo = "05"});
+    const struct {
+        TDateTime Inicio;
+        TDateTime Fim;
+        const char* Dependente;
+        const char* Titular;
+    } LCasos[] = {{D(2021, 3, 1), D(2021, 3, 15), "16,5867", "73,4133"},
+                  {D(2021, 3, 1), D(2021, 3, 20), "12,44", "77,56"},
+                  // A period that doesn't go forward counts from the first day of its end's month.
+                  {D(2021, 3, 20), D(2021, 3, 20), "12,44", "77,56"},
+                  {D(2021, 3, 25), D(2021, 3, 20), "12,44", "77,56"}};
+    const auto Operadora = [](const auto& ALotacoes, std::size_t AIndice) -> const auto&
+    {
+        return *ALotacoes[AIndice]->infoSaudeColet.detOper[0];
+    };
+    for (const auto& LCaso : LCasos) {
+        Executar("UPDATE CALCULO SET DATA_INICIO = " + FormatarDataDB(LCaso.Inicio, true) +
+                 ", DATA_FIM = " + FormatarDataDB(LCaso.Fim, true) + " WHERE TIPO = '05'");
+        const auto LEvento = Carregar();
+        const auto& LLotacoes = LEvento->infoDeslig.verbasResc.dmDev[0]->infoPerApur.ideEstabLot;
+        ASSERT_EQ(2u, LLotacoes.size());
+        EXPECT_EQ(R(LCaso.Dependente), Operadora(LLotacoes, 0).detPlano[0]->vlrPgDep);
+        EXPECT_EQ(R(LCaso.Titular), Operadora(LLotacoes, 0).vrPgTit);
+        // Without days the dependant counts whole.
+        EXPECT_EQ(R("28,9"), Operadora(LLotacoes, 1).vrPgTit);
+        // The same shares in S-2399, whose lotações may come in another order.
+        const auto LTermino = Carregar<TTarvoESocialCamposS2399>();
+        const auto& LSemVinculo = LTermino->infoTSVTermino.verbasResc.dmDev[0]->ideEstabLot;
+        ASSERT_EQ(2u, LSemVinculo.size());
+        EXPECT_EQ((std::set<Currency>{R(LCaso.Titular), R("28,9")}),
+                  (std::set<Currency>{Operadora(LSemVinculo, 0).vrPgTit, Operadora(LSemVinculo, 1).vrPgTit}));
+    }
+}
+
+/// With a statement that names the alimony's rubric, which the system's own doesn't.
+class TInfoDesligComVerbaDaPensao : public TTarvoESocialCamposinfoDeslig {
+public:
+    using TTarvoESocialCamposinfoDeslig::TTarvoESocialCamposinfoDeslig;
+
+protected:
+    std::string BuscarSQLDados() override { return "SELECT 31 AS COD_VERBA_CFG_PENSAO FROM RDB$DATABASE"; }
+};
+
+TEST_F(TTesteDesligamento, ValorDaPensaoPelaVerbaDaConfiguracao)
+{
+    const auto Valor = [] {
+        TInfoDesligComVerbaDaPensao LInfo(1, D(2030, 1, 1));
+        LInfo.CarregarDados();
+        return LInfo.vrAlim;
+    };
+    Calculo(31, 99, {.Tipo = "05", .SubTipo = 2});
+    EXPECT_EQ("", Valor());
+    Calculo(31, 301.5, {.Tipo = "05"});
+    EXPECT_EQ("301,5", Valor());
 }
 
 TEST_F(TTesteDesligamento, OutrosEmpregadoresDoMesSemOProprio)
