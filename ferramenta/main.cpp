@@ -7,6 +7,7 @@
 #include "ferramenta/UnComandos.h"
 #include "ferramenta/UnErros.h"
 #include "framework/UnTarvoESocialCamposCaminhos.h"
+#include "framework/UnTarvoESocialCamposVersao.h"
 #include "imports/UnOvraUtilsDbFirebird.h"
 
 namespace {
@@ -104,6 +105,7 @@ int main(int argc, char** argv)
     TComandos LComandos;
     LApp.formatter(std::make_shared<TFormatoDaAjuda>(LComandos));
     LApp.set_help_flag("-h,--ajuda,--help", "mostra esta ajuda")->ignore_case();
+    LApp.set_version_flag("--versao,--version", VersaoDaBiblioteca(), "mostra a versão")->ignore_case();
     LApp.allow_extras();
     RegistrarCriarBanco(LApp, LComandos);
     RegistrarEventos(LApp, LComandos);

@@ -6,6 +6,7 @@ readonly PACOTES=(
     g++ cmake ninja-build ccache
     firebird-dev firebird3.0-server-core firebird3.0-utils firebird3.0-server
     libpugixml-dev rapidjson-dev libcli11-dev libgtest-dev libbenchmark-dev python3
+    pkg-config dpkg-dev file
 )
 
 como_root() {

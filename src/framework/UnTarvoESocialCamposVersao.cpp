@@ -1,0 +1,7 @@
+#include "framework/UnTarvoESocialCamposVersao.h"
+
+namespace tarvo {
+
+const char* VersaoDaBiblioteca() { return TARVO_VERSAO; }
+
+} // namespace tarvo
