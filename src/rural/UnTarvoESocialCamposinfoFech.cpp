@@ -101,10 +101,11 @@ void TTarvoESocialCamposinfoFech::AtribuirValoresManualmente()
 
 void TTarvoESocialCamposinfoFech::PreencherTagcompSemMovto()
 {
+    // Also what a load before the first of them was accepted had put there.
+    compSemMovto.clear();
     for (const auto LContagem : {evtRemun, evtPgtos, evtAqProd, evtComProd, evtContratAvNP, evtInfoComplPer})
         if (LContagem != 0)
             return;
-    compSemMovto.clear();
     if (ExisteS1299Anterior())
         compSemMovto = TOvraSerializacaoXmlReader(FCdsPesquisaEventoS1299->FieldByName("XML").AsString())
                            .BuscarValorTag("evtFechaEvPer.infoFech.compSemMovto");

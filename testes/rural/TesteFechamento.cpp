@@ -119,6 +119,16 @@ TEST_F(TTesteFechamento, SemMovimentoTrazAMarcaDoUltimoFechamentoAceito)
     EXPECT_THROW(Fechar(), EConvertError);
 }
 
+TEST_F(TTesteFechamento, AMarcaSaiQuandoOPeriodoPassaATerMovimento)
+{
+    TTarvoESocialCamposinfoFech LFech(1, D(2021, 3, 1), D(2021, 3, 31), tpIndApuracao::Mensal);
+    LFech.CarregarDados();
+    EXPECT_EQ("0", LFech.compSemMovto);
+    InserirEvento("S-1200", D(2021, 3, 1));
+    LFech.CarregarDados();
+    EXPECT_EQ("1 ''", std::to_string(LFech.evtRemun) + " '" + LFech.compSemMovto + "'");
+}
+
 TEST_F(TTesteFechamento, ProcuraOFechamentoAnteriorTambemEmColunaDate)
 {
     // The moment of the search has a time of day, whatever the column has.
