@@ -4,7 +4,6 @@
 #include "imports/UnOvraConversoes.h"
 #include "imports/UnOvraFormat.h"
 #include "imports/UnTarvoConsultasGeral.h"
-#include "imports/UnTarvoUtilsDb.h"
 #include "tabelas/UnTarvoESocialCamposInfoHorContratual.h"
 
 namespace tarvo::trabalhador {
