@@ -48,7 +48,7 @@ inline TLoteDoEvento LoteDaEmpresaPor(std::string (*ASql)(const TArgumentosDeEve
     return {std::move(AMais), ASql};
 }
 
-// Statements of keys. Rubrics, positions and schedules belong to the suite as a whole: every company has them all.
+// Statements of keys. Rubrics and positions belong to the suite as a whole: every company has them all.
 
 inline constexpr std::string_view LUGARES_DA_EMPRESA = R"(SELECT SC00_FILIAL.IDFILIAL AS AIDESTAB, 0 AS AIDDEPTO
 FROM SC00_FILIAL

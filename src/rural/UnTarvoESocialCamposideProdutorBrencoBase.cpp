@@ -18,8 +18,8 @@ void TTarvoESocialCamposideProdutorBrencoBase::RatearRetencao(const TOvraClientD
         vrRatDescPR = static_cast<double>(Dividir(FValorRetencao * PERCENTUAL_RAT, LAliquota));
         vrSenarDesc = static_cast<double>(Dividir(FValorRetencao * PERCENTUAL_SENAR, LAliquota));
     }
-    // CP takes what is left.
-    vrCPDescPR = FValorRetencao - vrRatDescPR - vrSenarDesc;
+    // CP takes what is left; wide, so that it is rounded once.
+    vrCPDescPR = static_cast<double>(static_cast<long double>(FValorRetencao) - vrRatDescPR - vrSenarDesc);
 }
 
 void TTarvoESocialCamposideProdutorBrencoBase::LevarRetencaoAosProcessos(TOvraClientDataSet& AProcessos)

@@ -101,10 +101,11 @@ void TTarvoESocialCamposinfoFech::AtribuirValoresManualmente()
 
 void TTarvoESocialCamposinfoFech::PreencherTagcompSemMovto()
 {
+    // Also what a load before the first of them was accepted had put there.
+    compSemMovto.clear();
     for (const auto LContagem : {evtRemun, evtPgtos, evtAqProd, evtComProd, evtContratAvNP, evtInfoComplPer})
         if (LContagem != 0)
             return;
-    compSemMovto.clear();
     if (ExisteS1299Anterior())
         compSemMovto = TOvraSerializacaoXmlReader(FCdsPesquisaEventoS1299->FieldByName("XML").AsString())
                            .BuscarValorTag("evtFechaEvPer.infoFech.compSemMovto");
@@ -115,12 +116,12 @@ void TTarvoESocialCamposinfoFech::PreencherTagcompSemMovto()
 bool TTarvoESocialCamposinfoFech::ExisteS1299Anterior()
 {
     // Before the moment at which the group was built, not before the period; and accepted with 201 only, although the
-    // counts take 202 too; both meant.
+    // counts take 202 too; both meant. The moment has a time of day, which a DATE column refuses in a bare literal.
     static constexpr std::string_view SQL = R"(SELECT FIRST 1 SC00_ESOCIALREINFXML.XML
 FROM SC00_ESOCIALREINFXML
 WHERE SC00_ESOCIALREINFXML.IDEMPRESA = %0:d
   AND SC00_ESOCIALREINFXML.TPEVENTO = 'S-1299'
-  AND SC00_ESOCIALREINFXML.INIVALID < %1:s
+  AND SC00_ESOCIALREINFXML.INIVALID < CAST(%1:s AS TIMESTAMP)
   AND SC00_ESOCIALREINFXML.STATUS = 201
   %2:s
 ORDER BY SC00_ESOCIALREINFXML.DATA DESC)";

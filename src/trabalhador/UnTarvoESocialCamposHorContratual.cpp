@@ -4,7 +4,6 @@
 #include "imports/UnOvraConversoes.h"
 #include "imports/UnOvraFormat.h"
 #include "imports/UnTarvoConsultasGeral.h"
-#include "imports/UnTarvoUtilsDb.h"
 #include "tabelas/UnTarvoESocialCamposInfoHorContratual.h"
 
 namespace tarvo::trabalhador {
@@ -60,7 +59,8 @@ std::string TTarvoESocialCamposHorContratual::BuscarSQLDados()
    FROM SC00_EMPREGADOCFG
    WHERE %1:s
      AND SC00_EMPREGADOCFG.INFORMACAO1 = 1
-     AND %2:s) AS TMPPARC
+     AND %2:s
+   ORDER BY SC00_EMPREGADOCFG.DATAINICIO DESC) AS TMPPARC
 FROM EMPREGADOS
 LEFT JOIN TAB_HORARIOS ON ( TAB_HORARIOS.CODIGO = EMPREGADOS.COD_HORARIO)
 WHERE EMPREGADOS.IDEMPREGADO = %0:d)";

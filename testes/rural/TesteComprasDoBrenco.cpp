@@ -124,6 +124,17 @@ TEST_F(TTesteComprasDoBrenco, RateiaARetencaoContabilizada)
     EXPECT_THROW(Carregar(EXTERNO), EZeroDivide);
 }
 
+TEST_F(TTesteComprasDoBrenco, OQueSobraParaCpArredondaUmaVez)
+{
+    InserirProdutor(1, "11122233344");
+    InserirEntrada({});
+    InserirRetencao(1, 1.5, 4325.24);
+    auto LEvento = Evento(BRENCO);
+    LEvento.CarregarDados();
+    // One rounding after each subtraction would leave 3460.1919999999996.
+    EXPECT_EQ(3460.192, LEvento.ideEstabAdquir->tpAquis.at(0)->ideProdutor.at(0)->vrCPDescPR);
+}
+
 TEST_F(TTesteComprasDoBrenco, RetencaoDeModeloExcluidoSoContaNoBancoProprio)
 {
     InserirProdutor(1, "11122233344");

@@ -119,6 +119,35 @@ TEST_F(TTesteFechamento, SemMovimentoTrazAMarcaDoUltimoFechamentoAceito)
     EXPECT_THROW(Fechar(), EConvertError);
 }
 
+TEST_F(TTesteFechamento, AMarcaSaiQuandoOPeriodoPassaATerMovimento)
+{
+    TTarvoESocialCamposinfoFech LFech(1, D(2021, 3, 1), D(2021, 3, 31), tpIndApuracao::Mensal);
+    LFech.CarregarDados();
+    EXPECT_EQ("0", LFech.compSemMovto);
+    InserirEvento("S-1200", D(2021, 3, 1));
+    LFech.CarregarDados();
+    EXPECT_EQ("1 ''", std::to_string(LFech.evtRemun) + " '" + LFech.compSemMovto + "'");
+}
+
+TEST_F(TTesteFechamento, ProcuraOFechamentoAnteriorTambemEmColunaDate)
+{
+    // The moment of the search has a time of day, whatever the column has.
+    TOvraConnection LConexao(CriarBancoDeTeste("fechamento.fdb", false));
+    DefinirOvraConnection(&LConexao);
+    for (const char* LComando :
+         {"DROP INDEX IX1_SC00_ESOCIALREINFXML", "ALTER TABLE SC00_ESOCIALREINFXML DROP INIVALID",
+          "ALTER TABLE SC00_ESOCIALREINFXML ADD INIVALID DATE"}) {
+        LConexao.Executar(LComando);
+        LConexao.Confirmar();
+    }
+    InserirEvento("S-1299", D(2021, 1, 1), 201, 0, 1,
+                  "<eSocial><evtFechaEvPer><infoFech><compSemMovto>2021-01</compSemMovto></infoFech></evtFechaEvPer>"
+                  "</eSocial>");
+    EXPECT_EQ("0 0 0 0 '2021-01'", Fechar());
+    LConexao.Desfazer();
+    DefinirOvraConnection(&Conexao());
+}
+
 TEST_F(TTesteFechamento, PercentualDaDesoneracaoSoComIndicadorUm)
 {
     struct TCaso {

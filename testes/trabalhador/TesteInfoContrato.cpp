@@ -238,11 +238,16 @@ TEST_F(TTesteInfoContrato, TempoParcialVigenteNaData)
     Configurar(1, 1, D(2021, 1, 1), D(2021, 1, 31), "1", "9");
     Configurar(1, 1, D(2021, 2, 1), D(2021, 2, 28), "1", "3");
     Configurar(1, 1, D(2021, 3, 1), nullptr, "2", "5");
+    // Of two rows in force the newest.
+    Configurar(1, 1, D(2021, 5, 1), nullptr, "1", "4");
+    Configurar(1, 1, D(2021, 6, 1), nullptr, "1", "6");
     for (const auto& [LData, LEsperado] : {std::pair{D(2020, 12, 31), 0},
                                            {D(2021, 1, 31), 9},
                                            {D(2021, 2, 1), 3},
                                            {D(2021, 2, 28), 3},
-                                           {D(2021, 3, 1), 0}}) {
+                                           {D(2021, 3, 1), 0},
+                                           {D(2021, 5, 31), 4},
+                                           {D(2021, 6, 1), 6}}) {
         TTarvoESocialCamposHorContratual LGrupo(ID, LData);
         LGrupo.CarregarDados();
         EXPECT_EQ(LEsperado, LGrupo.tmpParc);

@@ -1,6 +1,5 @@
 #include "trabalhador/s2230/UnTarvoESocialCamposinfoCessao.h"
 
-#include "imports/UnOvraFormat.h"
 #include "trabalhador/s2230/UnTarvoESocialCamposSqlDetalheDaSituacao.h"
 
 namespace tarvo::trabalhador {

@@ -1,6 +1,5 @@
 #include "trabalhador/s2300/UnTarvoESocialCamposTermino.h"
 
-#include "imports/UnOvraFormat.h"
 #include "trabalhador/UnTarvoESocialCamposSqlDesligamento.h"
 
 namespace tarvo::trabalhador {
