@@ -37,6 +37,13 @@ constexpr auto LETRAS_E_DIGITOS = [] {
     return LTabela;
 }();
 bool EhLetra(char AChar) { return LETRAS[static_cast<unsigned char>(AChar)]; }
+/// Where a literal, a quoted name or a comment may begin.
+constexpr auto PARADAS = [] {
+    std::array<bool, 256> LTabela{};
+    for (const unsigned char LChar : {'0', '1', '2', '3', '4', '5', '6', '7', '8', '9', '\'', '"', '-', '/'})
+        LTabela[LChar] = true;
+    return LTabela;
+}();
 
 class TAnalisadorLexico {
 public:
@@ -63,21 +70,60 @@ public:
         return LToken;
     }
 
+    /// The next Numero or Texto, or Fim: the same tokens as by Proximo, without telling apart what lies between.
+    TToken ProximoLiteral()
+    {
+        auto LFimDoNumero = FPosicao;
+        for (;;) {
+            while (FPosicao < FSql.size() && !PARADAS[static_cast<unsigned char>(FSql[FPosicao])])
+                ++FPosicao;
+            TToken LToken{TTipoToken::Fim, FPosicao, 0};
+            if (FPosicao >= FSql.size())
+                return LToken;
+            const bool LEmPalavra =
+                FPosicao != LFimDoNumero && LETRAS_E_DIGITOS[static_cast<unsigned char>(FSql[FPosicao - 1])];
+            if (EhDigito(FSql[FPosicao])) {
+                if (LEmPalavra) {
+                    ++FPosicao;
+                    continue;
+                }
+                LToken.Tipo = Numero();
+                LFimDoNumero = FPosicao;
+            } else if (FSql[FPosicao] == '\'') {
+                LToken.Tipo = Entre('\'') && !LEmPalavra ? TTipoToken::Texto : TTipoToken::Outro;
+            } else if (FSql[FPosicao] == '"') {
+                Entre('"');
+            } else if (!PularComentario()) {
+                ++FPosicao;
+            }
+            LToken.Tamanho = FPosicao - LToken.Posicao;
+            if (LToken.Tipo == TTipoToken::Numero || LToken.Tipo == TTipoToken::Texto)
+                return LToken;
+        }
+    }
+
 private:
     void PularBrancosEComentarios()
     {
-        while (FPosicao < FSql.size()) {
-            if (static_cast<unsigned char>(FSql[FPosicao]) <= ' ') {
+        do
+            while (FPosicao < FSql.size() && static_cast<unsigned char>(FSql[FPosicao]) <= ' ')
                 ++FPosicao;
-            } else if (FSql[FPosicao] == '-' && FSql.substr(FPosicao).starts_with("--")) {
-                FPosicao = std::min(FSql.find('\n', FPosicao), FSql.size());
-            } else if (FSql[FPosicao] == '/' && FSql.substr(FPosicao).starts_with("/*")) {
-                const auto LFim = FSql.find("*/", FPosicao + 2);
-                FPosicao = LFim == std::string_view::npos ? FSql.size() : LFim + 2;
-            } else {
-                return;
-            }
+        while (PularComentario());
+    }
+
+    bool PularComentario()
+    {
+        const auto LResto = FSql.substr(FPosicao);
+        if (LResto.starts_with("--")) {
+            FPosicao = std::min(FSql.find('\n', FPosicao), FSql.size());
+            return true;
         }
+        if (LResto.starts_with("/*")) {
+            const auto LFim = FSql.find("*/", FPosicao + 2);
+            FPosicao = LFim == std::string_view::npos ? FSql.size() : LFim + 2;
+            return true;
+        }
+        return false;
     }
 
     TTipoToken Palavra()
@@ -229,7 +275,8 @@ private:
     }
     bool EhPalavra(std::size_t AIndice, std::string_view APalavra) const
     {
-        return AIndice < FTokens.size() && FTokens[AIndice].Tipo == TTipoToken::Palavra && MesmoTexto(Texto(AIndice), APalavra);
+        return AIndice < FTokens.size() && FTokens[AIndice].Tipo == TTipoToken::Palavra &&
+               MesmoTexto(Texto(AIndice), APalavra);
     }
     bool EhTipo(std::size_t AIndice, TTipoToken ATipo) const { return FTokens[AIndice].Tipo == ATipo; }
     TNivel& Nivel() { return FNiveis.back(); }
@@ -244,7 +291,8 @@ private:
         else if (LPalavra == "END" && Nivel().Casos > 0)
             --Nivel().Casos;
         else if (LPalavra == "SELECT" || LPalavra == "GROUP" || LPalavra == "ORDER" || LPalavra == "UNION" ||
-                 LPalavra == "ROWS" || LPalavra == "PLAN" || LPalavra == "WITH" || LPalavra == "OFFSET" || LPalavra == "FETCH")
+                 LPalavra == "ROWS" || LPalavra == "PLAN" || LPalavra == "WITH" || LPalavra == "OFFSET" ||
+                 LPalavra == "FETCH")
             Nivel().Clausula = TClausula::Fixa;
         else if (LPalavra == "FROM" || LPalavra == "JOIN")
             EntrarEmFrom();
@@ -294,9 +342,9 @@ private:
     /// Words after which a parenthesis groups, and is no call.
     bool EhConectivo(std::size_t AIndice) const
     {
-        static constexpr std::string_view CONECTIVOS[] = {"AND", "OR",     "NOT",  "ON",   "WHERE", "HAVING", "FROM",
-                                                          "JOIN", "EXISTS", "WHEN", "THEN", "ELSE",  "AS",     "BETWEEN",
-                                                          "SELECT", "BY",   "ANY",  "ALL",  "SOME",  "IS",     "UNION"};
+        static constexpr std::string_view CONECTIVOS[] = {
+            "AND",  "OR", "NOT",     "ON",     "WHERE", "HAVING", "FROM", "JOIN", "EXISTS", "WHEN", "THEN",
+            "ELSE", "AS", "BETWEEN", "SELECT", "BY",    "ANY",    "ALL",  "SOME", "IS",     "UNION"};
         return std::any_of(std::begin(CONECTIVOS), std::end(CONECTIVOS),
                            [&](std::string_view APalavra) { return EhPalavra(AIndice, APalavra); });
     }
@@ -309,9 +357,9 @@ private:
         case TTipoToken::Fecha:
             return true;
         case TTipoToken::Palavra: {
-            static constexpr std::string_view SEGUINTES[] = {"AND",  "OR",    "ORDER", "GROUP", "UNION", "LEFT",  "INNER",
-                                                             "JOIN", "RIGHT", "FULL",  "CROSS", "WHERE", "HAVING", "ROWS",
-                                                             "PLAN", "OFFSET", "FETCH", "FOR"};
+            static constexpr std::string_view SEGUINTES[] = {"AND",    "OR",   "ORDER", "GROUP",  "UNION", "LEFT",
+                                                             "INNER",  "JOIN", "RIGHT", "FULL",   "CROSS", "WHERE",
+                                                             "HAVING", "ROWS", "PLAN",  "OFFSET", "FETCH", "FOR"};
             return std::any_of(std::begin(SEGUINTES), std::end(SEGUINTES),
                                [&](std::string_view APalavra) { return EhPalavra(ADepois, APalavra); });
         }
@@ -337,7 +385,8 @@ private:
         // On the left of the operator there must be something with a type of its own: a column or a call. Two
         // literals (1=1) have none.
         return EhTipo(LAntes, TTipoToken::Operador) && LAntes > 0 &&
-               (EhTipo(LAntes - 1, TTipoToken::Palavra) || EhTipo(LAntes - 1, TTipoToken::Fecha)) && TerminaOperando(AIndice + 1);
+               (EhTipo(LAntes - 1, TTipoToken::Palavra) || EhTipo(LAntes - 1, TTipoToken::Fecha)) &&
+               TerminaOperando(AIndice + 1);
     }
 
     void LevantarListaDoIn()
@@ -392,9 +441,8 @@ TFormaSql LerFormaSql(std::string_view ASql)
     TFormaSql LForma;
     LForma.Literais.reserve(64);
     TAnalisadorLexico LLexico(ASql);
-    for (auto LToken = LLexico.Proximo(); LToken.Tipo != TTipoToken::Fim; LToken = LLexico.Proximo())
-        if (LToken.Tipo == TTipoToken::Numero || LToken.Tipo == TTipoToken::Texto)
-            LForma.Literais.push_back({LToken.Posicao, LToken.Tamanho, LToken.Tipo == TTipoToken::Texto});
+    for (auto LToken = LLexico.ProximoLiteral(); LToken.Tipo != TTipoToken::Fim; LToken = LLexico.ProximoLiteral())
+        LForma.Literais.push_back({LToken.Posicao, LToken.Tamanho, LToken.Tipo == TTipoToken::Texto});
     // Control characters stand in no statement of ours, so that a key never equals another statement's text.
     LForma.Chave = Substituir(ASql, LForma.Literais, [&](std::size_t AIndice) -> std::string_view {
         return LForma.Literais[AIndice].EhTexto ? "\x02" : "\x01";
