@@ -74,6 +74,7 @@ TValorPropriedade ParaValor(TTipoPropriedade ATipo, const std::string& ATexto)
     case TTipoPropriedade::ShortInt:
         return Inteiro(ATexto, -128, 127);
     case TTipoPropriedade::Double:
+        return static_cast<long double>(StrToDouble(ATexto));
     case TTipoPropriedade::Extended:
         return StrToFloat(ATexto);
     case TTipoPropriedade::Currency:

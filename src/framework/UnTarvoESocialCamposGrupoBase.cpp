@@ -34,6 +34,7 @@ TValorPropriedade ConverterTexto(const TPropriedade& APropriedade, std::string A
     case TTipoPropriedade::ShortInt:
         return NaFaixa<std::int8_t>(APropriedade, ATexto);
     case TTipoPropriedade::Double:
+        return static_cast<long double>(StrToDoubleDef(ATexto, 0.0));
     case TTipoPropriedade::Extended:
         return StrToFloatDef(ATexto, 0.0L);
     case TTipoPropriedade::Currency:

@@ -121,7 +121,7 @@ double TConjuntoDeLinhas::Numero(std::size_t ALinha, std::size_t AColuna) const
     const TColuna& LColuna = (*FColunas)[AColuna];
     switch (LColuna.Tipo) {
     case TTipoColuna::Texto:
-        return static_cast<double>(StrToFloat(TextoCru(LCelula)));
+        return StrToDouble(TextoCru(LCelula));
     case TTipoColuna::Inteiro:
         return static_cast<double>(static_cast<long double>(LCelula.Inteiro) /
                                    static_cast<long double>(Potencia10(-LColuna.Escala)));
@@ -129,7 +129,7 @@ double TConjuntoDeLinhas::Numero(std::size_t ALinha, std::size_t AColuna) const
         return static_cast<double>(LCelula.Inteiro);
     case TTipoColuna::Float:
         // The decimal that the single stands for (507.1), not its binary expansion.
-        return static_cast<double>(StrToFloat(FloatToStr(static_cast<float>(LCelula.Numero))));
+        return StrToDouble(FloatToStr(static_cast<float>(LCelula.Numero)));
     default:
         return LCelula.Numero;
     }

@@ -35,7 +35,9 @@ std::optional<std::int64_t> LerInteiro(std::string_view AValor)
     return LResultado;
 }
 
-std::optional<long double> LerNumero(std::string_view AValor)
+/// Rounded once, to the number that was asked for.
+template <class T>
+std::optional<T> LerNumero(std::string_view AValor)
 {
     const auto LTexto = Trim(AValor);
     std::string LNormal;
@@ -71,7 +73,7 @@ std::optional<long double> LerNumero(std::string_view AValor)
     }
     if (i != LTexto.size())
         return std::nullopt;
-    long double LResultado = 0.0L;
+    T LResultado = 0;
     const auto [LFim, LErro] = std::from_chars(LNormal.data(), LNormal.data() + LNormal.size(), LResultado);
     static_cast<void>(LFim);
     if (LErro != std::errc() || !std::isfinite(static_cast<double>(LResultado)))
@@ -234,14 +236,23 @@ std::int64_t StrToInt64(std::string_view AValor)
     throw EConvertError("'" + std::string(AValor) + "' não é um número inteiro válido");
 }
 
-long double StrToFloatDef(std::string_view AValor, long double APadrao) { return LerNumero(AValor).value_or(APadrao); }
-
-long double StrToFloat(std::string_view AValor)
+long double StrToFloatDef(std::string_view AValor, long double APadrao)
 {
-    if (const auto LValor = LerNumero(AValor))
+    return LerNumero<long double>(AValor).value_or(APadrao);
+}
+
+double StrToDoubleDef(std::string_view AValor, double APadrao) { return LerNumero<double>(AValor).value_or(APadrao); }
+
+template <class T>
+static T NumeroOuErro(std::string_view AValor)
+{
+    if (const auto LValor = LerNumero<T>(AValor))
         return *LValor;
     throw EConvertError("'" + std::string(AValor) + "' não é um número válido");
 }
+
+long double StrToFloat(std::string_view AValor) { return NumeroOuErro<long double>(AValor); }
+double StrToDouble(std::string_view AValor) { return NumeroOuErro<double>(AValor); }
 
 TDateTime StrToDateTime(std::string_view AValor)
 {

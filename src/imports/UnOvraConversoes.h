@@ -31,6 +31,9 @@ std::int64_t StrToInt64(std::string_view AValor);
 long double StrToFloatDef(std::string_view AValor, long double APadrao);
 /// The same; EConvertError with the text instead of a default.
 long double StrToFloat(std::string_view AValor);
+/// These two for what ends as a double: by way of the wider number a text may round to a neighbour of its own.
+double StrToDoubleDef(std::string_view AValor, double APadrao);
+double StrToDouble(std::string_view AValor);
 /// dd/mm/yyyy or dd.mm.yy (00-49 is 2000-2049, 50-99 is 1950-1999) with an optional hh:nn[:ss].
 /// EConvertError with the text when it is no real date, or blank.
 TDateTime StrToDateTime(std::string_view AValor);

@@ -169,7 +169,7 @@ TEST(TTesteTextosGerados, ConversoesDeTexto)
             EXPECT_EQ(*LData, StrToDateTime(DateTimeToStr(*LData)));
         }
         const double LQualquer = A.Numero();
-        EXPECT_EQ(LQualquer, static_cast<double>(StrToFloat(FloatToStr(LQualquer)))) << FloatToStr(LQualquer);
+        EXPECT_EQ(LQualquer, StrToDouble(FloatToStr(LQualquer))) << FloatToStr(LQualquer);
         // As far as a payroll goes; beyond that a text passes through a floating number that is coarser than Currency.
         const auto LMoeda = Currency::DeDecimosMilesimos(A.Inteiro() % 100'000'000'000'000'000);
         EXPECT_EQ(LMoeda, Currency(StrToFloat(CurrToStr(LMoeda)))) << CurrToStr(LMoeda);
