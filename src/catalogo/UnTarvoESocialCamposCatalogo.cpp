@@ -171,13 +171,13 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
         {"S-1035",
          "Carreiras públicas",
          {{"AIdCargoDescr", taId, "código interno da carreira", true, -1, "AIDCargosDescr"}},
-         [](const TArgumentosDeEvento& A) { return Evento<tabelas::TTarvoESocialCamposS1035>(A.Id("AIdCargoDescr")); }},
+         [](const TArgumentosDeEvento& A) { return Evento<tabelas::TTarvoESocialCamposS1035>(A.Id("AIdCargoDescr")); },
+         LoteDaEmpresa<CARGOS_DA_EMPRESA>()},
         {"S-1040",
          "Funções e cargos em comissão",
          {{"AIDCargosDescr", taId, "código interno da função"}},
-         [](const TArgumentosDeEvento& A) {
-             return Evento<tabelas::TTarvoESocialCamposS1040>(A.Id("AIDCargosDescr"));
-         }},
+         [](const TArgumentosDeEvento& A) { return Evento<tabelas::TTarvoESocialCamposS1040>(A.Id("AIDCargosDescr")); },
+         LoteDaEmpresa<CARGOS_DA_EMPRESA>()},
         {"S-1050",
          "Tabela de horários e turnos de trabalho",
          {{"AIdHorario", taId, "código interno do horário"},
@@ -186,7 +186,8 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          [](const TArgumentosDeEvento& A) {
              return Evento<tabelas::TTarvoESocialCamposS1050>(A.Id("AIdHorario"), A.Id("AIdHorarioDet"),
                                                               static_cast<TDiaSemana>(A.Inteiro("ADiaSemana")));
-         }},
+         },
+         LoteDaEmpresa<HORARIOS_DA_EMPRESA>()},
         {"S-1060",
          "Ambientes de trabalho",
          {{"AIdAmbiente", taId, "código interno do ambiente"}},

@@ -175,6 +175,19 @@ TEST_F(TTesteChavesDoLote, SemVinculoPelaCategoriaECadaEventoDoVinculoPeloSeuReg
     }
 }
 
+TEST_F(TTesteChavesDoLote, HorariosPelosDiasComHorasEPelosDetalhes)
+{
+    Inserir("SC00_EMPRESA", {{"IDEMPRESA", 1}});
+    Inserir("TAB_HORARIOS", {{"IDHORARIO", 1}, {"DURJORNADADOM", 0}, {"DURJORNADASEG", 480}, {"DURJORNADASAB", 240}});
+    Inserir("TAB_HORARIOS", {{"IDHORARIO", 2}, {"DURJORNADADOM", 360}});
+    Inserir("TAB_HORARIOSDET", {{"IDHORARIODET", 7}, {"IDHORARIO", 1}});
+    std::string LTexto;
+    for (const auto& LChave : BuscarChavesDoLote("S-1050", {{"IdEmpresa", "1"}}))
+        for (const char* LNome : {"AIdHorario", "AIdHorarioDet", "ADiaSemana"})
+            LTexto += LChave.Argumentos.at(LNome) + (LNome[1] == 'D' ? " " : ",");
+    EXPECT_EQ("1,0,1 1,0,6 1,7,0 2,0,0 ", LTexto);
+}
+
 TEST_F(TTesteChavesDoLote, ArgumentoErradoOuEventoSemLote)
 {
     EXPECT_THROW(BuscarChavesDoLote("S-1000", {}), EArgumentoInvalido);
