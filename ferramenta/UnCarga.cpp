@@ -4,6 +4,7 @@
 
 #include <iostream>
 
+#include "ferramenta/UnLinhaDeComando.h"
 #include "framework/UnTarvoESocialCamposCaminhos.h"
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
 #include "imports/UnTarvoUtilsStrings.h"
@@ -14,6 +15,7 @@ void AdicionarOpcoesDaCarga(CLI::App& AComando, TOpcoesDaCarga& AOpcoes)
 {
     AComando.add_option("--grupos", AOpcoes.Grupos, "carrega só os grupos com estes GUIDs; vazio carrega todos")
         ->ignore_case()
+        ->check(&ConferirTexto)
         ->type_name("GUID[,GUID...]");
     AComando
         .add_option("--sem-grupo", AOpcoes.SemGrupo,

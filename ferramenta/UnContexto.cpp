@@ -67,10 +67,13 @@ void AdicionarOpcoesDeLigacao(CLI::App& AComando, TOpcoesDoContexto& AOpcoes)
         .add_option("--banco", AOpcoes.Banco,
                     "banco da folha: um arquivo (motor embutido), host[/porta]:caminho ou inet://... (servidor)")
         ->ignore_case()
+        ->check(&ConferirTexto)
         ->type_name("LIGACAO");
     AComando.add_option("--usuario", AOpcoes.Usuario, "usuário do banco; senão o de ISC_USER, senão SYSDBA")
         ->ignore_case()
+        ->check(&ConferirTexto)
         ->type_name("NOME");
+    // Whatever it begins with: it may be anybody's password.
     AComando.add_option("--senha", AOpcoes.Senha, "senha do usuário; senão a de ISC_PASSWORD")
         ->ignore_case()
         ->type_name("SENHA");

@@ -24,7 +24,9 @@ void AdicionarChave(CLI::App& AComando, const std::string& ANome, bool& AValor, 
     AComando.add_flag(ANome, AValor, ADescricao)->ignore_case()->disable_flag_override();
 }
 
-std::string ConferirValor(const std::string& AValor) { return AValor.empty() ? "vazio" : ""; }
+std::string ConferirTexto(const std::string& AValor) { return AValor.starts_with("--") ? "opção" : ""; }
+
+std::string ConferirValor(const std::string& AValor) { return AValor.empty() ? "vazio" : ConferirTexto(AValor); }
 
 void AdicionarEventos(
     CLI::App& AComando, TEventoDaLinha& AEvento, const std::function<bool(const TEventoDoCatalogo&)>& AAceita,

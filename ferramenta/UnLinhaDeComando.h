@@ -36,7 +36,10 @@ CLI::App& AdicionarComando(CLI::App& AApp, TComandos& AComandos, const std::stri
 /// Adds an option that is given or not, and takes no value.
 void AdicionarChave(CLI::App& AComando, const std::string& ANome, bool& AValor, const std::string& ADescricao);
 
-/// For an option that means something else when it is left out: an empty value is refused, as one that is missing.
+/// For an option of any text: what looks like another option stands there because the value was forgotten.
+std::string ConferirTexto(const std::string& AValor);
+
+/// For an option that means something else when it is left out: an empty value is refused too.
 std::string ConferirValor(const std::string& AValor);
 
 /// The event that a command was given, and its arguments by name.

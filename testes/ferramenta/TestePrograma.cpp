@@ -73,6 +73,8 @@ TEST(TTestePrograma, UsoErradoDizOQueEstaErradoESaiComDois)
         {S1000({"--rastrear", "/nao/existe/rastro"}), "Não foi possível criar o arquivo de rastro"},
         {S1000({"--compacto=nao"}), "--compacto não leva valor"},
         {S1000({"--executar=false"}, "reverter"), "--executar não leva valor"},
+        {{"criar-banco", "--banco", "--exemplo"}, "--banco precisa de exatamente um valor"},
+        {S1000({"--grupos", "--compacto"}), "--grupos precisa de exatamente um valor"},
         {S1000({"--rastrear", ""}), "--rastrear precisa de exatamente um valor"},
         {S1000({"--brenco", ""}), "--brenco precisa de exatamente um valor"},
         {{"lote", "S-1200", "--banco", B, "--parte", ""}, "--parte precisa de exatamente um valor"},
