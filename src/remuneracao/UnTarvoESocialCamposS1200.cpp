@@ -46,6 +46,8 @@ std::string SqlDoRamo(const TRamoDeFolha& ARamo)
 }
 
 constexpr std::string_view SEM_DATA = "CAST('01.01.1900' AS TIMESTAMP)";
+// The engine makes a text of a union of TIMESTAMP and DATE, which the column may be.
+constexpr std::string_view DATA_DO_PAGTO = "CAST(CALCULO.DATA_PAGTO AS TIMESTAMP)";
 constexpr std::string_view DA_EMPRESA_NO_MES = R"(CALCULO.DATA_INICIO BETWEEN %1:s AND %2:s
   AND CALCULO.DATA_FIM BETWEEN %1:s AND %2:s
   AND CALCULO.COD_EMPRESA = %3:d
@@ -68,19 +70,19 @@ std::string SqlDasFolhas(tpIndApuracao AIndApuracao)
         {2, SEM_DATA, "CALCULO.SUBTIPO", "0", "0", "0", "CALCULO",
          NoMes("CALCULO.TIPO IN ('02', '06')\n  AND CALCULO.SUBTIPO = 0")},
         // Profit sharing, by the day of payment.
-        {3, "CALCULO.DATA_PAGTO", "CALCULO.SUBTIPO", "0", "0", "0", "CALCULO",
+        {3, DATA_DO_PAGTO, "CALCULO.SUBTIPO", "0", "0", "0", "CALCULO",
          "CALCULO.DATA_PAGTO BETWEEN %1:s AND %2:s\n  AND CALCULO.TIPO = '09'\n  AND CALCULO.COD_EMPRESA = %3:d"},
         // Complementary, not by agreement.
         {4, SEM_DATA, "CALCULO.SUBTIPO", "CALCCOMPL.TIPOCALCULO", "0", "0", LComplementar,
          "CALCULO.DATA_INICIO <= %2:s\n  AND CALCULO.DATA_FIM >= %1:s\n  AND CALCULO.SUBTIPO = 4\n"
          "  AND CALCCOMPL.TIPOCALCULO <> 1\n  AND CALCULO.COD_EMPRESA = %3:d"},
         // Complementary by an agreement of the month, whatever the period of the run.
-        {5, "CALCULO.DATA_PAGTO", "CALCULO.SUBTIPO", "CALCCOMPL.TIPOCALCULO", "FP_INFOGFIP650660.IDINFOGFIP650660", "0",
+        {5, DATA_DO_PAGTO, "CALCULO.SUBTIPO", "CALCCOMPL.TIPOCALCULO", "FP_INFOGFIP650660.IDINFOGFIP650660", "0",
          LPorAcordo,
          "FP_INFOGFIP650660.DATAOCORRENCIA BETWEEN %1:s AND %2:s\n  AND CALCULO.SUBTIPO = 4\n"
          "  AND CALCCOMPL.TIPOCALCULO = 1\n  AND CALCULO.COD_EMPRESA = %3:d"},
         // Complementary dismissal by agreement, paid in the month.
-        {6, "CALCULO.DATA_PAGTO", "CALCULO.SUBTIPO", "0", "RESC_COMPL.IDINFOGFIP650660", "0",
+        {6, DATA_DO_PAGTO, "CALCULO.SUBTIPO", "0", "RESC_COMPL.IDINFOGFIP650660", "0",
          "CALCULO\nINNER JOIN " + std::string(RESC_COMPL_DO_CALCULO) +
              "\nJOIN TAB_VERBAS ON (CALCULO.COD_VERBA = TAB_VERBAS.CODIGO)",
          "CALCULO.TIPO = '05'\n  AND CALCULO.SUBTIPO = 2\n  AND RESC_COMPL.IDINFOGFIP650660 IS NOT NULL\n"

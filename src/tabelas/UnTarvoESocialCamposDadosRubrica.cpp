@@ -76,10 +76,11 @@ LEFT JOIN (SELECT FIRST 1 FP_ESOCIALTABELA.CODIGO, FP_RUBRICARELAC.DATAINICIO
            FROM FP_ESOCIALTABELA
            JOIN FP_RUBRICARELAC ON (FP_RUBRICARELAC.IDESOCIALTABELA = FP_ESOCIALTABELA.IDESOCIALTABELA)
            WHERE FP_RUBRICARELAC.IDVERBA = %0:d
-             AND (FP_RUBRICARELAC.DATAFIM >= %1:s OR FP_RUBRICARELAC.DATAFIM IS NULL)
+             AND (FP_RUBRICARELAC.DATAFIM >= CAST(%1:s AS TIMESTAMP) OR FP_RUBRICARELAC.DATAFIM IS NULL)
            ORDER BY FP_RUBRICARELAC.DATAINICIO ASC) AS TABELAESOCIAL ON (1=1)
 WHERE TAB_VERBAS.IDVERBA = %0:d)";
-    // The very start of the test environment stands for a rubric sought as of now.
+    // The very start of the test environment stands for a rubric sought as of now, with its time of day, which a DATE
+    // column refuses in a bare literal.
     const auto LData = FDataGeracao == TTarvoConsultasESocial::BuscarDataInicioAmbienteTeste() ? Now() : FDataGeracao;
     return Format(SQL, FIdVerba, FormatarDataDB(LData, true));
 }

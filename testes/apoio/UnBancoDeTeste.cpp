@@ -70,13 +70,14 @@ TParametrosConexao ParametrosDoBanco(const std::string& ANomeDoArquivo)
             DoAmbiente("ISC_PASSWORD", "")};
 }
 
-TParametrosConexao CriarBancoDeTeste(const std::string& ANomeDoArquivo, bool AComExemplo)
+TParametrosConexao CriarBancoDeTeste(const std::string& ANomeDoArquivo, bool AComExemplo,
+                                     const std::function<std::string(std::string_view)>& ANoEsquema)
 {
     const auto LParametros = ParametrosDoBanco(ANomeDoArquivo);
     TOvraConnection::CriarBanco(LParametros);
     TOvraConnection LConexao(LParametros);
     for (const auto& LScript : ScriptsDoEsquema())
-        ExecutarScriptSql(LConexao, LScript.Texto);
+        ExecutarScriptSql(LConexao, ANoEsquema ? ANoEsquema(LScript.Texto) : std::string(LScript.Texto));
     if (AComExemplo)
         for (const auto& LScript : ScriptsDoExemplo())
             ExecutarScriptSql(LConexao, LScript.Texto);

@@ -2,9 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <initializer_list>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <variant>
 
@@ -17,8 +19,10 @@ namespace tarvo::testes {
 /// Where databases of this run are made: a folder of its own for the embedded engine, or below TESTES_LIGACAO
 /// (`host/port:folder`) on a server. Removed at the end of the run.
 TParametrosConexao ParametrosDoBanco(const std::string& ANomeDoArquivo);
-/// A fresh database with the schema, and with the sample company when asked; made once per name.
-TParametrosConexao CriarBancoDeTeste(const std::string& ANomeDoArquivo, bool AComExemplo);
+/// A fresh database with the schema, and with the sample company when asked; made once per name. ANoEsquema may change
+/// the texts of the schema.
+TParametrosConexao CriarBancoDeTeste(const std::string& ANomeDoArquivo, bool AComExemplo,
+                                     const std::function<std::string(std::string_view)>& ANoEsquema = {});
 /// Closes the connections that the fixtures share and ends the engine; the last act of a run.
 void FecharConexoes();
 
