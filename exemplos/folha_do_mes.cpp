@@ -3,7 +3,6 @@
 //
 //   folha_do_mes folha.fdb 1 2021-03-01 2021-03-31
 
-#include <cstdlib>
 #include <iostream>
 #include <map>
 
@@ -35,11 +34,7 @@ void Somar(const tarvo::remuneracao::TTarvoESocialCamposS1200& AEvento, std::map
 
 void MostrarFolha(const std::string& ABanco, const std::map<std::string, std::string>& AArgumentos)
 {
-    const char* LUsuario = std::getenv("ISC_USER");
-    const char* LSenha = std::getenv("ISC_PASSWORD");
-    tarvo::TOvraConnection LConexao({.BancoDeDados = ABanco,
-                                     .Usuario = LUsuario != nullptr ? LUsuario : "SYSDBA",
-                                     .Senha = LSenha != nullptr ? LSenha : ""});
+    tarvo::TOvraConnection LConexao(tarvo::ParametrosDaConexao(ABanco));
     tarvo::DefinirOvraConnection(&LConexao);
     // One snapshot: all figures are of the same moment.
     LConexao.IniciarTransacao(tarvo::TOvraConnection::TIsolamento::Instantaneo);

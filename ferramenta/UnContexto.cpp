@@ -4,7 +4,6 @@
 #include <rapidjson/stringbuffer.h>
 #include <rapidjson/writer.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <iostream>
 
@@ -17,12 +16,6 @@
 namespace tarvo::ferramenta {
 
 namespace {
-
-std::string DoAmbiente(const char* ANome)
-{
-    const char* LValor = std::getenv(ANome);
-    return LValor == nullptr ? std::string() : std::string(LValor);
-}
 
 /// Every line of a trace begins so.
 constexpr std::string_view INICIO_DO_RASTRO = "{\"sql\":";
@@ -102,12 +95,7 @@ TParametrosConexao ParametrosDaLigacao(const TOpcoesDoContexto& AOpcoes)
 {
     if (AOpcoes.Banco.empty())
         throw EUsoErrado("Falta informar --banco");
-    TParametrosConexao LParametros;
-    LParametros.BancoDeDados = AOpcoes.Banco;
-    if (const auto LUsuario = AOpcoes.Usuario.empty() ? DoAmbiente("ISC_USER") : AOpcoes.Usuario; !LUsuario.empty())
-        LParametros.Usuario = LUsuario;
-    LParametros.Senha = AOpcoes.Senha.empty() ? DoAmbiente("ISC_PASSWORD") : AOpcoes.Senha;
-    return LParametros;
+    return ParametrosDaConexao(AOpcoes.Banco, AOpcoes.Usuario, AOpcoes.Senha);
 }
 
 TContexto::TContexto(const TOpcoesDoContexto& AOpcoes)

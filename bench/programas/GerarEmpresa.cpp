@@ -1,7 +1,6 @@
 #include <CLI/CLI.hpp>
 
 #include <cstdio>
-#include <cstdlib>
 
 #include "bench/UnGeradorDeEmpresa.h"
 #include "imports/UnOvraUtilsDbFirebird.h"
@@ -12,21 +11,17 @@ int main(int argc, char** argv)
 {
     using namespace tarvo;
     PrepararPastaDeTravas();
-    TParametrosConexao LParametros;
+    std::string LBanco;
     int LTrabalhadores = 1000;
     std::uint32_t LSemente = 20210301;
     CLI::App LApp("Acrescenta trabalhadores gerados à empresa 1 de um banco com a empresa de exemplo");
     LApp.set_help_flag("--ajuda", "mostra esta ajuda");
-    LApp.add_option("--banco", LParametros.BancoDeDados, "o banco, como em esocial-campos")->required();
+    LApp.add_option("--banco", LBanco, "o banco, como em esocial-campos")->required();
     LApp.add_option("--trabalhadores", LTrabalhadores, "quantos")->check(CLI::PositiveNumber);
     LApp.add_option("--semente", LSemente, "a mesma semente dá a mesma empresa");
     CLI11_PARSE(LApp, argc, argv);
-    for (const auto& [LNome, LOnde] :
-         {std::pair{"ISC_USER", &LParametros.Usuario}, {"ISC_PASSWORD", &LParametros.Senha}})
-        if (const char* LValor = std::getenv(LNome))
-            *LOnde = LValor;
     try {
-        TOvraConnection LConexao(LParametros);
+        TOvraConnection LConexao(ParametrosDaConexao(LBanco));
         bancada::GerarTrabalhadores(LConexao, LTrabalhadores, LSemente);
         // What the generator left to clean is not the load's to pay.
         LConexao.Consultar("SELECT COUNT(*) FROM CALCULO");

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
+#include <cstdlib>
 #include <cstring>
 #include <limits>
 #include <list>
@@ -402,6 +403,23 @@ std::string LiteraisFixos(std::string_view ASql, const TFormaSql& AForma, const 
 }
 
 } // namespace
+
+TParametrosConexao ParametrosDaConexao(std::string ABancoDeDados, const std::string& AUsuario,
+                                       const std::string& ASenha)
+{
+    TParametrosConexao LParametros;
+    LParametros.BancoDeDados = std::move(ABancoDeDados);
+    const auto Definir = [](std::string& AOnde, const std::string& AInformado, const char* AVariavel) {
+        const char* LDoAmbiente = std::getenv(AVariavel);
+        if (!AInformado.empty())
+            AOnde = AInformado;
+        else if (LDoAmbiente != nullptr && *LDoAmbiente != '\0')
+            AOnde = LDoAmbiente;
+    };
+    Definir(LParametros.Usuario, AUsuario, "ISC_USER");
+    Definir(LParametros.Senha, ASenha, "ISC_PASSWORD");
+    return LParametros;
+}
 
 bool TParametrosConexao::EhServidor() const
 {

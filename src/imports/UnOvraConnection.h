@@ -21,6 +21,11 @@ struct TParametrosConexao {
     bool EhServidor() const;
 };
 
+/// What opens a location. An empty user or password is that of ISC_USER or ISC_PASSWORD; without either the user is
+/// SYSDBA, with an empty password.
+TParametrosConexao ParametrosDaConexao(std::string ABancoDeDados, const std::string& AUsuario = {},
+                                       const std::string& ASenha = {});
+
 /// What the observer of a connection is told of each statement that ran to its end.
 struct TExecucaoSql {
     /// The text as the caller gave it.

@@ -66,8 +66,7 @@ std::map<bool, std::unique_ptr<TOvraConnection>>& Conexoes()
 TParametrosConexao ParametrosDoBanco(const std::string& ANomeDoArquivo)
 {
     const std::string LServidor = DoAmbiente("TESTES_LIGACAO", "");
-    return {LServidor + (PastaDaRodada() / ANomeDoArquivo).string(), DoAmbiente("ISC_USER", "SYSDBA"),
-            DoAmbiente("ISC_PASSWORD", "")};
+    return ParametrosDaConexao(LServidor + (PastaDaRodada() / ANomeDoArquivo).string());
 }
 
 TParametrosConexao CriarBancoDeTeste(const std::string& ANomeDoArquivo, bool AComExemplo,
