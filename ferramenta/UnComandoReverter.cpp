@@ -23,13 +23,6 @@ struct TOpcoes {
     bool Executar = false;
 };
 
-/// The events whose corrected values turn back into statements.
-bool TemReversao(const TEventoDoCatalogo& AEvento)
-{
-    const std::string_view LCodigo = AEvento.Codigo;
-    return LCodigo == "S-1000" || LCodigo == "S-1030";
-}
-
 void Definir(TTarvoESocialCamposGrupoBase& AEvento, const std::string& ADefinicao)
 {
     const auto LIgual = ADefinicao.find('=');
@@ -42,24 +35,15 @@ void Definir(TTarvoESocialCamposGrupoBase& AEvento, const std::string& ADefinica
     }
 }
 
-/// All or nothing. Every statement is tried, so that each one that the engine refuses is named.
 int ExecutarComandos(TOvraConnection& AConexao, const std::vector<std::string>& AComandos)
 {
-    std::size_t LRecusados = 0;
-    for (const auto& LSql : AComandos) {
-        try {
-            AConexao.Executar(LSql);
-        } catch (const EDatabaseError& LErro) {
-            std::cerr << "Comando recusado: " << LSql << "\n" << LErro.what() << "\n";
-            ++LRecusados;
-        }
-    }
-    if (LRecusados > 0) {
-        AConexao.Desfazer();
-        std::cerr << "Nada foi gravado: " << LRecusados << " de " << AComandos.size() << " comandos recusados\n";
+    const auto LRecusados = ExecutarReversao(AConexao, AComandos);
+    for (const auto& [LSql, LMotivo] : LRecusados)
+        std::cerr << "Comando recusado: " << LSql << "\n" << LMotivo << "\n";
+    if (!LRecusados.empty()) {
+        std::cerr << "Nada foi gravado: " << LRecusados.size() << " de " << AComandos.size() << " comandos recusados\n";
         return SAIDA_FALHA;
     }
-    AConexao.Confirmar();
     std::cerr << AComandos.size() << " comandos executados\n";
     return SAIDA_FEITO;
 }
@@ -102,7 +86,8 @@ void RegistrarReverter(CLI::App& AApp, TComandos& AComandos)
         ->type_name("CAMINHO=VALOR")
         ->allow_extra_args(false);
     AdicionarChave(LApp, "--executar", LOpcoes->Executar, "executa os comandos, todos ou nenhum");
-    AdicionarEventos(LApp, LOpcoes->Evento, TemReversao);
+    AdicionarEventos(LApp, LOpcoes->Evento,
+                     [](const TEventoDoCatalogo& AEvento) { return AEvento.Construir.TemReversao(); });
     AComandos.back().Executar = [LOpcoes] { return Reverter(*LOpcoes); };
 }
 

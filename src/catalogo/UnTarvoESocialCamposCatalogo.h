@@ -96,17 +96,22 @@ struct TEventoConstruidoDe : TEventoConstruido {
 class TConstrutorDeEvento {
 public:
     template <class F, class T = typename std::invoke_result_t<F, const TArgumentosDeEvento&>::TEvento>
-    TConstrutorDeEvento(F AConstruir) : FConstruir(AConstruir), FTipo(&typeid(T)), FTabela(&T::Tabela)
+    TConstrutorDeEvento(F AConstruir)
+        : FConstruir(AConstruir), FTipo(&typeid(T)), FTabela(&T::Tabela),
+          FTemReversao(!std::is_same_v<decltype(&T::ReverterDados), void (TTarvoESocialCamposGrupoBase::*)()>)
     {}
 
     TEventoConstruido operator()(const TArgumentosDeEvento& AArgumentos) const;
     const std::type_info& Tipo() const { return *FTipo; }
     const TPropriedades& Tabela() const { return FTabela(); }
+    /// Whether corrected values of the event turn back into statements.
+    bool TemReversao() const { return FTemReversao; }
 
 private:
     std::function<TEventoConstruido(const TArgumentosDeEvento&)> FConstruir;
     const std::type_info* FTipo;
     const TPropriedades& (*FTabela)();
+    bool FTemReversao;
 };
 
 /// How an event is loaded for everybody of a company.

@@ -17,4 +17,16 @@ public:
 
 inline TListaSql& BuscarInstanciaListaSql() { return TListaSql::BuscarSingleton(); }
 
+class TOvraConnection;
+
+/// A statement that the engine refused, and the engine's text.
+struct TComandoRecusado {
+    std::string Sql;
+    std::string Motivo;
+};
+
+/// Runs statements in order, all or nothing. Every one is tried, so that each that the engine refuses is told; with one
+/// refused the whole transaction is undone, else it is confirmed. EDatabaseError when that fails.
+std::vector<TComandoRecusado> ExecutarReversao(TOvraConnection& AConexao, const std::vector<std::string>& AComandos);
+
 } // namespace tarvo
