@@ -61,6 +61,9 @@ class Exemplos(Base):
         destino = self.compilar_exemplos(self.prefixo)
         self.assertEqual(self.conferir_folha(f"{destino}/folha_do_mes"),
                          self.conferir_folha(f"{destino}/folha_do_mes_estatica"))
+        comandos = rodar(f"{destino}/corrigir_cargo", self.banco, "8", "Analista de Sistemas")
+        self.assertEqual(comandos, rodar(self.programa, "reverter", "S-1030", "--AIDCargosDescr", "8", "--banco",
+                                         self.banco, "--definir", "InfoCargo.DadosCargo.nmCargo=Analista de Sistemas"))
         versao = rodar(self.programa, "--versao").strip()
         menor = versao.rsplit(".", 1)[0]
         ligacoes = rodar("readelf", "-d", f"{destino}/folha_do_mes")
@@ -84,6 +87,8 @@ class Exemplos(Base):
             programa = f"{self.pasta}/folha{len(estatica)}"
             rodar("g++", "-std=c++20", f"{RAIZ}/exemplos/folha_do_mes.cpp", "-o", programa, *opcoes)
             self.conferir_folha(programa, env=dict(os.environ, LD_LIBRARY_PATH=f"{self.prefixo}/lib"))
+        rodar("gcc", "-std=c99", f"{RAIZ}/exemplos/corrigir_cargo.c", "-o", f"{self.pasta}/corrigir",
+              *rodar("pkg-config", "--cflags", "--libs", "tarvo-esocial-campos", env=ambiente).split())
 
     def test_pacotes_debian(self):
         rodar("cpack", "--config", f"{CONSTRUCAO}/CPackConfig.cmake", "-B", self.pasta, cwd=self.pasta)
