@@ -38,11 +38,17 @@ struct TMeio {
     /// The caller holds the moment over its calls.
     bool Instantaneo = false;
 
+    /// On both connections or on none.
     void IniciarInstantaneo()
     {
-        for (auto* LConexao : {&Folha, Brenco.get()})
-            if (LConexao != nullptr)
-                LConexao->IniciarTransacao(TOvraConnection::TIsolamento::Instantaneo);
+        try {
+            for (auto* LConexao : {&Folha, Brenco.get()})
+                if (LConexao != nullptr)
+                    LConexao->IniciarTransacao(TOvraConnection::TIsolamento::Instantaneo);
+        } catch (...) {
+            Largar();
+            throw;
+        }
     }
     /// Ends the moment. Nothing was written, so a connection that broke loses nothing; its next use tells so.
     void Largar() noexcept
