@@ -72,10 +72,15 @@ int UsoErrado(const std::string& ATexto, const std::string& AUso)
 int Executar(CLI::App& AApp, const TComandos& AComandos)
 {
     const TComando* LEscolhido = nullptr;
-    for (const auto& LComando : AComandos)
+    std::vector<std::string> LDados;
+    for (const auto& LComando : AComandos) {
+        LDados.insert(LDados.end(), LComando.App->count(), LComando.App->get_name());
         if (LComando.App->parsed())
             LEscolhido = &LComando;
-    const std::string LUso = LEscolhido != nullptr ? LEscolhido->Uso : USO_GERAL;
+    }
+    const std::string LUso = LEscolhido != nullptr && LDados.size() == 1 ? LEscolhido->Uso : USO_GERAL;
+    if (LDados.size() > 1)
+        return UsoErrado("Informe um só comando: " + LDados[0] + " ou " + LDados[1], LUso);
     if (const auto LSobras = AApp.remaining(true); !LSobras.empty()) {
         const bool LOpcao = LSobras.front().starts_with("-");
         const char* LQue = LEscolhido == nullptr ? "Comando desconhecido"

@@ -119,7 +119,7 @@ TEST_P(TTesteUsoErrado, CadaArgumentoQueFaltaSeRepeteOuNaoServe)
         return;
     if (LEvento.Lote)
         Provar("lote", LEvento, LEvento.Lote->Argumentos);
-    if (GetParam() == "S-1000" || GetParam() == "S-1030")
+    if (LEvento.Construir.TemReversao())
         Provar("reverter", LEvento, LEvento.Argumentos);
 }
 
@@ -208,7 +208,8 @@ TEST(TTesteOpcoesDoPrograma, LinhasAoAcaso)
             LLinha.insert(LLinha.begin() + LOnde, LPecas[Ate(LPecas.size() - 1)]);
         }
         // The only place where a database of that name could be made.
-        if (!LLinha.empty() && LLinha.front() == "criar-banco" && NaLinha(LLinha).find(BANCO) == std::string::npos)
+        if (!LLinha.empty() && LLinha.front() == "criar-banco" &&
+            NaLinha(LLinha).find(std::string("'--banco' '") + BANCO) == std::string::npos)
             continue;
         const auto LSaida = Rodar(LLinha);
         SCOPED_TRACE(NaLinha(LLinha));
