@@ -91,7 +91,8 @@ TARVO_API tarvo_situacao tarvo_encerrar_instantaneo(tarvo_conexao* conexao);
  * takes: keys and ordinals as whole numbers, dates as AAAA-MM-DD. Nothing is loaded yet. */
 TARVO_API tarvo_situacao tarvo_evento_criar(tarvo_conexao* conexao, const char* codigo, const char* const* nomes,
                                             const char* const* valores, size_t quantos, tarvo_evento** evento);
-/* The next load leaves out the group at this path ("InfoEmpregador.infoCadastro"), with what is below it. */
+/* The event's loads leave out the group at this path ("InfoEmpregador.infoCadastro") from now on; the groups below it
+ * are loaded all the same. */
 TARVO_API tarvo_situacao tarvo_evento_desligar_grupo(tarvo_evento* evento, const char* caminho);
 /* Loads the event: everything, or only the groups with the GUIDs of a comma list (null or empty: everything). After a
  * failure the event counts as not loaded; it may be loaded again. */

@@ -67,8 +67,10 @@ TValorPropriedade ParaValor(TTipoPropriedade ATipo, const std::string& ATexto)
     case TTipoPropriedade::Texto:
         return ATexto;
     case TTipoPropriedade::Int32:
-    case TTipoPropriedade::Enumeracao:
         return Inteiro(ATexto, std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max());
+    case TTipoPropriedade::Enumeracao:
+        // The layouts' enumerations are a byte: a greater ordinal would be cut to another one.
+        return Inteiro(ATexto, 0, std::numeric_limits<std::uint8_t>::max());
     case TTipoPropriedade::Int64:
         return StrToInt64(ATexto);
     case TTipoPropriedade::ShortInt:

@@ -123,8 +123,8 @@ double TConjuntoDeLinhas::Numero(std::size_t ALinha, std::size_t AColuna) const
     case TTipoColuna::Texto:
         return StrToDouble(TextoCru(LCelula));
     case TTipoColuna::Inteiro:
-        return static_cast<double>(static_cast<long double>(LCelula.Inteiro) /
-                                   static_cast<long double>(Potencia10(-LColuna.Escala)));
+        // By its decimal text, rounded once; a quotient in a wider type would be rounded twice.
+        return StrToDouble(DecimalToStr(LCelula.Inteiro, LColuna.Escala));
     case TTipoColuna::Booleano:
         return static_cast<double>(LCelula.Inteiro);
     case TTipoColuna::Float:

@@ -152,6 +152,11 @@ static void so_o_pedido(tarvo_conexao *conexao)
     CONFERIR(contem(evento, "Ipê") && !contem(evento, "Lúcia"));
     tarvo_evento_liberar(evento);
     evento = empregador(conexao);
+    CONFERIR(tarvo_evento_desligar_grupo(evento, "InfoEmpregador.infoCadastro") == TARVO_FEITO);
+    CONFERIR(tarvo_evento_carregar(evento, NULL) == TARVO_FEITO);
+    CONFERIR(!contem(evento, "Ipê") && contem(evento, "Lúcia"));
+    tarvo_evento_liberar(evento);
+    evento = empregador(conexao);
     CONFERIR(tarvo_evento_carregar(evento, "{00000000-0000-0000-0000-000000000000}") == TARVO_FEITO);
     CONFERIR(!contem(evento, "Ipê"));
     CONFERIR(tarvo_evento_carregar(evento, NULL) == TARVO_FEITO);

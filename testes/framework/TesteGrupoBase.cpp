@@ -15,7 +15,7 @@ public:
     std::string BuscarValor(const std::string& AValor) override { return "<" + AValor + ">"; }
 };
 
-enum class TEnumeracao { Primeiro, Segundo };
+enum class TEnumeracao : std::uint8_t { Primeiro, Segundo };
 
 class TFilho : public TTarvoESocialCamposGrupoBase {
 public:
@@ -290,6 +290,8 @@ TEST_F(TTesteGrupoBase, CaminhosAchamGruposEDefinemPropriedades)
                                            {"Dobro", "1.5"},
                                            {"Dia", "31/02/2021"},
                                            {"Marca", "sim"},
+                                           {"Opcao", "256"},
+                                           {"Opcao", "-1"},
                                            {"Texto", "\xFF"}})
         EXPECT_THROW(DefinirPropriedadePeloCaminho(Grupo, LCaminho, LTexto), EConvertError) << LCaminho;
 }

@@ -91,6 +91,9 @@ TEST_F(OvraDataSet, NumerosDeCadaTipoDeColuna)
         {"CAST(0.12345 AS NUMERIC(18,5))", 0, 0.12345, "0,1234"},
         {"CAST(0.12355 AS NUMERIC(18,5))", 0, 0.12355, "0,1236"},
         {"CAST(-0.12355 AS NUMERIC(18,5))", 0, -0.12355, "-0,1236"},
+        // Through a wider type it would be rounded twice, to the neighbour of 0.002877.
+        {"CAST(0.002877 AS NUMERIC(18,6))", 0, 0.002877, "0,0029"},
+        {"CAST(-9007199254.740993 AS NUMERIC(18,6))", -9007199254, -9007199254.740993, "-9007199254,741"},
         {"CAST(507.1 AS FLOAT)", 507, 507.1, "507,1"},
         {"CAST(-1.9 AS DOUBLE PRECISION)", -1, -1.9, "-1,9"},
         {"CAST(3 AS SMALLINT)", 3, 3.0, "3"},
