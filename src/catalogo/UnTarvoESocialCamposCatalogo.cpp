@@ -97,6 +97,9 @@ TDateTime LerDataIso(std::string_view ATexto)
 constexpr TArgumentoDeEvento TIPO_CONEXAO{
     "ATipoConexao", taInteiro, "1 folha, 2 Brenco no banco da folha, outro valor Brenco em banco próprio (--brenco)"};
 
+constexpr TArgumentoDeEvento TIPO_EVENTO_S2230{"ATipoEvento", taInteiro, "1 início do afastamento, 2 término", true, 2,
+                                               nullptr,       1};
+
 /// A value of a key as text of an argument, and as JSON.
 std::pair<std::string, std::string> LerChave(const TConjuntoDeLinhas& ALinhas, std::size_t ALinha, std::size_t AColuna)
 {
@@ -341,14 +344,12 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          LoteDaEmpresa<EXAMES_DA_EMPRESA>()},
         {"S-2230",
          "Afastamento temporário",
-         {{"AIdSituacao", taId, "código interno da situação"},
-          {"ATipoEvento", taInteiro, "1 início do afastamento, 2 término", true, 2}},
+         {{"AIdSituacao", taId, "código interno da situação"}, TIPO_EVENTO_S2230},
          [](const TArgumentosDeEvento& A) {
              return Evento<trabalhador::TTarvoESocialCamposS2230>(
                  A.Id("AIdSituacao"), static_cast<TTipoEventoS2230>(A.Inteiro("ATipoEvento")));
          },
-         LoteDaEmpresaPor(SqlDosAfastamentos,
-                          {{"ATipoEvento", taInteiro, "1 início do afastamento, 2 término", true, 2}})},
+         LoteDaEmpresaPor(SqlDosAfastamentos, {TIPO_EVENTO_S2230})},
         {"S-2240",
          "Condições ambientais do trabalho: fatores de risco",
          {{"AIdFatRisco", taId, "código interno do fator de risco"}},
@@ -534,8 +535,10 @@ TArgumentosDeEvento::TArgumentosDeEvento(const std::vector<TArgumentoDeEvento>& 
             if (LDefinicao->Tipo == taInteiro && (LLido.Inteiro < std::numeric_limits<std::int32_t>::min() ||
                                                   LLido.Inteiro > std::numeric_limits<std::int32_t>::max()))
                 Recusar("está fora da faixa");
-            if (LDefinicao->UltimoOrdinal >= 0 && (LLido.Inteiro < 0 || LLido.Inteiro > LDefinicao->UltimoOrdinal))
-                Recusar("não é um dos valores, de 0 a " + IntToStr(LDefinicao->UltimoOrdinal));
+            if (LDefinicao->UltimoOrdinal >= 0 &&
+                (LLido.Inteiro < LDefinicao->PrimeiroOrdinal || LLido.Inteiro > LDefinicao->UltimoOrdinal))
+                Recusar("não é um dos valores, de " + IntToStr(LDefinicao->PrimeiroOrdinal) + " a " +
+                        IntToStr(LDefinicao->UltimoOrdinal));
             break;
         case taData:
             LLido.Data = LerDataIso(LTexto);
