@@ -11,7 +11,6 @@
 #include "imports/UnOvraConnection.h"
 #include "imports/UnOvraConversoes.h"
 #include "imports/UnOvraFormat.h"
-#include "imports/UnTarvoUtilsDb.h"
 #include "pagamento/UnTarvoESocialCamposS1210.h"
 #include "remuneracao/UnTarvoESocialCamposS1200.h"
 #include "rural/UnTarvoESocialCamposS1250.h"

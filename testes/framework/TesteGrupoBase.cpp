@@ -1,4 +1,3 @@
-#include <functional>
 
 #include "apoio/UnBancoDeTeste.h"
 #include "framework/UnTarvoESocialCamposCaminhos.h"

@@ -1,6 +1,5 @@
 #include <chrono>
 #include <cstdio>
-#include <functional>
 #include <random>
 #include <sstream>
 
