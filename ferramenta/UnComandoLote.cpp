@@ -41,7 +41,7 @@ TParte LerParte(const std::string& ATexto)
 }
 
 /// The line of one key; false when its load failed. ECaminhoInvalido for a path that no key has.
-bool CarregarChave(TOvraConnection& AConexao, const std::string& ACodigo, const TChaveDoLote& AChave,
+bool CarregarChave(TContexto& AContexto, const std::string& ACodigo, const TChaveDoLote& AChave,
                    const TOpcoesDaCarga& AOpcoes, std::string& ALinha)
 {
     ALinha = "{\"chave\":" + AChave.Json;
@@ -50,9 +50,7 @@ bool CarregarChave(TOvraConnection& AConexao, const std::string& ACodigo, const 
         return false;
     };
     try {
-        // One snapshot a key: all the figures of an event are of the same moment.
-        AConexao.Desfazer();
-        AConexao.IniciarTransacao(TOvraConnection::TIsolamento::Instantaneo);
+        AContexto.IniciarInstantaneo();
         ALinha += ",\"evento\":" + Carregar(ACodigo, AChave.Argumentos, AOpcoes).Evento->ToJson().AsJSON() + "}\n";
         return true;
     } catch (const ECaminhoVazio& LErro) {
@@ -81,7 +79,7 @@ int CarregarLote(const TOpcoes& AOpcoes)
     for (auto LIndice = LParte.Numero - 1; LIndice < LChaves.size(); LIndice += LParte.Total) {
         LBarra.Avancar(LFeitas, LMinhas);
         std::string LLinha;
-        if (!CarregarChave(LContexto.Conexao(), LCodigo, LChaves[LIndice], AOpcoes.Carga, LLinha))
+        if (!CarregarChave(LContexto, LCodigo, LChaves[LIndice], AOpcoes.Carga, LLinha))
             LSaida = SAIDA_FALHA;
         if (LNoTerminal)
             LBarra.Apagar();
