@@ -17,7 +17,7 @@ public:
     ~TBarraDeProgresso();
 
     void Avancar(std::size_t AFeitos, std::size_t ATotal);
-    /// Wipes the bar off, before something else is written to the same terminal.
+    /// Wipes the bar off, before something else is written to the same terminal; Avancar draws it again at once.
     void Apagar();
     /// Writes a message of its own above the bar.
     void EscreverLinha(const std::string& ATexto);

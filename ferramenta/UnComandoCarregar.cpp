@@ -26,8 +26,7 @@ int CarregarEMostrar(const TOpcoes& AOpcoes)
     // A wrong argument is told before the database is asked for.
     TArgumentosDeEvento(BuscarEventoDoCatalogo(LCodigo).Argumentos, LArgumentos);
     TContexto LContexto(AOpcoes.Contexto);
-    // One snapshot: all the figures of an event are of the same moment.
-    LContexto.Conexao().IniciarTransacao(TOvraConnection::TIsolamento::Instantaneo);
+    LContexto.IniciarInstantaneo();
     const auto LEvento = Carregar(LCodigo, LArgumentos, AOpcoes.Carga);
     const auto LJson = LEvento.Evento->ToJson().AsJSON(!AOpcoes.Compacto);
     LContexto.ConferirRastro();

@@ -40,22 +40,25 @@ TParte LerParte(const std::string& ATexto)
     return {static_cast<std::size_t>(LNumero), static_cast<std::size_t>(LTotal)};
 }
 
-/// The line of one key; false when its load failed.
-bool CarregarChave(TOvraConnection& AConexao, const std::string& ACodigo, const TChaveDoLote& AChave,
+/// The line of one key; false when its load failed. ECaminhoInvalido for a path that no key has.
+bool CarregarChave(TContexto& AContexto, const std::string& ACodigo, const TChaveDoLote& AChave,
                    const TOpcoesDaCarga& AOpcoes, std::string& ALinha)
 {
     ALinha = "{\"chave\":" + AChave.Json;
+    const auto Falhar = [&](const std::exception& AErro) {
+        ALinha += ",\"erro\":" + TextoJson(AErro.what()) + "}\n";
+        return false;
+    };
     try {
-        // One snapshot a key: all the figures of an event are of the same moment.
-        AConexao.Desfazer();
-        AConexao.IniciarTransacao(TOvraConnection::TIsolamento::Instantaneo);
+        AContexto.IniciarInstantaneo();
         ALinha += ",\"evento\":" + Carregar(ACodigo, AChave.Argumentos, AOpcoes).Evento->ToJson().AsJSON() + "}\n";
         return true;
+    } catch (const ECaminhoVazio& LErro) {
+        return Falhar(LErro); // the next key may have what this one lacks
     } catch (const ECaminhoInvalido&) {
         throw;
     } catch (const std::exception& LErro) {
-        ALinha += ",\"erro\":" + TextoJson(LErro.what()) + "}\n";
-        return false;
+        return Falhar(LErro);
     }
 }
 
@@ -71,13 +74,15 @@ int CarregarLote(const TOpcoes& AOpcoes)
     int LSaida = SAIDA_FEITO;
     TBarraDeProgresso LBarra(STDERR_FILENO, LCodigo);
     const auto LMinhas = LChaves.size() < LParte.Numero ? 0 : (LChaves.size() - LParte.Numero) / LParte.Total + 1;
+    const bool LNoTerminal = isatty(STDOUT_FILENO) == 1;
     std::size_t LFeitas = 0;
     for (auto LIndice = LParte.Numero - 1; LIndice < LChaves.size(); LIndice += LParte.Total) {
         LBarra.Avancar(LFeitas, LMinhas);
         std::string LLinha;
-        if (!CarregarChave(LContexto.Conexao(), LCodigo, LChaves[LIndice], AOpcoes.Carga, LLinha))
+        if (!CarregarChave(LContexto, LCodigo, LChaves[LIndice], AOpcoes.Carga, LLinha))
             LSaida = SAIDA_FALHA;
-        LBarra.Apagar();
+        if (LNoTerminal)
+            LBarra.Apagar();
         EscreverResultado(LLinha);
         LBarra.Avancar(++LFeitas, LMinhas);
     }

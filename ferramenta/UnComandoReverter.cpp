@@ -54,7 +54,7 @@ int Reverter(const TOpcoes& AOpcoes)
     const auto LArgumentos = AOpcoes.Evento.Argumentos();
     TArgumentosDeEvento(BuscarEventoDoCatalogo(LCodigo).Argumentos, LArgumentos);
     TContexto LContexto(AOpcoes.Contexto);
-    LContexto.Conexao().IniciarTransacao(TOvraConnection::TIsolamento::Instantaneo);
+    LContexto.IniciarInstantaneo();
     const auto LEvento = Carregar(LCodigo, LArgumentos, AOpcoes.Carga);
     for (const auto& LDefinicao : AOpcoes.Definir)
         Definir(*LEvento.Evento, LDefinicao);

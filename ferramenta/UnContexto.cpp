@@ -138,6 +138,16 @@ TContexto::~TContexto()
     BuscarInstanciaTarvoConexaoBrencoUsuario().DefinirUsuarioTemPermissao(false);
 }
 
+void TContexto::IniciarInstantaneo()
+{
+    for (auto* LConexao : {FConexao.get(), FBrenco.get()}) {
+        if (LConexao == nullptr)
+            continue;
+        LConexao->Desfazer();
+        LConexao->IniciarTransacao(TOvraConnection::TIsolamento::Instantaneo);
+    }
+}
+
 void TContexto::Rastrear(const TExecucaoSql& AExecucao)
 {
     rapidjson::StringBuffer LBuffer;

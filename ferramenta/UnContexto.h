@@ -40,6 +40,8 @@ public:
     TContexto& operator=(const TContexto&) = delete;
 
     TOvraConnection& Conexao() { return *FConexao; }
+    /// Starts a snapshot on every connection, after ending the one before: what is read from now on is of one moment.
+    void IniciarInstantaneo();
     /// Exception when a line of the trace could not be written.
     void ConferirRastro();
 

@@ -20,10 +20,10 @@ como_root() {
     fi
 }
 
-# Installs the Debian packages that are missing; nothing when all are there.
+# Installs the Debian packages that are missing, those named after it too; nothing when all are there.
 instalar() {
     local faltam=() pacote
-    for pacote in "${PACOTES[@]}"; do
+    for pacote in "${PACOTES[@]}" "$@"; do
         dpkg-query -W -f='${Status}' "$pacote" 2>/dev/null | grep -q 'ok installed' || faltam+=("$pacote")
     done
     [ ${#faltam[@]} -eq 0 ] && return

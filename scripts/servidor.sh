@@ -44,9 +44,11 @@ SQL
     FIREBIRD="$SERVIDOR" /usr/sbin/firebird -p "$SERVIDOR_PORTA" >"$SERVIDOR/servidor.log" 2>&1 &
     SERVIDOR_PID=$!
     unset FIREBIRD_LOCK
+    # A busy machine may take long over it; a server that ended won't answer at all.
     local tentativa
-    for tentativa in $(seq 50); do
+    for tentativa in $(seq 300); do
         (exec 3<>"/dev/tcp/127.0.0.1/$SERVIDOR_PORTA") 2>/dev/null && return
+        kill -0 "$SERVIDOR_PID" 2>/dev/null || break
         sleep 0.1
     done
     cat "$SERVIDOR/servidor.log"

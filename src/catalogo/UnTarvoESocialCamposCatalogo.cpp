@@ -11,7 +11,6 @@
 #include "imports/UnOvraConnection.h"
 #include "imports/UnOvraConversoes.h"
 #include "imports/UnOvraFormat.h"
-#include "imports/UnTarvoUtilsDb.h"
 #include "pagamento/UnTarvoESocialCamposS1210.h"
 #include "remuneracao/UnTarvoESocialCamposS1200.h"
 #include "rural/UnTarvoESocialCamposS1250.h"
@@ -96,6 +95,9 @@ TDateTime LerDataIso(std::string_view ATexto)
 
 constexpr TArgumentoDeEvento TIPO_CONEXAO{
     "ATipoConexao", taInteiro, "1 folha, 2 Brenco no banco da folha, outro valor Brenco em banco próprio (--brenco)"};
+
+constexpr TArgumentoDeEvento TIPO_EVENTO_S2230{"ATipoEvento", taInteiro, "1 início do afastamento, 2 término", true, 2,
+                                               nullptr,       1};
 
 /// A value of a key as text of an argument, and as JSON.
 std::pair<std::string, std::string> LerChave(const TConjuntoDeLinhas& ALinhas, std::size_t ALinha, std::size_t AColuna)
@@ -220,7 +222,7 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
                         {"DataInicio", taData, "primeiro dia do mês"},
                         {"DataFim", taData, "último dia do mês"},
                         {"IndApuracao", taInteiro, "0 mensal (padrão), 1 anual (13º salário)", false, 1}},
-                       SqlDosCpfs}},
+                       SqlDosCpfsGuardados}},
         {"S-1210",
          "Pagamentos de rendimentos do trabalho",
          {{"IdEmpresa", taId, "código interno da empresa"},
@@ -239,7 +241,7 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
               {"IndApuracao", taInteiro, "0 mensal, 1 anual; não muda os pagamentos", false, 1},
               {"TipoTrabalhador", taInteiro, "0 empregado (padrão), 1 prestador de serviço", false, 1},
               {"DataInicioVigencia", taData, "início do leiaute: o que é anterior vai como pagamento anterior", false}},
-             SqlDosCpfs}},
+             SqlDosCpfsPelosDigitos}},
         {"S-1250",
          "Aquisição de produção rural",
          {{"AIDEstabelecimento", taId, "código interno do estabelecimento"},
@@ -341,14 +343,12 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
          LoteDaEmpresa<EXAMES_DA_EMPRESA>()},
         {"S-2230",
          "Afastamento temporário",
-         {{"AIdSituacao", taId, "código interno da situação"},
-          {"ATipoEvento", taInteiro, "1 início do afastamento, 2 término", true, 2}},
+         {{"AIdSituacao", taId, "código interno da situação"}, TIPO_EVENTO_S2230},
          [](const TArgumentosDeEvento& A) {
              return Evento<trabalhador::TTarvoESocialCamposS2230>(
                  A.Id("AIdSituacao"), static_cast<TTipoEventoS2230>(A.Inteiro("ATipoEvento")));
          },
-         LoteDaEmpresaPor(SqlDosAfastamentos,
-                          {{"ATipoEvento", taInteiro, "1 início do afastamento, 2 término", true, 2}})},
+         LoteDaEmpresaPor(SqlDosAfastamentos, {TIPO_EVENTO_S2230})},
         {"S-2240",
          "Condições ambientais do trabalho: fatores de risco",
          {{"AIdFatRisco", taId, "código interno do fator de risco"}},
@@ -534,8 +534,10 @@ TArgumentosDeEvento::TArgumentosDeEvento(const std::vector<TArgumentoDeEvento>& 
             if (LDefinicao->Tipo == taInteiro && (LLido.Inteiro < std::numeric_limits<std::int32_t>::min() ||
                                                   LLido.Inteiro > std::numeric_limits<std::int32_t>::max()))
                 Recusar("está fora da faixa");
-            if (LDefinicao->UltimoOrdinal >= 0 && (LLido.Inteiro < 0 || LLido.Inteiro > LDefinicao->UltimoOrdinal))
-                Recusar("não é um dos valores, de 0 a " + IntToStr(LDefinicao->UltimoOrdinal));
+            if (LDefinicao->UltimoOrdinal >= 0 &&
+                (LLido.Inteiro < LDefinicao->PrimeiroOrdinal || LLido.Inteiro > LDefinicao->UltimoOrdinal))
+                Recusar("não é um dos valores, de " + IntToStr(LDefinicao->PrimeiroOrdinal) + " a " +
+                        IntToStr(LDefinicao->UltimoOrdinal));
             break;
         case taData:
             LLido.Data = LerDataIso(LTexto);

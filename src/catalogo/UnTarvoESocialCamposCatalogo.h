@@ -43,10 +43,12 @@ struct TArgumentoDeEvento {
     /// What it is, for a payroll person.
     const char* Descricao;
     bool Obrigatorio = true;
-    /// Of a taInteiro that is an enumeration, its last ordinal; the first is 0.
+    /// Of a taInteiro that is an enumeration, its last ordinal.
     std::int32_t UltimoOrdinal = -1;
     /// Another name that is taken too, where the events of a family spell one argument differently.
     const char* OutroNome = nullptr;
+    /// Of an enumeration, its first ordinal.
+    std::int32_t PrimeiroOrdinal = 0;
 };
 
 /// The values of an event's arguments, checked against their kinds. An optional argument that was not given reads

@@ -8,11 +8,14 @@
 
 namespace tarvo::catalogo {
 
-std::string SqlDosCpfs(const TArgumentosDeEvento& AArgumentos)
+namespace {
+
+/// AMaisOrdem orders those of the same digits that come from one table: the first of them stays, or all without it.
+std::string SqlDosCpfsCom(const TArgumentosDeEvento& AArgumentos, std::string_view AMaisOrdem)
 {
     static constexpr std::string_view SQL = R"(SELECT CHAVES.CPF
 FROM (
-  SELECT PESSOAS.ORDEM, PESSOAS.CPF, MIN(PESSOAS.ORDEM) OVER (PARTITION BY PESSOAS.DIGITOS) AS PRIMEIRA
+  SELECT PESSOAS.ORDEM, PESSOAS.CPF, RANK() OVER (PARTITION BY PESSOAS.DIGITOS ORDER BY PESSOAS.ORDEM%3:s) AS LUGAR
   FROM (
     SELECT 1 AS ORDEM, TRIM(EMPREGADOS.CPF) AS CPF,
            REPLACE(REPLACE(REPLACE(EMPREGADOS.CPF,'.',''),'-',''),' ','') AS DIGITOS
@@ -30,13 +33,11 @@ FROM (
   ) AS PESSOAS
   WHERE PESSOAS.DIGITOS <> ''
 ) AS CHAVES
-WHERE CHAVES.ORDEM = CHAVES.PRIMEIRA
+WHERE CHAVES.LUGAR = 1
 ORDER BY CHAVES.ORDEM, CHAVES.CPF)";
     return Format(SQL, AArgumentos.Id("IdEmpresa"), FormatarDataDB(AArgumentos.Data("DataInicio"), true),
-                  FormatarDataDB(AArgumentos.Data("DataFim"), true));
+                  FormatarDataDB(AArgumentos.Data("DataFim"), true), AMaisOrdem);
 }
-
-namespace {
 
 /// The company, as the events that take it themselves name it, or as the batch does.
 std::int64_t IdEmpresa(const TArgumentosDeEvento& AArgumentos)
@@ -57,6 +58,13 @@ ORDER BY EMPREGADOS.IDEMPREGADO)";
 }
 
 } // namespace
+
+std::string SqlDosCpfsGuardados(const TArgumentosDeEvento& AArgumentos) { return SqlDosCpfsCom(AArgumentos, ""); }
+
+std::string SqlDosCpfsPelosDigitos(const TArgumentosDeEvento& AArgumentos)
+{
+    return SqlDosCpfsCom(AArgumentos, ", PESSOAS.CPF");
+}
 
 template <bool ASemVinculo>
 std::string SqlDosTrabalhadores(const TArgumentosDeEvento& AArgumentos)

@@ -12,8 +12,11 @@
 namespace tarvo::catalogo {
 
 /// Everybody of a company by CPF: its employees, then the providers with a receipt of the company in the period who
-/// aren't among them. A CPF is taken as it is stored, and compared by its digits.
-std::string SqlDosCpfs(const TArgumentosDeEvento& AArgumentos);
+/// aren't among them. A CPF is taken as it is stored, and compared by its digits. The contracts of an employee may
+/// hold it in several forms: each is a key, for the event that finds the contracts of that very form.
+std::string SqlDosCpfsGuardados(const TArgumentosDeEvento& AArgumentos);
+/// The same with one key a person, for the event that finds everything by the digits.
+std::string SqlDosCpfsPelosDigitos(const TArgumentosDeEvento& AArgumentos);
 
 /// The workers of a company with a bond or without one, those without a category among the first. The categories from
 /// 700 on that the payments don't know are without a bond too.

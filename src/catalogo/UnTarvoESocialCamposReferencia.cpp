@@ -243,7 +243,8 @@ std::string TipoDoArgumento(const TArgumentoDeEvento& AArgumento)
 {
     std::string LTexto = Codigo(ExemploDoTipo(AArgumento.Tipo));
     if (AArgumento.UltimoOrdinal >= 0)
-        LTexto += ", de 0 a " + std::to_string(AArgumento.UltimoOrdinal);
+        LTexto +=
+            ", de " + std::to_string(AArgumento.PrimeiroOrdinal) + " a " + std::to_string(AArgumento.UltimoOrdinal);
     return LTexto;
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "framework/UnTarvoESocialCamposListaDeGrupos.h"
 #include "tabelas/UnTarvoESocialCamposprocJudTrab.h"
 
 namespace tarvo::desligamento {

@@ -3,7 +3,6 @@
 #include "desligamento/UnTarvoESocialCamposDemonstrativosDesligamento.h"
 #include "framework/UnTarvoESocialCamposSqlCalculo.h"
 #include "imports/UnOvraFormat.h"
-#include "imports/UnTarvoConsultasGeral.h"
 #include "imports/UnTarvoUtilsDb.h"
 
 namespace tarvo::desligamento {

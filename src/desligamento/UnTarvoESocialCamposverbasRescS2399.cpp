@@ -2,7 +2,6 @@
 
 #include "desligamento/UnTarvoESocialCamposDemonstrativosDesligamento.h"
 #include "imports/UnOvraFormat.h"
-#include "imports/UnTarvoConsultasGeral.h"
 
 namespace tarvo::desligamento {
 

@@ -38,7 +38,7 @@ const TTarvoESocialCamposGrupoBase& BuscarFilho(const TTarvoESocialCamposGrupoBa
             LFilho = LPropriedade.Item(AGrupo, static_cast<std::size_t>(LIndice));
     }
     if (LFilho == nullptr)
-        throw ECaminhoInvalido("'" + std::string(APasso) + "' está vazio em '" + std::string(ACaminho) + "'");
+        throw ECaminhoVazio("'" + std::string(APasso) + "' está vazio em '" + std::string(ACaminho) + "'");
     return *LFilho;
 }
 

@@ -15,9 +15,15 @@ public:
     using Exception::Exception;
 };
 
+/// A path that the tree may have, but not as it stands: a child that is null, an item beyond the end of its list.
+class ECaminhoVazio : public ECaminhoInvalido {
+public:
+    using ECaminhoInvalido::ECaminhoInvalido;
+};
+
 /// The group at a path of property names joined by points (`InfoEmpregador.infoCadastro`, an item of a list as
 /// `dmDev[0]`), without regard to case; an empty path is the root. The tree keeps owning it. ECaminhoInvalido when
-/// there is none.
+/// there is none, ECaminhoVazio when there is none at the moment.
 TTarvoESocialCamposGrupoBase& BuscarGrupoPeloCaminho(TTarvoESocialCamposGrupoBase& ARaiz, std::string_view ACaminho);
 
 /// Sets the simple property at a path from a text: numbers with a decimal comma, dates as dd/mm/yyyy or yyyy-mm-dd

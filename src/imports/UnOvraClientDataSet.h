@@ -72,7 +72,6 @@ public:
     /// Without a connection of its own, the suite's current one at the time of Open.
     explicit TOvraClientDataSetWithConnection(TOvraConnection* AConexao = nullptr) : FConexao(AConexao) {}
 
-    const std::string& CommandText() const { return FCommandText; }
     void SetCommandText(std::string ASql) { FCommandText = std::move(ASql); }
     /// Runs the text as it stands (a colon is no parameter). EDatabaseError with the engine's text.
     void Open();

@@ -1,7 +1,6 @@
 #include "imports/UnOvraConjuntoDeLinhas.h"
 
 #include <cmath>
-#include <limits>
 
 #include "imports/UnOvraConversoes.h"
 #include "imports/UnOvraExcecoes.h"

@@ -85,27 +85,11 @@ TDateTime DateOf(TDateTime AData) { return TDateTime(static_cast<double>(Separar
 bool TemHora(TDateTime AData) { return Separar(AData).Milissegundos != 0; }
 
 int DayOf(TDateTime AData) { return DecodeDate(AData).Dia; }
-int MonthOf(TDateTime AData) { return DecodeDate(AData).Mes; }
-int YearOf(TDateTime AData) { return DecodeDate(AData).Ano; }
-
-int DayOfWeek(TDateTime AData)
-{
-    return static_cast<int>(weekday{DIA_ZERO + days{Separar(AData).Dia}}.c_encoding()) + 1;
-}
 
 int DaysInMonth(TDateTime AData)
 {
     const auto LData = Calendario(AData);
     return static_cast<int>(static_cast<unsigned>((LData.year() / LData.month() / last).day()));
-}
-
-TDateTime IncMonth(TDateTime AData, int AMeses)
-{
-    auto LData = Calendario(AData) + months{AMeses};
-    if (!LData.ok())
-        LData = LData.year() / LData.month() / last;
-    const TDateTime LDia(static_cast<double>((sys_days{LData} - DIA_ZERO).count()));
-    return JuntarDataHora(LDia, Separar(AData).Milissegundos / static_cast<double>(MILISSEGUNDOS_DO_DIA));
 }
 
 TDateTime Now()

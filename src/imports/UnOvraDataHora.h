@@ -58,13 +58,7 @@ TDateTime DateOf(TDateTime AData);
 /// True when the time of day is not midnight.
 bool TemHora(TDateTime AData);
 int DayOf(TDateTime AData);
-int MonthOf(TDateTime AData);
-int YearOf(TDateTime AData);
-/// 1 is Sunday, 7 is Saturday.
-int DayOfWeek(TDateTime AData);
 int DaysInMonth(TDateTime AData);
-/// Same day some months later; a day that the month lacks becomes the month's last. Keeps the time of day.
-TDateTime IncMonth(TDateTime AData, int AMeses = 1);
 /// Current local date and time.
 TDateTime Now();
 

@@ -3,6 +3,7 @@
 #include <ibase.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -30,9 +31,13 @@ std::string DoAmbiente(const char* ANome, const char* APadrao)
 /// The folder of this run; removed with the process.
 class TPastaDaRodada {
 public:
-    TPastaDaRodada() : FPasta(fs::temp_directory_path() / ("tarvo-testes-" + std::to_string(getpid())))
+    TPastaDaRodada()
     {
-        fs::create_directories(FPasta);
+        // A new one, whatever a run that was killed has left.
+        auto LNome = (fs::temp_directory_path() / "tarvo-testes-XXXXXX").string();
+        if (mkdtemp(LNome.data()) == nullptr)
+            throw fs::filesystem_error("mkdtemp", LNome, std::error_code(errno, std::generic_category()));
+        FPasta = LNome;
         // The server, which may run as another user, creates the files.
         fs::permissions(FPasta, fs::perms::all);
     }

@@ -28,7 +28,7 @@ std::string ArgumentoBom(const TArgumentoDeEvento& AArgumento)
     case TTipoArgumento::taCpf:
         return "111.222.333-96";
     case TTipoArgumento::taInteiro:
-        return AArgumento.UltimoOrdinal >= 0 ? "0" : "1";
+        return std::to_string(AArgumento.UltimoOrdinal >= 0 ? AArgumento.PrimeiroOrdinal : 1);
     case TTipoArgumento::taId:
     case TTipoArgumento::taTexto:
         break;

@@ -66,6 +66,8 @@ TEST_F(TTesteChavesDoLote, PagamentosVaoPelosMesmosCpfsComOsSeusArgumentos)
 {
     Empregado("333.333.333-33");
     Recibo(1, "00011122233", D(2021, 3, 31));
+    // The payments are found by the digits: a second form of the CPF would report each of them twice.
+    Empregado("33333333333");
     const auto LChaves = BuscarChavesDoLote("S-1210", {{"IdEmpresa", "1"},
                                                        {"DataInicio", "2021-03-01"},
                                                        {"DataFim", "2021-03-31"},
@@ -73,6 +75,7 @@ TEST_F(TTesteChavesDoLote, PagamentosVaoPelosMesmosCpfsComOsSeusArgumentos)
                                                        {"TipoTrabalhador", "1"}});
     ASSERT_EQ(2u, LChaves.size());
     EXPECT_EQ(R"("333.333.333-33")", LChaves[0].Json);
+    EXPECT_EQ(R"("333.333.333-33" "33333333333" "00011122233")", Chaves(1)) << "S-1200 finds the contracts of a form";
     EXPECT_EQ(R"("00011122233")", LChaves[1].Json);
     EXPECT_EQ("2018-07-01", LChaves[1].Argumentos.at("DataInicioVigencia"));
     EXPECT_NO_THROW(ConstruirEvento("S-1210", LChaves[1].Argumentos));

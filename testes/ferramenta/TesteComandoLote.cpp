@@ -65,6 +65,32 @@ TEST_F(TTesteComandoLote, UmaChaveQueFalhaNaoParaAsOutras)
     EXPECT_TRUE(LLinhas[1].starts_with("{\"chave\":\"101.112.223-54\",\"evento\":{"));
     EXPECT_NE(std::string::npos, LSaida.Erros.find("S-1200 [")) << LSaida.Erros;
     EXPECT_TRUE(LSaida.Erros.ends_with("\r\x1b[K")) << "the bar is wiped off";
+    EXPECT_EQ(std::string::npos, LSaida.Erros.find("\x1b[K\r\x1b[K")) << "not for lines that go elsewhere";
+}
+
+/// The constructor of the group fills a list, with two items for most places and with none for the others.
+TEST_F(TTesteComandoLote, CaminhoQueSoAlgumasChavesTemNaoParaAsOutras)
+{
+    const auto Lotacoes = [](const std::vector<std::string>& AMais) {
+        std::vector<std::string> LArgumentos{"lote",        "S-1020", "--banco", FParametros.BancoDeDados,
+                                             "--IdEmpresa", "1",      "--AData", "2021-03-31"};
+        LArgumentos.insert(LArgumentos.end(), AMais.begin(), AMais.end());
+        return Rodar(LArgumentos);
+    };
+    const auto LTudo = Linhas(Lotacoes({}));
+    const auto LSaida =
+        Lotacoes({"--sem-grupo", "InfoLotacao.DadosLotacao.FpasLotacao.InfoProcJudTerceiros.ProcJudTerceiro[1]"});
+    EXPECT_EQ(1, LSaida.Codigo) << LSaida.Erros;
+    const auto LLinhas = Linhas(LSaida);
+    ASSERT_EQ(LTudo.size(), LLinhas.size());
+    std::size_t LComErro = 0;
+    for (std::size_t i = 0; i < LLinhas.size(); ++i) {
+        const bool LTem = LTudo[i].find("\"ProcJudTerceiro\":[{") != std::string::npos;
+        LComErro += LTem ? 0 : 1;
+        EXPECT_EQ(LTem, LLinhas[i].find("\"erro\":\"'ProcJudTerceiro[1]' está vazio") == std::string::npos)
+            << LLinhas[i];
+    }
+    EXPECT_TRUE(LComErro > 0 && LComErro < LLinhas.size()) << LComErro;
 }
 
 TEST_F(TTesteComandoLote, UsoErrado)

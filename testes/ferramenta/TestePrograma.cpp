@@ -144,6 +144,32 @@ TEST(TTestePrograma, OSistemaIrmaoVemDeOutroBancoOuDoMesmo)
     EXPECT_NE(std::string::npos, LSemIrmao.Erros.find("ideEstabAdquir")) << LSemIrmao.Erros;
 }
 
+/// The sibling system refuses every transaction that is no snapshot.
+TEST(TTestePrograma, OSistemaIrmaoTambemEhLidoEmUmSoInstante)
+{
+    const auto LIrmao = CriarBancoDeTeste("programa-instante.fdb", true);
+    {
+        TOvraConnection LConexao(LIrmao);
+        LConexao.Executar("CREATE EXCEPTION EX_SEM_INSTANTE 'sem instante'");
+        LConexao.Confirmar();
+        LConexao.Executar("CREATE TRIGGER SO_INSTANTE ON TRANSACTION START AS BEGIN "
+                          "IF (RDB$GET_CONTEXT('SYSTEM', 'ISOLATION_LEVEL') <> 'SNAPSHOT') THEN "
+                          "EXCEPTION EX_SEM_INSTANTE; END");
+        LConexao.Confirmar();
+        EXPECT_THROW(LConexao.Consultar("SELECT 1 FROM RDB$DATABASE"), EDatabaseError);
+    }
+    const std::vector<std::string> LComuns{"--banco",        Banco(),      "--brenco",   LIrmao.BancoDeDados,
+                                           "--ADataInicio",  "2021-03-01", "--ADataFim", "2021-03-31",
+                                           "--ATipoConexao", "2"};
+    for (auto LLinha : {std::vector<std::string>{"carregar", "S-1250", "--AIDEstabelecimento", "8101"},
+                        {"lote", "S-1250", "--IdEmpresa", "81"}}) {
+        LLinha.insert(LLinha.end(), LComuns.begin(), LComuns.end());
+        const auto LSaida = Rodar(LLinha);
+        EXPECT_EQ(0, LSaida.Codigo) << LSaida.Erros << LSaida.Padrao;
+        EXPECT_NE("", LSaida.Padrao);
+    }
+}
+
 TEST(TTestePrograma, CarregaEMostraOJson)
 {
     const auto LSaida = Rodar(S1000());

@@ -1,4 +1,3 @@
-#include <functional>
 
 #include "apoio/UnBancoDeTeste.h"
 #include "framework/UnTarvoESocialCamposCaminhos.h"
@@ -270,6 +269,8 @@ TEST_F(TTesteGrupoBase, CaminhosAchamGruposEDefinemPropriedades)
     for (const char* LCaminho : {"Nada", "Filho.Nada", "Filho.", ".", "Texto", "Talvez", "Lista", "Lista[1]",
                                  "Lista[-1]", "Lista[0", "Lista[x]", "Filho[0]"})
         EXPECT_THROW(BuscarGrupoPeloCaminho(Grupo, LCaminho), ECaminhoInvalido) << LCaminho;
+    for (const char* LCaminho : {"Talvez", "Talvez.Texto", "Lista[1]"})
+        EXPECT_THROW(BuscarGrupoPeloCaminho(Grupo, LCaminho), ECaminhoVazio) << LCaminho;
 
     DefinirPropriedadePeloCaminho(Grupo, "filho.texto", "a=b");
     DefinirPropriedadePeloCaminho(Grupo, "Valor", "1234,56");

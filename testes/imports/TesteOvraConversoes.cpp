@@ -184,16 +184,10 @@ TEST(OvraConversoes, Utf8EhWindows1252)
     EXPECT_TRUE(Utf8Valido("\xF0\x9F\x98\x80 \xED\x9F\xBF \xEF\xBF\xBD"));
 }
 
-TEST(OvraDataHora, CalendarioEhMeses)
+TEST(OvraDataHora, Calendario)
 {
     EXPECT_EQ(EncodeDate(1900, 1, 1).Valor(), 2.0);
     EXPECT_EQ(EncodeDate(2021, 3, 1).Valor(), 44256.0);
-    EXPECT_EQ(IncMonth(EncodeDate(2021, 1, 31)), EncodeDate(2021, 2, 28));
-    EXPECT_EQ(IncMonth(EncodeDate(2020, 3, 31), -1), EncodeDate(2020, 2, 29));
-    EXPECT_EQ(IncMonth(EncodeDate(2020, 11, 30) + 0.5, 14), EncodeDate(2022, 1, 30) + 0.5);
-    EXPECT_EQ(DayOfWeek(EncodeDate(2021, 3, 7)), 1);
-    EXPECT_EQ(DayOfWeek(EncodeDate(2021, 3, 6)), 7);
-    EXPECT_EQ(DayOfWeek(EncodeDate(1890, 1, 1)), 4);
     EXPECT_FALSE(DataValida(1900, 2, 29));
     EXPECT_TRUE(DataValida(2000, 2, 29));
     EXPECT_THROW(EncodeDate(2021, 2, 29), EConvertError);
@@ -202,7 +196,7 @@ TEST(OvraDataHora, CalendarioEhMeses)
     const TDateTime LQuase(EncodeDate(2021, 3, 2).Valor() - 1e-9);
     EXPECT_EQ(DateOf(LQuase), EncodeDate(2021, 3, 2));
     EXPECT_FALSE(TemHora(LQuase));
-    EXPECT_EQ(YearOf(TDateTime(-1.25)), 1899);
+    EXPECT_EQ(DateTimeToStr(TDateTime(-1.25)), "29/12/1899 06:00:00");
     EXPECT_EQ(DayOf(TDateTime(-1.25)), 29);
     EXPECT_EQ(DecodeTime(TDateTime(-1.25)).Hora, 6);
 }

@@ -43,8 +43,9 @@ std::string Escolhida(const fs::path& APasta, const char* AJaDefinida = nullptr)
 
 TEST(TTestePastaDeTravas, QuemNaoPodeUsarADoMotorTemASua)
 {
-    const auto LBase = fs::temp_directory_path() / ("travas-" + std::to_string(getpid()));
-    fs::create_directory(LBase);
+    auto LNome = (fs::temp_directory_path() / "travas-XXXXXX").string();
+    ASSERT_NE(nullptr, mkdtemp(LNome.data()));
+    const fs::path LBase = LNome;
     fs::permissions(LBase, fs::perms::all);
     const auto LMotor = LBase / "firebird";
     const auto LUid = std::to_string(geteuid() == 0 ? 65534 : geteuid());

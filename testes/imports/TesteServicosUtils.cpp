@@ -245,7 +245,7 @@ TEST(ServicosIrrf, DeducaoDosDependentesMudaNoDiaDaLei)
     for (const auto& LCaso : LCasos)
         EXPECT_EQ(TTarvoConsultasIrrf::BuscarValorDeDeducaoDosDependentes(1, LCaso.Data).DecimosMilesimos(),
                   LCaso.Centavos * 100)
-            << YearOf(LCaso.Data) << "/" << MonthOf(LCaso.Data);
+            << FormatarDataDB(LCaso.Data, false);
     EXPECT_EQ(TTarvoConsultasIrrf::BuscarValorDeDeducaoDosDependentes(3, EncodeDate(2021, 3, 1)).DecimosMilesimos(),
               5'687'700);
     EXPECT_EQ(TTarvoConsultasIrrf::BuscarValorDeDeducaoDosDependentes(0, EncodeDate(2021, 3, 1)), Currency());

@@ -1,6 +1,5 @@
 #include <chrono>
 #include <cstdio>
-#include <functional>
 #include <random>
 #include <sstream>
 
@@ -54,7 +53,13 @@ std::vector<std::string> ValoresMalformados(const TArgumentoDeEvento& AArgumento
     case TTipoArgumento::taId:
         return {"", " ", "abc", "1.5", "1,5", "1 2", "0x1", "1e3", "9223372036854775808", "１"};
     case TTipoArgumento::taInteiro:
-        return {"", "um", "0,5", "2147483648", AArgumento.UltimoOrdinal >= 0 ? "99" : "x", "1-"};
+        return {"",
+                "um",
+                "0,5",
+                "2147483648",
+                AArgumento.UltimoOrdinal >= 0 ? "99" : "x",
+                "1-",
+                AArgumento.UltimoOrdinal >= 0 ? std::to_string(AArgumento.PrimeiroOrdinal - 1) : "-"};
     case TTipoArgumento::taData:
         return {"",           "2021-02-30",  "01/03/2021", "2021-3-1", "2021-13-01",
                 "0000-00-00", "2021-03-01x", "20210301",   "hoje",     "2021-03-01 10:00"};

@@ -218,7 +218,7 @@ TEST_F(TTesteAfastamentoTemporario, MotivoNovoEListaDeAtestadosNaRecarga)
 
 TEST_F(TTesteAfastamentoTemporario, CatalogoRecusaOrdinalQueNaoExiste)
 {
-    for (const char* LTipo : {"3", "-1", "257"})
+    for (const char* LTipo : {"0", "3", "-1", "257"})
         EXPECT_THROW(ConstruirEvento("S-2230", {{"AIdSituacao", "1"}, {"ATipoEvento", LTipo}}), EArgumentoInvalido);
 }
 
