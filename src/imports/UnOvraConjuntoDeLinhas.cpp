@@ -122,7 +122,9 @@ double TConjuntoDeLinhas::Numero(std::size_t ALinha, std::size_t AColuna) const
     case TTipoColuna::Texto:
         return StrToDouble(TextoCru(LCelula));
     case TTipoColuna::Inteiro:
-        // By its decimal text, rounded once; a quotient in a wider type would be rounded twice.
+        // Rounded once: a quotient of two numbers that a double holds exactly is, else the decimal text is read.
+        if (constexpr std::int64_t EXATO = std::int64_t{1} << 53; LCelula.Inteiro >= -EXATO && LCelula.Inteiro <= EXATO)
+            return static_cast<double>(LCelula.Inteiro) / static_cast<double>(Potencia10(-LColuna.Escala));
         return StrToDouble(DecimalToStr(LCelula.Inteiro, LColuna.Escala));
     case TTipoColuna::Booleano:
         return static_cast<double>(LCelula.Inteiro);

@@ -1,4 +1,3 @@
-
 #include "apoio/UnBancoDeTeste.h"
 #include "framework/UnTarvoESocialCamposCaminhos.h"
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
