@@ -63,7 +63,10 @@ std::string TTarvoConsultasEmpregado::BuscarCpfTrabalhador(std::int64_t AIDTraba
                                                     LEmpregado ? "IDEMPREGADO" : "IDPRESTSERVICO", AIDTrabalhador));
 }
 
-static constexpr std::string_view SQL_DADOS_EMPREGADO = R"(SELECT EMPREGADOS.*
+// By name: a host's table has more columns, pictures and arrays among them.
+static constexpr std::string_view SQL_DADOS_EMPREGADO = R"(SELECT
+  EMPREGADOS.DATA_ADMISSAO,
+  EMPREGADOS.IDEMPRESA
 FROM EMPREGADOS
 WHERE EMPREGADOS.IDEMPREGADO = %0:d)";
 

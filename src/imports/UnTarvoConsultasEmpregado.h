@@ -22,7 +22,7 @@ public:
     /// CPF of an employee or of a service provider, as stored; empty when there is none.
     static std::string BuscarCpfTrabalhador(std::int64_t AIDTrabalhador,
                                             TTipoTrabalhador ATipo = TTipoTrabalhador::Empregado);
-    /// The whole row of a contract.
+    /// DATA_ADMISSAO and IDEMPRESA of a contract; no row when there is none.
     static TDataset BuscarDadosEmpregado(std::int64_t AIDEmpregado);
     /// The worker of a stored event. Where the event's row isn't about a worker, the id that it keeps (for a periodic
     /// event the CPF as a number); 0 when there is no such event.

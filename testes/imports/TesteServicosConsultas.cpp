@@ -319,6 +319,28 @@ TEST_F(ServicosConsultas, DadosDoTrabalhador)
     EXPECT_EQ(TConsultas::BuscarIndicadorDescontoINSS(3, "11111111111"), 0);
 }
 
+TEST_F(ServicosConsultas, DadosDoEmpregadoNaoLeemAsOutrasColunasDoCadastro)
+{
+    // No value of an array can be read.
+    TOvraConnection LConexao(CriarBancoDeTeste("empregados.fdb", false, [](std::string_view AEsquema) {
+        constexpr std::string_view TABELA = "CREATE TABLE EMPREGADOS (";
+        std::string LTexto(AEsquema);
+        if (const auto LOnde = LTexto.find(TABELA); LOnde != std::string::npos)
+            LTexto.insert(LOnde + TABELA.size(), "PONTOS INTEGER[3],");
+        return LTexto;
+    }));
+    DefinirOvraConnection(&LConexao);
+    EXPECT_NE("", Consultar("SELECT RDB$FIELD_NAME FROM RDB$RELATION_FIELDS WHERE RDB$FIELD_NAME = 'PONTOS'"));
+    InserirEmpregado(1, 3, "12345678909", D(2020, 1, 1), nullptr);
+    EXPECT_NO_THROW({
+        const auto LCds = TTarvoConsultasEmpregado::BuscarDadosEmpregado(1);
+        EXPECT_EQ(LCds->FieldByName("DATA_ADMISSAO").AsDateTime(), D(2020, 1, 1));
+        EXPECT_EQ(LCds->FieldByName("IDEMPRESA").AsLargeInt(), 3);
+    });
+    LConexao.Desfazer();
+    DefinirOvraConnection(&Conexao());
+}
+
 TEST_F(ServicosConsultas, ProcessosDoContratoOuDoCpf)
 {
     InserirEmpregado(1, 1, "123.456.789-09", D(2020, 1, 1), nullptr);

@@ -103,6 +103,8 @@ const TEventoDeTabela EVENTOS[] = {
     {"S-1035", {{"AIdCargoDescr", "8"}}, 4},
     {"S-1035", {{"aidcargosdescr", "8"}}, 4},
     {"S-1040", {{"AIDCargosDescr", "8"}}, 4},
+    {"S-1050", {{"AIdHorario", "1"}, {"AIdHorarioDet", "0"}, {"ADiaSemana", "1"}}, 5},
+    {"S-1050", {{"AIdHorario", "1"}, {"AIdHorarioDet", "2"}, {"ADiaSemana", "1"}}, 5},
     {"S-1060", {{"AIdAmbiente", "1"}}, 4},
     {"S-1070", {{"AIdProcesso", "1"}}, 6, 1},
 };
