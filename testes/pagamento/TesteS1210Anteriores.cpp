@@ -64,6 +64,42 @@ TEST_F(TTesteFeriasEAnteriores, FeriasPorTrabalhadorEInicioComOsDiasQuitados)
     // The net is that of every worker of the date who starts on the day.
     EXPECT_EQ((TTextos{"M2 01/03/2021 15 101 70", "M1 08/03/2021 20 101 1500,5", "M2 08/03/2021 15 101 1500,5"}),
               LTextos);
+
+    // On the same day of payment, one that starts before the layout isn't reported.
+    const auto LDoLeiaute = Carregar(D(2021, 3, 8));
+    ASSERT_EQ(1U, LDoLeiaute.Pagamentos().size());
+    ASSERT_EQ(2U, LDoLeiaute.Pagamentos()[0]->detPgtoFer.size());
+    EXPECT_EQ(D(2021, 3, 8), LDoLeiaute.Pagamentos()[0]->detPgtoFer[0]->dtIniGoz);
+}
+
+TEST_F(TTesteFeriasEAnteriores, QuantidadeEFatorDasRubricasDasFerias)
+{
+    struct TCaso {
+        const char* Formula;
+        double Referencia;
+        TValorSql PercentualDaVerba;
+        double Quantidade;
+        double Fator;
+    };
+    const TCaso LCasos[] = {
+        {"4TA", 7.3, 8, 7.5, 0}, {"14T", 7.3, 8, 0, 0}, {"99H", 7.3, 8, 0, 7.3},    {"1CB", 7.3, 8.25, 0, 8.25},
+        {"3G", 7.3, 8, 0, 8},    {"3GA", 7.3, 8, 0, 0}, {"1Z", 7.3, nullptr, 0, 0},
+    };
+    Empregado(1);
+    Quitacao(1, 1, 30, D(2021, 3, 4));
+    IncidenciaIrrf(vFerias, 13);
+    auto LFerias = Ferias(vFerias, 3000);
+    for (const auto& LCaso : LCasos) {
+        Executar("DELETE FROM CALCULO");
+        LFerias.Referencia = LCaso.Referencia;
+        Calculo(LFerias);
+        Executar(std::string("UPDATE TAB_VERBAS SET FORMULA = '") + LCaso.Formula +
+                 "', VLR_CALC = " + LCaso.PercentualDaVerba.Texto() + " WHERE IDVERBA = 112");
+        const auto LPagamento = Carregar();
+        const auto& LVerba = *LPagamento.Pagamentos().at(0)->detPgtoFer.at(0)->detRubrFer.at(0);
+        EXPECT_EQ(LCaso.Quantidade, static_cast<double>(LVerba.qtdRubr)) << LCaso.Formula;
+        EXPECT_EQ(LCaso.Fator, static_cast<double>(LVerba.fatorRubr)) << LCaso.Formula;
+    }
 }
 
 TEST_F(TTesteFeriasEAnteriores, RubricasDasFerias)

@@ -245,6 +245,35 @@ TEST_F(TTesteDatasDePagamento, DataSemDetalheNaoFica)
     EXPECT_TRUE(Carregar().Pagamentos().empty());
 }
 
+TEST_F(TTesteDatasDePagamento, CompetenciaAnteriorPagaComADoLeiaute)
+{
+    Empregado(1);
+    Acordo(MAR10);
+    Complementar(1, MAR31, 1);
+    Inserir("RESC_COMPL", {{"COD_EMPRESA", 1}, {"COD_EMPREGADO", 1001}, {"DATA_PGTO", MAR31}});
+    Calculo({.Verba = vLiquido, .Valor = 100});
+    Calculo({.Verba = vLiquido, .Valor = 30, .Subtipo = 4, .Inicio = FEV1, .Fim = FEV28});
+    Calculo({.Verba = vLiquido, .Valor = 20, .Inicio = FEV1, .Fim = FEV28});
+    Calculo({.Verba = vLiquidoRescisao, .Valor = 10, .Tipo = "05", .Subtipo = 2, .Inicio = FEV1, .Fim = FEV28});
+    const auto Demonstrativos = [] {
+        std::vector<std::string> LTextos;
+        const auto LPagamento = Carregar(MAR1);
+        for (const auto& LPgto : LPagamento.Pagamentos())
+            for (const auto& LDetalhe : LPgto->detPgtoFl)
+                LTextos.push_back(std::to_string(LPgto->tpPgto) + " " + LDetalhe->ideDmDev);
+        return LTextos;
+    };
+    using TTextos = std::vector<std::string>;
+    // By agreement the competence doesn't count, once the date is found. The complementary dismissal makes a payment of
+    // kind 2 by its day of payment, and has no demonstrative by its competence. Complementary runs don't go by the kind
+    // of the payment: each payment of their date tells them.
+    EXPECT_EQ((TTextos{"1 01_004_1_02_2021", "1 01_000_0_03_2021", "2 01_004_1_02_2021"}), Demonstrativos());
+    Executar("UPDATE CALCCOMPL SET TIPOCALCULO = 2");
+    EXPECT_EQ((TTextos{"1 01_000_0_03_2021"}), Demonstrativos());
+    Executar("UPDATE CALCULO SET DATA_INICIO = '01.03.2021' WHERE TIPO = '05'");
+    EXPECT_EQ((TTextos{"1 01_000_0_03_2021", "1 05_002_01_03_2021", "2 05_002_01_03_2021"}), Demonstrativos());
+}
+
 TEST_F(TTesteDatasDePagamento, ReciboDaEmpresaNoPeriodo)
 {
     Prestador(7);
