@@ -96,8 +96,8 @@ WHERE EMPREGADOS.IDEMPRESA = %0:d
 GROUP BY COD_CATEG)";
 
 // The calculations of the date, whatever the category: a calculation of another category finds no value in the
-// detail's own queries and is dropped there. The kinds stand bare, as numbers, and the engine converts the column; the
-// complementary branch leaves them out. Both are meant.
+// detail's own queries and is dropped there. The kinds stand bare, as numbers, and the engine converts the column; both
+// complementary branches leave them out, so each payment of the date tells those. Both are meant.
 static constexpr std::string_view SQL_CALCULOS_DA_DATA = R"(SELECT
 %6:s
 FROM CALCULO

@@ -64,6 +64,58 @@ TEST_F(TTesteFeriasEAnteriores, FeriasPorTrabalhadorEInicioComOsDiasQuitados)
     // The net is that of every worker of the date who starts on the day.
     EXPECT_EQ((TTextos{"M2 01/03/2021 15 101 70", "M1 08/03/2021 20 101 1500,5", "M2 08/03/2021 15 101 1500,5"}),
               LTextos);
+
+    // On the same day of payment, one that starts before the layout isn't reported.
+    const auto LDoLeiaute = Carregar(D(2021, 3, 8));
+    ASSERT_EQ(1U, LDoLeiaute.Pagamentos().size());
+    ASSERT_EQ(2U, LDoLeiaute.Pagamentos()[0]->detPgtoFer.size());
+    EXPECT_EQ(D(2021, 3, 8), LDoLeiaute.Pagamentos()[0]->detPgtoFer[0]->dtIniGoz);
+}
+
+TEST_F(TTesteFeriasEAnteriores, SoAsIncidenciasDeFeriasSaoRubricas)
+{
+    Empregado(1);
+    Quitacao(1, 1, 30, D(2021, 3, 4));
+    IncidenciaIrrf(vFerias, 11);
+    Calculo(Ferias(vFerias, 3000));
+    const auto Rubricas = [](const std::string& ACodigo) {
+        Executar("UPDATE FP_ESOCIALTABELA SET CODIGO = '" + ACodigo + "' WHERE IDESOCIALTABELA = 9011");
+        return Carregar().Pagamentos().at(0)->detPgtoFer.at(0)->detRubrFer.size();
+    };
+    for (const char* LCodigo : {"00", "01", "09", "13", "33", "43", "46", "53", "63", "75", "93"})
+        EXPECT_EQ(1U, Rubricas(LCodigo)) << LCodigo;
+    for (const char* LCodigo : {"11", "12", "15", "31", "41", "47", "51", "55", "61", "74", "83", "91", "95"})
+        EXPECT_EQ(0U, Rubricas(LCodigo)) << LCodigo;
+}
+
+TEST_F(TTesteFeriasEAnteriores, QuantidadeEFatorDasRubricasDasFerias)
+{
+    struct TCaso {
+        const char* Formula;
+        double Referencia;
+        TValorSql PercentualDaVerba;
+        double Quantidade;
+        double Fator;
+    };
+    const TCaso LCasos[] = {
+        {"4TA", 7.3, 8, 7.5, 0}, {"14T", 7.3, 8, 0, 0}, {"99H", 7.3, 8, 0, 7.3},    {"1CB", 7.3, 8.25, 0, 8.25},
+        {"3G", 7.3, 8, 0, 8},    {"3GA", 7.3, 8, 0, 0}, {"1Z", 7.3, nullptr, 0, 0},
+    };
+    Empregado(1);
+    Quitacao(1, 1, 30, D(2021, 3, 4));
+    IncidenciaIrrf(vFerias, 13);
+    auto LFerias = Ferias(vFerias, 3000);
+    for (const auto& LCaso : LCasos) {
+        Executar("DELETE FROM CALCULO");
+        LFerias.Referencia = LCaso.Referencia;
+        Calculo(LFerias);
+        Executar(std::string("UPDATE TAB_VERBAS SET FORMULA = '") + LCaso.Formula +
+                 "', VLR_CALC = " + LCaso.PercentualDaVerba.Texto() + " WHERE IDVERBA = 112");
+        const auto LPagamento = Carregar();
+        const auto& LVerba = *LPagamento.Pagamentos().at(0)->detPgtoFer.at(0)->detRubrFer.at(0);
+        EXPECT_EQ(LCaso.Quantidade, static_cast<double>(LVerba.qtdRubr)) << LCaso.Formula;
+        EXPECT_EQ(LCaso.Fator, static_cast<double>(LVerba.fatorRubr)) << LCaso.Formula;
+    }
 }
 
 TEST_F(TTesteFeriasEAnteriores, RubricasDasFerias)
@@ -76,7 +128,7 @@ TEST_F(TTesteFeriasEAnteriores, RubricasDasFerias)
     for (const auto& [LVerba, LCodigo] : {std::pair{int{vFerias}, 13},
                                           {int{vInssFerias}, 43},
                                           {int{vPensaoFerias}, 53},
-                                          {int{vPensao}, 51},
+                                          {int{vIrrfFerias}, 33},
                                           {int{vLiquidoFerias}, 0},
                                           {70, 0},
                                           {int{vSalario}, 11}})
@@ -85,9 +137,9 @@ TEST_F(TTesteFeriasEAnteriores, RubricasDasFerias)
     Calculo(Ferias(vInssFerias, 250));
     Calculo(Ferias(vInssFeriasPago, 240));
     Calculo(Ferias(vPensaoFerias, 301));
-    Calculo(Ferias(vPensao, 0));  // nothing was paid
-    Calculo(Ferias(vSalario, 5)); // a code that a vacation doesn't report
-    Calculo(Ferias(70, 9));       // a total, without incidences
+    Calculo(Ferias(vIrrfFerias, 0)); // nothing was withheld
+    Calculo(Ferias(vSalario, 5));    // a code that a vacation doesn't report
+    Calculo(Ferias(70, 9));          // a total, without incidences
     Calculo(Ferias(vLiquidoFerias, 2449));
     const auto LPagamento = Carregar();
     TTextos LTextos;
@@ -101,9 +153,7 @@ TEST_F(TTesteFeriasEAnteriores, RubricasDasFerias)
               LTextos);
     EXPECT_EQ(150.5L, LPagamento.Pagamentos()[0]->detPgtoFer[0]->detRubrFer[2]->penAlim[1]->vlrPensao);
 
-    // Code 51 isn't among those that a vacation lists; code 53 alone brings pensioners.
-    Executar("UPDATE CALCULO SET VALOR = 10 WHERE COD_VERBA = 31");
-    EXPECT_EQ(3U, Carregar().Pagamentos().at(0)->detPgtoFer.at(0)->detRubrFer.size());
+    // Code 53 alone brings pensioners.
     Executar("UPDATE TAB_VERBAS SET FORMULA = '5E' WHERE CODIGO = 32");
     EXPECT_EQ(0U, Carregar().Pagamentos().at(0)->detPgtoFer.at(0)->detRubrFer.at(2)->penAlim.size());
 }
@@ -139,19 +189,21 @@ TEST_F(TTesteFeriasEAnteriores, CadaRamoTomaOsSeusCodigos)
 {
     Empregado(1);
     const auto MAR31 = D(2021, 3, 31);
-    // One rubric of each code: 11 and 31 of every payment, 15 and 44 accumulated, 81 and 91 of suspensions.
+    // One rubric of each code: 11 and 31 of every payment, 15 to 55 accumulated, 81 and 91 of suspensions.
+    Codigo(9035, 9998, "35");
+    Codigo(9055, 9998, "55");
     int LVerba = 50;
-    for (const int LCodigo : {11, 31, 15, 44, 81, 91}) {
+    for (const int LCodigo : {11, 31, 15, 35, 44, 55, 81, 91}) {
         Verba(++LVerba, "1Z", "Sim");
         IncidenciaIrrf(LVerba, LCodigo);
     }
     const auto Calcular = [&](const char* ATipo, int ASubtipo, TDateTime AInicio) {
         Executar("DELETE FROM CALCULO");
-        for (int i = 51; i <= 56; ++i)
+        for (int i = 51; i <= 58; ++i)
             Calculo({.Verba = i, .Valor = i - 50.0, .Tipo = ATipo, .Subtipo = ASubtipo, .Inicio = AInicio});
     };
     const TTextos COMUNS{"101 11 1", "101 31 2"};
-    const TTextos ACUMULADOS{"101 15 3", "101 44 4"};
+    const TTextos ACUMULADOS{"101 15 3", "101 35 4", "101 44 5", "101 55 6"};
     const auto DEZ20 = D(2020, 12, 1);
     const auto FEV21 = D(2021, 2, 1);
 
@@ -166,6 +218,10 @@ TEST_F(TTesteFeriasEAnteriores, CadaRamoTomaOsSeusCodigos)
     Complementar(2, MAR31, nullptr, 2);
     Calcular("01", 4, DEZ20);
     EXPECT_EQ(ACUMULADOS, Anteriores());
+    // A discount takes its sign in the income alone.
+    Executar("UPDATE TAB_VERBAS SET TIPO = '2' WHERE CODIGO IN (53, 54)");
+    EXPECT_EQ((TTextos{"101 15 -3", "101 35 4", "101 44 5", "101 55 6"}), Anteriores());
+    Executar("UPDATE TAB_VERBAS SET TIPO = '1' WHERE CODIGO IN (53, 54)");
     Calcular("01", 4, FEV21);
     EXPECT_TRUE(Anteriores().empty()) << "de competência no leiaute é remuneração";
     Executar("UPDATE CALCCOMPL SET FORMATRIBUTACAO = 1");

@@ -245,6 +245,35 @@ TEST_F(TTesteDatasDePagamento, DataSemDetalheNaoFica)
     EXPECT_TRUE(Carregar().Pagamentos().empty());
 }
 
+TEST_F(TTesteDatasDePagamento, CompetenciaAnteriorPagaComADoLeiaute)
+{
+    Empregado(1);
+    Acordo(MAR10);
+    Complementar(1, MAR31, 1);
+    Inserir("RESC_COMPL", {{"COD_EMPRESA", 1}, {"COD_EMPREGADO", 1001}, {"DATA_PGTO", MAR31}});
+    Calculo({.Verba = vLiquido, .Valor = 100});
+    Calculo({.Verba = vLiquido, .Valor = 30, .Subtipo = 4, .Inicio = FEV1, .Fim = FEV28});
+    Calculo({.Verba = vLiquido, .Valor = 20, .Inicio = FEV1, .Fim = FEV28});
+    Calculo({.Verba = vLiquidoRescisao, .Valor = 10, .Tipo = "05", .Subtipo = 2, .Inicio = FEV1, .Fim = FEV28});
+    const auto Demonstrativos = [] {
+        std::vector<std::string> LTextos;
+        const auto LPagamento = Carregar(MAR1);
+        for (const auto& LPgto : LPagamento.Pagamentos())
+            for (const auto& LDetalhe : LPgto->detPgtoFl)
+                LTextos.push_back(std::to_string(LPgto->tpPgto) + " " + LDetalhe->ideDmDev);
+        return LTextos;
+    };
+    using TTextos = std::vector<std::string>;
+    // By agreement the competence doesn't count, once the date is found. The complementary dismissal makes a payment of
+    // kind 2 by its day of payment, and has no demonstrative by its competence. Complementary runs don't go by the kind
+    // of the payment: each payment of their date tells them.
+    EXPECT_EQ((TTextos{"1 01_004_1_02_2021", "1 01_000_0_03_2021", "2 01_004_1_02_2021"}), Demonstrativos());
+    Executar("UPDATE CALCCOMPL SET TIPOCALCULO = 2");
+    EXPECT_EQ((TTextos{"1 01_000_0_03_2021"}), Demonstrativos());
+    Executar("UPDATE CALCULO SET DATA_INICIO = '01.03.2021' WHERE TIPO = '05'");
+    EXPECT_EQ((TTextos{"1 01_000_0_03_2021", "1 05_002_01_03_2021", "2 05_002_01_03_2021"}), Demonstrativos());
+}
+
 TEST_F(TTesteDatasDePagamento, ReciboDaEmpresaNoPeriodo)
 {
     Prestador(7);
@@ -264,6 +293,11 @@ TEST_F(TTesteDatasDePagamento, ReciboDaEmpresaNoPeriodo)
         LDatas.push_back(LPgto->dtPgto);
     EXPECT_EQ((std::vector<TDateTime>{MAR1, MAR10, MAR31}), LDatas);
     Executar("DELETE FROM RPA WHERE IDRPA > 13");
+    // Their number isn't theirs alone: another provider's, and one of a competence before the layout.
+    Prestador(9, 0, "20211222305");
+    Recibo(18, 9, D(2021, 2, 1), D(2021, 3, 10), 7);
+    Recibo(19, 7, D(2018, 6, 1), D(2021, 3, 10), 8);
+    Executar("UPDATE RPA SET NRRPA = 10 WHERE IDRPA IN (18, 19)");
     const auto LPagamento = Carregar();
     ASSERT_EQ(1U, LPagamento.Pagamentos().size());
     const auto& LDetalhes = LPagamento.Pagamentos()[0]->detPgtoFl;

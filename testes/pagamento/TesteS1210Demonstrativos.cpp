@@ -183,6 +183,8 @@ TEST_F(TTesteDemonstrativos, RubricaRetidaComCodigoQuantidadeFatorEValor)
     Calculo({.Verba = vLiquido});
     Calculo({.Verba = vIrrf, .Valor = 94.51, .Referencia = 7.3});
     Calculo({.Verba = vIrrf, .Valor = 0.49, .Convocacao = 7});
+    Verba(27, "99G");
+    Calculo({.Verba = 27, .Valor = 1, .Convocacao = 7});
     Calculo({.Verba = vSalario, .Valor = 3000});
     {
         const auto LPagamento = Carregar();
@@ -190,6 +192,7 @@ TEST_F(TTesteDemonstrativos, RubricaRetidaComCodigoQuantidadeFatorEValor)
         const auto& LDetalhes = LPagamento.Pagamentos().at(0)->detPgtoFl;
         ASSERT_EQ(2U, LDetalhes.size());
         ASSERT_EQ(1U, LDetalhes[0]->retPgtoTot.size());
+        EXPECT_EQ(2U, LDetalhes[1]->retPgtoTot.size());
         const auto& LVerba = *LDetalhes[0]->retPgtoTot[0];
         EXPECT_EQ("00026P000I031F000C000", LVerba.codRubr);
         EXPECT_EQ("0", LVerba.ideTabRubr);
@@ -218,6 +221,7 @@ TEST_F(TTesteDemonstrativos, PensionistasDividemAPensaoPorIgual)
     Calculo({.Verba = vLiquido});
     Calculo({.Verba = vPensao, .Valor = 300});
     Calculo({.Verba = vPensaoFerias, .Valor = 1, .Empregado = 2});
+    Dependente(0, "11111111111", 0); // registered once more, not as a pensioner
     Dependente(1, "11111111111", 1);
     Dependente(2, "22222222222", 1, D(2021, 3, 1));
     Dependente(3, "22222222222", 1, D(2021, 3, 1), nullptr, 2); // the same person under the other contract
