@@ -52,6 +52,13 @@ TEST_F(TTesteFeriasEAnteriores, FeriasPorTrabalhadorEInicioComOsDiasQuitados)
     Calculo(Ferias(vLiquidoFerias, 1000.5));
     Calculo(Ferias(vLiquidoFerias, 500, 2));
     Calculo(Ferias(vLiquidoFerias, 70, 2, D(2021, 3, 1)));
+    auto LOutra = Ferias(vLiquidoFerias, 3);
+    LOutra.Pagto = D(2021, 4, 5);
+    Calculo(LOutra);
+    LOutra = Ferias(vLiquidoFerias, 4);
+    LOutra.Tipo = "01";
+    LOutra.Subtipo = 1; // no payment
+    Calculo(LOutra);
     const auto LPagamento = Carregar();
     ASSERT_EQ(1U, LPagamento.Pagamentos().size());
     EXPECT_EQ(7, LPagamento.Pagamentos()[0]->tpPgto);
@@ -138,8 +145,13 @@ TEST_F(TTesteFeriasEAnteriores, RubricasDasFerias)
     Calculo(Ferias(vInssFeriasPago, 240));
     Calculo(Ferias(vPensaoFerias, 301));
     Calculo(Ferias(vIrrfFerias, 0)); // nothing was withheld
-    Calculo(Ferias(vSalario, 5));    // a code that a vacation doesn't report
-    Calculo(Ferias(70, 9));          // a total, without incidences
+    Calculo(Ferias(vIrrfFerias, 6, 1, D(2021, 3, 20)));
+    auto LOutra = Ferias(vIrrfFerias, 7);
+    LOutra.Tipo = "01";
+    LOutra.Subtipo = 1; // no payment
+    Calculo(LOutra);
+    Calculo(Ferias(vSalario, 5)); // a code that a vacation doesn't report
+    Calculo(Ferias(70, 9));       // a total, without incidences
     Calculo(Ferias(vLiquidoFerias, 2449));
     const auto LPagamento = Carregar();
     TTextos LTextos;
