@@ -94,6 +94,8 @@ TEST_F(TTesteDemonstrativos, CategoriaNoIdentificadorSoComContratosAtivosDeVaria
     Empregado(2, 103);
     Calculo({.Verba = vLiquido});
     EXPECT_EQ("01_000_0_03_2021_101", Unico(Carregar()).ideDmDev);
+    Executar("UPDATE FP_ESOCIALTABELA SET CODIGO = '723.1' WHERE IDESOCIALTABELA = 101");
+    EXPECT_EQ("01_000_0_03_2021_723", Unico(Carregar()).ideDmDev);
     Executar("UPDATE EMPREGADOS SET DATA_DEMISSAO = '28.02.2021' WHERE IDEMPREGADO = 2");
     EXPECT_EQ("01_000_0_03_2021", Unico(Carregar()).ideDmDev);
 }
@@ -142,6 +144,11 @@ TEST_F(TTesteDemonstrativos, LiquidoZeroSoFicaComRubricaQueConta)
     for (const char* LAtribuicao : {"DATAFIM = '30.03.2021'", "DATAFIM = NULL, DATAINICIO = '02.03.2021'"}) {
         Executar(std::string("UPDATE FP_RUBRICARELAC SET ") + LAtribuicao);
         EXPECT_TRUE(Carregar().Pagamentos().empty()) << LAtribuicao;
+    }
+    Executar("UPDATE FP_RUBRICARELAC SET DATAFIM = NULL, DATAINICIO = '01.03.2021'");
+    for (const auto& [LNatureza, LFica] : {std::pair{"9905", true}, {"9930", true}, {"9931", true}, {"9939", false}}) {
+        Executar(std::string("UPDATE FP_ESOCIALTABELA SET CODIGO = '") + LNatureza + "' WHERE IDESOCIALTABELA = 39932");
+        EXPECT_EQ(LFica, !Carregar().Pagamentos().empty()) << LNatureza;
     }
     // A value above zero counts, but for the totals. Those that end in a percent sign are whole texts: 97A isn't one.
     for (const auto& [LFormula, LFica] : {std::pair{"1A", true}, {"99BC", false}, {"97%", false}, {"97A", true}}) {
