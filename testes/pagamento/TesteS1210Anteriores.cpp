@@ -26,11 +26,12 @@ protected:
                 .Fim = D(2021, 4, 6),
                 .Pagto = D(2021, 3, 4)};
     }
-    /// Category, then code and value of each earlier payment of March 2021; the layout starts on 1 January 2021.
-    static std::vector<std::string> Anteriores()
+    /// Category, then code and value of each earlier payment of March 2021; the layout starts on 1 January 2021 unless
+    /// told.
+    static std::vector<std::string> Anteriores(TDateTime AVigencia = D(2021, 1, 1))
     {
         std::vector<std::string> LTextos;
-        const auto LPagamento = Carregar(D(2021, 1, 1));
+        const auto LPagamento = Carregar(AVigencia);
         for (const auto& LPgto : LPagamento.Pagamentos())
             for (const auto& LDetalhe : LPgto->detPgtoAnt)
                 for (const auto& LInfo : LDetalhe->InfoPgtoAnt)
@@ -52,6 +53,13 @@ TEST_F(TTesteFeriasEAnteriores, FeriasPorTrabalhadorEInicioComOsDiasQuitados)
     Calculo(Ferias(vLiquidoFerias, 1000.5));
     Calculo(Ferias(vLiquidoFerias, 500, 2));
     Calculo(Ferias(vLiquidoFerias, 70, 2, D(2021, 3, 1)));
+    auto LOutra = Ferias(vLiquidoFerias, 3);
+    LOutra.Pagto = D(2021, 4, 5);
+    Calculo(LOutra);
+    LOutra = Ferias(vLiquidoFerias, 4);
+    LOutra.Tipo = "01";
+    LOutra.Subtipo = 1; // no payment
+    Calculo(LOutra);
     const auto LPagamento = Carregar();
     ASSERT_EQ(1U, LPagamento.Pagamentos().size());
     EXPECT_EQ(7, LPagamento.Pagamentos()[0]->tpPgto);
@@ -138,8 +146,13 @@ TEST_F(TTesteFeriasEAnteriores, RubricasDasFerias)
     Calculo(Ferias(vInssFeriasPago, 240));
     Calculo(Ferias(vPensaoFerias, 301));
     Calculo(Ferias(vIrrfFerias, 0)); // nothing was withheld
-    Calculo(Ferias(vSalario, 5));    // a code that a vacation doesn't report
-    Calculo(Ferias(70, 9));          // a total, without incidences
+    Calculo(Ferias(vIrrfFerias, 6, 1, D(2021, 3, 20)));
+    auto LOutra = Ferias(vIrrfFerias, 7);
+    LOutra.Tipo = "01";
+    LOutra.Subtipo = 1; // no payment
+    Calculo(LOutra);
+    Calculo(Ferias(vSalario, 5)); // a code that a vacation doesn't report
+    Calculo(Ferias(70, 9));       // a total, without incidences
     Calculo(Ferias(vLiquidoFerias, 2449));
     const auto LPagamento = Carregar();
     TTextos LTextos;
@@ -180,8 +193,11 @@ TEST_F(TTesteFeriasEAnteriores, SinalDoDescontoETesteDaSomaSimples)
     EXPECT_EQ((TTextos{"101 31 30"}), Anteriores());
     Executar("UPDATE CALCULO SET VALOR = -99.99 WHERE COD_VERBA = 40");
     EXPECT_EQ((TTextos{"101 11 199,99", "101 31 30"}), Anteriores());
+    // A category without an income isn't told, nor then the date.
+    Executar("UPDATE CALCULO SET VALOR = 0");
+    EXPECT_TRUE(Carregar(D(2021, 1, 1)).Pagamentos().empty());
     // A payment of March that isn't before the layout is none.
-    Executar("UPDATE CALCULO SET DATA_INICIO = '01.01.2021'");
+    Executar("UPDATE CALCULO SET DATA_INICIO = '01.01.2021', VALOR = 1");
     EXPECT_TRUE(Anteriores().empty());
 }
 
@@ -237,12 +253,12 @@ TEST_F(TTesteFeriasEAnteriores, CadaRamoTomaOsSeusCodigos)
 
     // Same year, below a date of change of layout in the year.
     Calcular("01", 4, FEV21);
-    const auto LPagamento = Carregar(MAR31);
-    ASSERT_EQ(1U, LPagamento.Pagamentos().size());
-    TTextos LCodigos;
-    for (const auto& LInfo : LPagamento.Pagamentos()[0]->detPgtoAnt.at(0)->InfoPgtoAnt)
-        LCodigos.push_back("101 " + LInfo->tpBcIRRF + " " + FloatToStr(static_cast<double>(LInfo->vrBcIRRF)));
-    EXPECT_EQ(COMUNS, LCodigos);
+    EXPECT_EQ(COMUNS, Anteriores(MAR31));
+
+    // A complementary dismissal by itself, paid before the layout.
+    Inserir("RESC_COMPL", {{"COD_EMPRESA", 1}, {"COD_EMPREGADO", 1001}, {"DATA_PGTO", MAR31}});
+    Calcular("05", 2, FEV21);
+    EXPECT_EQ(COMUNS, Anteriores(D(2021, 4, 1)));
 }
 
 TEST_F(TTesteFeriasEAnteriores, ValoresIguaisDeDoisRamosContamUmaVez)
@@ -269,6 +285,8 @@ TEST_F(TTesteFeriasEAnteriores, UmDetalhePorCategoriaPeloComecoDoCodigo)
     IncidenciaIrrf(vSalario, 11);
     for (int i = 1; i <= 4; ++i)
         Calculo({.Verba = vSalario, .Valor = 10.0 * i, .Empregado = i, .Inicio = D(2020, 12, 1)});
+    Empregado(5, 101, nullptr, "20211222305"); // another worker
+    Calculo({.Verba = vSalario, .Valor = 1000, .Empregado = 5, .Inicio = D(2020, 12, 1)});
     // Both 723 and 723.1 are told as 723, each with the values of both.
     EXPECT_EQ((TTextos{"101 11 10", "103 11 20", "723 11 70", "723 11 70"}), Anteriores());
     // Workers without a category of table 1 have none.

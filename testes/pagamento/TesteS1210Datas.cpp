@@ -293,11 +293,12 @@ TEST_F(TTesteDatasDePagamento, ReciboDaEmpresaNoPeriodo)
         LDatas.push_back(LPgto->dtPgto);
     EXPECT_EQ((std::vector<TDateTime>{MAR1, MAR10, MAR31}), LDatas);
     Executar("DELETE FROM RPA WHERE IDRPA > 13");
-    // Their number isn't theirs alone: another provider's, and one of a competence before the layout.
+    // Their number isn't theirs alone: another company's, of another day, another provider's, and one of a competence
+    // before the layout.
     Prestador(9, 0, "20211222305");
     Recibo(18, 9, D(2021, 2, 1), D(2021, 3, 10), 7);
     Recibo(19, 7, D(2018, 6, 1), D(2021, 3, 10), 8);
-    Executar("UPDATE RPA SET NRRPA = 10 WHERE IDRPA IN (18, 19)");
+    Executar("UPDATE RPA SET NRRPA = 10 WHERE IDRPA IN (12, 13, 18, 19)");
     const auto LPagamento = Carregar();
     ASSERT_EQ(1U, LPagamento.Pagamentos().size());
     const auto& LDetalhes = LPagamento.Pagamentos()[0]->detPgtoFl;

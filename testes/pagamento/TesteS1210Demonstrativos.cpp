@@ -94,6 +94,8 @@ TEST_F(TTesteDemonstrativos, CategoriaNoIdentificadorSoComContratosAtivosDeVaria
     Empregado(2, 103);
     Calculo({.Verba = vLiquido});
     EXPECT_EQ("01_000_0_03_2021_101", Unico(Carregar()).ideDmDev);
+    Executar("UPDATE FP_ESOCIALTABELA SET CODIGO = '723.1' WHERE IDESOCIALTABELA = 101");
+    EXPECT_EQ("01_000_0_03_2021_723", Unico(Carregar()).ideDmDev);
     Executar("UPDATE EMPREGADOS SET DATA_DEMISSAO = '28.02.2021' WHERE IDEMPREGADO = 2");
     EXPECT_EQ("01_000_0_03_2021", Unico(Carregar()).ideDmDev);
 }
@@ -142,6 +144,11 @@ TEST_F(TTesteDemonstrativos, LiquidoZeroSoFicaComRubricaQueConta)
     for (const char* LAtribuicao : {"DATAFIM = '30.03.2021'", "DATAFIM = NULL, DATAINICIO = '02.03.2021'"}) {
         Executar(std::string("UPDATE FP_RUBRICARELAC SET ") + LAtribuicao);
         EXPECT_TRUE(Carregar().Pagamentos().empty()) << LAtribuicao;
+    }
+    Executar("UPDATE FP_RUBRICARELAC SET DATAFIM = NULL, DATAINICIO = '01.03.2021'");
+    for (const auto& [LNatureza, LFica] : {std::pair{"9905", true}, {"9930", true}, {"9931", true}, {"9939", false}}) {
+        Executar(std::string("UPDATE FP_ESOCIALTABELA SET CODIGO = '") + LNatureza + "' WHERE IDESOCIALTABELA = 39932");
+        EXPECT_EQ(LFica, !Carregar().Pagamentos().empty()) << LNatureza;
     }
     // A value above zero counts, but for the totals. Those that end in a percent sign are whole texts: 97A isn't one.
     for (const auto& [LFormula, LFica] : {std::pair{"1A", true}, {"99BC", false}, {"97%", false}, {"97A", true}}) {
@@ -214,6 +221,48 @@ TEST_F(TTesteDemonstrativos, RubricaRetidaComCodigoQuantidadeFatorEValor)
     }
 }
 
+TEST_F(TTesteDemonstrativos, CadaDemonstrativoTomaSoAsSuasLinhas)
+{
+    Empregado(1);
+    Empregado(2, 101, nullptr, "20211222305");
+    Calculo({.Verba = vLiquido});
+    Calculo({.Verba = vIrrf, .Valor = 10});
+    Verba(27, "99G");
+    const auto FEV1 = D(2021, 2, 1);
+    const auto ABR5 = D(2021, 4, 5);
+    for (const int LVerba : {int{vLiquido}, int{vIrrf}, 27}) {
+        Calculo({.Verba = LVerba, .Valor = 1, .Empregado = 2});
+        Calculo({.Verba = LVerba, .Valor = 2, .Tipo = "02"});
+        Calculo({.Verba = LVerba, .Valor = 3, .Subtipo = 1});
+        Calculo({.Verba = LVerba, .Valor = 4, .Inicio = FEV1});
+        Calculo({.Verba = LVerba, .Valor = 5, .Pagto = ABR5});
+    }
+    const auto LPagamento = Carregar();
+    std::vector<std::string> LTextos;
+    for (const auto& LDetalhe : LPagamento.Pagamentos().at(0)->detPgtoFl) {
+        LTextos.push_back(LDetalhe->ideDmDev + " " + FloatToStr(static_cast<double>(LDetalhe->vrLiq)));
+        for (const auto& LVerba : LDetalhe->retPgtoTot)
+            LTextos.back() += " " + FloatToStr(static_cast<double>(LVerba->vrRubr));
+    }
+    EXPECT_EQ((std::vector<std::string>{"01_000_0_02_2021 4 4 4", "01_000_0_03_2021 100 10", "02_000_0_03_2021 2 2 2"}),
+              LTextos);
+}
+
+TEST_F(TTesteDemonstrativos, FormulasDasVerbasRetidas)
+{
+    Empregado(1);
+    Calculo({.Verba = vLiquido});
+    Calculo({.Verba = vIrrf});
+    const auto Retidas = [](const std::string& AFormula) {
+        Executar("UPDATE TAB_VERBAS SET FORMULA = '" + AFormula + "' WHERE CODIGO = 26");
+        return Unico(Carregar()).retPgtoTot.size();
+    };
+    for (const char* LFormula : {"5E", "5EA", "5EB", "5EC", "99F", "99G", "99GA", "99H", "99HA", "99I", "99K", "99M"})
+        EXPECT_EQ(1U, Retidas(LFormula)) << LFormula;
+    for (const char* LFormula : {"5", "5F", "99", "99E", "99FA", "99IA", "99J", "99KA", "99L", "99MA"})
+        EXPECT_EQ(0U, Retidas(LFormula)) << LFormula;
+}
+
 TEST_F(TTesteDemonstrativos, PensionistasDividemAPensaoPorIgual)
 {
     Empregado(1);
@@ -221,13 +270,19 @@ TEST_F(TTesteDemonstrativos, PensionistasDividemAPensaoPorIgual)
     Calculo({.Verba = vLiquido});
     Calculo({.Verba = vPensao, .Valor = 300});
     Calculo({.Verba = vPensaoFerias, .Valor = 1, .Empregado = 2});
+    Empregado(3, 101, nullptr, "20211222305");
+    Dependente(-1, "11111111111", 1, D(2010, 1, 1), nullptr, 3); // of another worker, as the next two
+    Dependente(-2, nullptr, 1, D(2010, 1, 1), nullptr, 3);
+    Dependente(-3, nullptr, 0, D(2010, 1, 1), nullptr, 3);
     Dependente(0, "11111111111", 0); // registered once more, not as a pensioner
     Dependente(1, "11111111111", 1);
     Dependente(2, "22222222222", 1, D(2021, 3, 1));
     Dependente(3, "22222222222", 1, D(2021, 3, 1), nullptr, 2); // the same person under the other contract
     Dependente(4, "33333333333", 0);
     Dependente(5, "44444444444", 1, D(2021, 3, 2)); // not born yet
-    Dependente(6, nullptr, 0);                      // without a CPF counts only beside a pensioner without one
+    Dependente(9, nullptr, 1, D(2021, 3, 2));
+    Dependente(10, nullptr, 0, D(2021, 3, 2));
+    Dependente(6, nullptr, 0); // without a CPF counts only beside a pensioner without one
     const auto Pensoes = [&] {
         std::vector<std::string> LTextos;
         const auto LPagamento = Carregar();
