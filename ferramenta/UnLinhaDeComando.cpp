@@ -54,17 +54,10 @@ void AdicionarEventos(
 
 std::string TEventoDaLinha::Codigo() const
 {
-    std::string LCodigo;
-    for (const auto& [LNome, LApp] : Eventos) {
-        if (!LApp->parsed())
-            continue;
-        if (!LCodigo.empty())
-            throw EUsoErrado("Informe um só evento: " + LCodigo + " ou " + LNome);
-        LCodigo = LNome;
-    }
-    if (LCodigo.empty())
-        throw EUsoErrado("Falta informar o evento (S-1000, ...); veja 'esocial-campos eventos'");
-    return LCodigo;
+    for (const auto& [LNome, LApp] : Eventos)
+        if (LApp->parsed())
+            return LNome;
+    throw EUsoErrado("Falta informar o evento (S-1000, ...); veja 'esocial-campos eventos'");
 }
 
 std::map<std::string, std::string> TEventoDaLinha::Argumentos() const

@@ -81,6 +81,11 @@ int Executar(CLI::App& AApp, const TComandos& AComandos)
     const std::string LUso = LEscolhido != nullptr && LDados.size() == 1 ? LEscolhido->Uso : USO_GERAL;
     if (LDados.size() > 1)
         return UsoErrado("Informe um só comando: " + LDados[0] + " ou " + LDados[1], LUso);
+    if (LEscolhido != nullptr)
+        // Before what the second event didn't know of the first one's arguments.
+        if (const auto LEventos = LEscolhido->App->get_subcommands(); LEventos.size() > 1)
+            return UsoErrado("Informe um só evento: " + LEventos[0]->get_name() + " ou " + LEventos[1]->get_name(),
+                             LUso);
     if (const auto LSobras = AApp.remaining(true); !LSobras.empty()) {
         const bool LOpcao = LSobras.front().starts_with("-");
         const char* LQue = LEscolhido == nullptr ? "Comando desconhecido"

@@ -75,6 +75,8 @@ TEST(TTestePrograma, UsoErradoDizOQueEstaErradoESaiComDois)
         {S1000({"--executar=false"}, "reverter"), "--executar não leva valor"},
         {{"criar-banco", "--banco", "/nao/existe.fdb", "eventos"}, "Informe um só comando: criar-banco ou eventos"},
         {{"eventos", "S-1000", "carregar", "S-1000"}, "Informe um só comando: eventos ou carregar"},
+        {{"carregar", "S-1000", "S-1005", "--banco", "x", "--AIDEmpresa", "1"},
+         "Informe um só evento: S-1000 ou S-1005"},
         {{"criar-banco", "--banco", "/nao/existe.fdb", "criar-banco"},
          "Informe um só comando: criar-banco ou criar-banco"},
         {{"criar-banco", "--banco", "--exemplo"}, "--banco precisa de exatamente um valor"},
