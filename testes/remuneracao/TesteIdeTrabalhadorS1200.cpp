@@ -172,6 +172,9 @@ TEST_F(TTesteIdeTrabalhador, OutrosRendimentosDosContratos)
     Rendimento("11222333000181", 5);
     Rendimento("11222333000182", 6);
     EXPECT_EQ("333:101=1500 444:-2=700 888:101=2", OutrosRendimentos());
+    Executar("UPDATE FP_ESOCIALTABELA SET TABELA = 2 WHERE IDESOCIALTABELA = 101");
+    EXPECT_EQ("333:-2=1500 444:-2=700 888:-2=2", OutrosRendimentos()) << "a code of another table is no category";
+    Executar("UPDATE FP_ESOCIALTABELA SET TABELA = 1 WHERE IDESOCIALTABELA = 101");
     // Withheld in order: only the incomes up to this employer's turn.
     Executar("UPDATE EMPREGADOS SET INDICADORDESCINSS = 2, ORDEMDESCINSS = 1");
     EXPECT_EQ("333:101=1500 888:101=2", OutrosRendimentos());
@@ -200,7 +203,7 @@ TEST_F(TTesteIdeTrabalhador, OutrosRendimentosSomamAsDuasFontes)
     // A newer receipt of another provider, or at another employer, moves nothing; his incomes aren't this worker's.
     Prestador(6, "99988877766", 701);
     Recibo(7, 70, 6, D(2021, 3, 31), 1);
-    OutroRendimento(6, 1, "555", 900);
+    OutroRendimento(1, 1, "555", 900);
     Executar("UPDATE FP_RPAOUTROSREND SET IDPRESTSERVICO = 6 WHERE INSCRICAO = '555'");
     Recibo(8, 80, 5, D(2021, 3, 31), 1, 9);
     Inserir("SC00_FILIAL", {{"IDFILIAL", 9}, {"IDEMPRESA", 2}, {"FILIAL", 9}});

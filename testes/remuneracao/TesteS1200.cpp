@@ -285,6 +285,10 @@ TEST_F(TTesteS1200, ReciboDeMesmoNumeroDeOutraEmpresa)
     Recibo(3, 77, 5, D(2021, 3, 8), 900, 3);
     EXPECT_EQ("97_0000001234_05_03_2021", Identificadores());
     EXPECT_EQ("1/0:0=60", Itens());
+    // The same receipt over two establishments of this employer is one demonstrative.
+    Recibo(4, 1234, 5, D(2021, 3, 5), 40, 2);
+    EXPECT_EQ("97_0000001234_05_03_2021", Identificadores());
+    EXPECT_EQ("1/0:0=60 2/0:0=40", Itens());
 }
 
 TEST_F(TTesteS1200, CategoriaDeOutraTabelaNaoEhCategoria)
