@@ -123,6 +123,7 @@ TEST_F(TTesteDesligamento, EscolheOsCalculosDoDesligamento)
     // An advance goes by its day of payment, and a complementary dismissal without an agreement by none.
     Calculo(1, 5, {.Tipo = "02", .Pagto = D(2021, 3, 1)});
     Calculo(1, 5, {.Tipo = "06", .Pagto = D(2021, 4, 1)});
+    Calculo(1, 0, {.Tipo = "06", .Pagto = D(2021, 3, 31)});
     Calculo(1, 5, {.Tipo = "05", .SubTipo = 2, .Inicio = D(2021, 3, 20), .Pagto = D(2021, 6, 10)});
     EXPECT_EQ("05_000_01_03_2021 02_000_0_03_2021", S2299());
     RescCompl(D(2021, 6, 10));
@@ -316,6 +317,56 @@ TEST_F(TTesteDesligamento, PensaoPelaConfiguracaoDoDesligamento)
     EXPECT_EQ("03", LTermino->infoTSVTermino.mtvDesligTSV);
     Configurar(D(2021, 3, 1), D(2021, 12, 31));
     EXPECT_EQ(0, Carregar<TTarvoESocialCamposS2399>()->infoTSVTermino.percAliment);
+    Configurar(D(2021, 1, 1), D(2021, 2, 28));
+    EXPECT_EQ("", Carregar()->infoDeslig.percAliment);
+    // Settings of another contract, origin, kind or type.
+    for (const char* LOutro : {"IDEMPREGADO = 2", "ORIGEM = 91", "ESPECIE = 13", "TP = 2"}) {
+        Configurar(D(2021, 3, 1), nullptr);
+        EXPECT_EQ(12.5, Carregar<TTarvoESocialCamposS2399>()->infoTSVTermino.percAliment);
+        Executar(std::string("UPDATE SC00_EMPREGADOCFG SET ") + LOutro);
+        EXPECT_EQ("0", Carregar()->infoDeslig.pensAlim) << LOutro;
+        EXPECT_EQ("", Carregar()->infoDeslig.percAliment) << LOutro;
+        EXPECT_EQ(0, Carregar<TTarvoESocialCamposS2399>()->infoTSVTermino.percAliment) << LOutro;
+    }
+    Executar("UPDATE FP_ESOCIALTABELA SET TABELA = 2");
+    EXPECT_EQ("", Carregar<TTarvoESocialCamposS2399>()->infoTSVTermino.mtvDesligTSV) << "without a category nothing";
+}
+
+TEST_F(TTesteDesligamento, DadosDaRescisaoSoDoContratoEDaSuaEspecie)
+{
+    Inserir("ES02_SPPROC", {{"IDSPPROC", 7}, {"NUMERO", "0001.234"}});
+    Inserir("TAB_RESCISAO", {{"COD_EMPRESA", 8}, {"COD_EMPREGADO", 101}, {"DIAS_INDEN", 90}});
+    Inserir("TAB_RESCISAO", {{"COD_EMPRESA", 7}, {"COD_EMPREGADO", 102}, {"DIAS_INDEN", 60}});
+    const auto Detalhar = [](int AIdEmpregado, int AEspecie, int ATipo, const char* APrefixo) {
+        const auto Texto = [&](const char* AValor) { return std::string(APrefixo) + AValor; };
+        Inserir("FP_EMPREGADOSDET", {{"IDEMPREGADO", AIdEmpregado},
+                                     {"ESPECIE", AEspecie},
+                                     {"TP", ATipo},
+                                     {"INFORMACAO1", Texto("1")},
+                                     {"INFORMACAO2", "7"},
+                                     {"INFORMACAO3", Texto("3")},
+                                     {"INFORMACAO5", Texto("5")},
+                                     {"INFORMACAO6", Texto("6")},
+                                     {"INFORMACAO10", Texto("10")}});
+    };
+    const auto Dados = [this] {
+        const auto LEvento = Carregar();
+        const auto& LInfo = LEvento->infoDeslig;
+        return LInfo.nrCertObito + "/" + LInfo.nrProcTrab + "/" + LInfo.indCumprParc + "/" + LInfo.observacao + " " +
+               LInfo.ConsigFGTS.insConsig + "/" + LInfo.ConsigFGTS.nrContr + " " + LInfo.mtvDeslig;
+    };
+    Detalhar(2, 4, 1, "o");
+    Detalhar(1, 3, 1, "e");
+    Detalhar(1, 4, 2, "t");
+    EXPECT_EQ("/// / 2", Dados());
+    EXPECT_EQ("", Carregar()->infoDeslig.dtProjFimAPI);
+    Detalhar(1, 4, 1, "");
+    EXPECT_EQ("1/0001.234/3/10 5/6 2", Dados());
+    Inserir("TAB_RESCISAO", {{"COD_EMPRESA", 7}, {"COD_EMPREGADO", 101}, {"DIAS_INDEN", 30}});
+    EXPECT_EQ("19/04/2021", Carregar()->infoDeslig.dtProjFimAPI);
+    // A contract without a category has all the same its dismissal.
+    Executar("UPDATE EMPREGADOS SET IDCATEGORIAESOCIAL = NULL");
+    EXPECT_EQ("1/0001.234/3/10 5/6 2", Dados());
 }
 
 TEST_F(TTesteDesligamento, PlanoDeSaudeDaRescisaoENaoDaComplementar)
@@ -417,6 +468,9 @@ TEST_F(TTesteDesligamento, ValorDaPensaoPelaVerbaDaConfiguracao)
         return LInfo.vrAlim;
     };
     Calculo(31, 99, {.Tipo = "05", .SubTipo = 2});
+    Calculo(31, 99, {.Tipo = "01"});
+    Calculo(31, 99, {.Tipo = "05", .IdEmpregado = 2});
+    Calculo(30, 99, {.Tipo = "05"});
     EXPECT_EQ("", Valor());
     Calculo(31, 301.5, {.Tipo = "05"});
     EXPECT_EQ("301,5", Valor());
@@ -440,6 +494,10 @@ TEST_F(TTesteDesligamento, OutrosEmpregadoresDoMesSemOProprio)
     Rendimento("99", 1, D(2021, 4, 1), 77);
     Rendimento("11222333000181", 1, D(2021, 1, 1), 77);
     Rendimento("11222333000182", 1, D(2021, 1, 1), 77);
+    Rendimento("98", 1, D(2021, 1, 1), 77);
+    Executar("UPDATE RENDIMENTOS SET TIPOREND = 'IRRF' WHERE INSCRICAO = '98'");
+    Rendimento("97", 1, D(2021, 1, 1), 77);
+    Executar("UPDATE RENDIMENTOS SET DATA_FIM = '28.02.2021' WHERE INSCRICAO = '97'");
     Executar("UPDATE EMPREGADOS SET ORDEMDESCINSS = 1, INDICADORDESCINSS = 1");
     auto LEvento = Carregar();
     const auto& LMV = LEvento->infoDeslig.verbasResc.infoMV;
@@ -451,6 +509,31 @@ TEST_F(TTesteDesligamento, OutrosEmpregadoresDoMesSemOProprio)
     Executar("UPDATE EMPREGADOS SET INDICADORDESCINSS = 2");
     EXPECT_EQ("10,25",
               Carregar<TTarvoESocialCamposS2399>()->infoTSVTermino.verbasResc.infoMV.remunOutrEmpr[0]->vlrRemunOE);
+    // Until the first day of the month, and without a category.
+    Executar("UPDATE RENDIMENTOS SET DATA_FIM = '01.03.2021', IDESOCIALTABELA = NULL WHERE INSCRICAO = '97'");
+    LEvento = Carregar();
+    const auto& LOutros = LEvento->infoDeslig.verbasResc.infoMV.remunOutrEmpr;
+    ASSERT_EQ(2u, LOutros.size());
+    EXPECT_EQ("97/", LOutros[0]->nrInsc + "/" + LOutros[0]->codCateg);
+}
+
+TEST_F(TTesteDesligamento, ProcessoDoEstabelecimentoENaoOsDosEmpregados)
+{
+    const auto Processo = [] { return Carregar()->infoDeslig.verbasResc.procCs.nrProcJud; };
+    Inserir("MOV_TRANSF", {{"IDEMPREGADO", 1}, {"IDFILIAL", 1}, {"COD_EMPRESA", 7}, {"DATAINICIOMOV", D(2018, 1, 2)}});
+    for (const auto& [LId, LMateria, LFilial, LEmpregado] :
+         {std::tuple{1, 1, 1, TValorSql(2)}, {2, 2, 1, nullptr}, {3, 7, 2, nullptr}})
+        Inserir("ES02_SPPROC", {{"IDSPPROC", LId},
+                                {"INDMATERIA", LMateria},
+                                {"IDFILIAL", LFilial},
+                                {"IDEMPREGADO", LEmpregado},
+                                {"NUMERO", "P" + std::to_string(LId)}});
+    EXPECT_EQ("", Processo());
+    Executar("UPDATE ES02_SPPROC SET IDFILIAL = 1");
+    EXPECT_EQ("P3", Processo());
+    Executar("DELETE FROM ES02_SPPROC WHERE IDSPPROC = 3");
+    Executar("UPDATE ES02_SPPROC SET IDEMPREGADO = NULL WHERE IDSPPROC = 1");
+    EXPECT_EQ("P1", Processo());
 }
 
 } // namespace
