@@ -148,6 +148,13 @@ TEST_F(ServicosConsultas, CalculoPeloTipoDeQuebra)
     InserirCfg("SC00_EMPRESACFG", "IDEMPRESA", 2, 19, 1, D(2022, 1, 1), nullptr, "lixo");
     EXPECT_EQ(TTarvoConsultasEmpresa::BuscarTipoQuebraGpsGfipEmpresa(1), TTipoQuebraGpsGfip::Departamento);
     EXPECT_EQ(TTarvoConsultasEmpresa::BuscarTipoQuebraGpsGfipEmpresa(2), TTipoQuebraGpsGfip::Nenhuma);
+    // Newer settings of another kind, type or origin say nothing of it.
+    InserirCfg("SC00_EMPRESACFG", "IDEMPRESA", 1, 18, 1, D(2022, 1, 1), nullptr, "1");
+    InserirCfg("SC00_EMPRESACFG", "IDEMPRESA", 1, 19, 2, D(2022, 1, 1), nullptr, "1");
+    InserirCfg("SC00_EMPRESACFG", "IDEMPRESA", 1, 19, 1, D(2022, 1, 1), nullptr, "1");
+    Executar("UPDATE SC00_EMPRESACFG SET ORIGEM = 91 WHERE IDEMPRESA = 1 AND ESPECIE = 19 AND TP = 1 AND "
+             "DATAINICIO = '01.01.2022'");
+    EXPECT_EQ(TTarvoConsultasEmpresa::BuscarTipoQuebraGpsGfipEmpresa(1), TTipoQuebraGpsGfip::Departamento);
 }
 
 TEST_F(ServicosConsultas, NaturezaDaVerbaEmVigorDecideBaseOuValor)
@@ -419,6 +426,12 @@ TEST_F(ServicosConsultas, DatasDeInicioDaEmpresa)
     InserirCfg("SC00_EMPRESACFG", "IDEMPRESA", 1, 38, 10, D(2019, 1, 1), D(2019, 1, 2), " 10/01/2019 ", "01/03/2019");
     EXPECT_EQ(Buscar(1).DataInicio, D(2019, 1, 10));
     EXPECT_EQ(Buscar(1).DataInicioEmpregador, D(2019, 3, 1));
+    // Nor do newer settings of another kind, type or origin.
+    InserirCfg("SC00_EMPRESACFG", "IDEMPRESA", 1, 37, 10, D(2022, 1, 1), nullptr, "01/01/2022");
+    InserirCfg("SC00_EMPRESACFG", "IDEMPRESA", 1, 38, 11, D(2022, 1, 1), nullptr, "01/01/2022");
+    InserirCfg("SC00_EMPRESACFG", "IDEMPRESA", 1, 38, 10, D(2022, 1, 1), nullptr, "01/01/2022");
+    Executar("UPDATE SC00_EMPRESACFG SET ORIGEM = 91 WHERE ESPECIE = 38 AND TP = 10 AND DATAINICIO = '01.01.2022'");
+    EXPECT_EQ(Buscar(1).DataInicio, D(2019, 1, 10));
     InserirCfg("SC00_EMPRESACFG", "IDEMPRESA", 2, 38, 10, D(2019, 1, 1), nullptr, "31/02/2019");
     EXPECT_THROW(Buscar(2), EConvertError);
     EXPECT_EQ(TTarvoConsultasESocial::BuscarDataInicioAmbienteTeste(), D(2017, 8, 1));
