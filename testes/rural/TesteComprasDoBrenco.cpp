@@ -153,8 +153,13 @@ TEST_F(TTesteComprasDoBrenco, ProcessosLevamARetencaoInteiraParaCp)
     InserirEntrada({});
     InserirRetencao(1, 1.5, 15);
     InserirProcesso(1, "IDPLANO", 1, 7, 2, 3);
-    Executar("UPDATE ES02_SPPROC SET IDFILIAL = 10");
     InserirProcesso(2, "IDPLANO", 1, 7, 2, 3, D(2021, 4, 1));
+    // The plans of who has the inscription, but is no producer or no person.
+    InserirProdutor(2, "01122233344", 1, 0);
+    InserirProdutor(3, "01122233344", 1, 1, 1);
+    InserirProcesso(8, "IDPLANO", 2, 7, 2, 3);
+    InserirProcesso(9, "IDPLANO", 3, 7, 2, 3);
+    Executar("UPDATE ES02_SPPROC SET IDFILIAL = 10");
     EXPECT_EQ("81300700000101: 1=1000 01122233344 1000/15/0/0(P1 -3/1/2)", CarregarPorAmbas());
     // Of another establishment: the payroll database tells it apart, the sibling's own doesn't.
     Executar("UPDATE ES02_SPPROC SET IDFILIAL = 11");
@@ -276,6 +281,20 @@ TEST_F(TTesteComprasDoBrencoExterno, LeAsComprasLaEOsProcessosAqui)
     EXPECT_EQ(LCompra + "15/0/0(P3 -3/1/2)", Carregar(EXTERNO));
     InserirProcesso(5, "IDFILIAL", 10);
     EXPECT_EQ(LCompra + "12/1/2 {P5 0/0/0}", Carregar(EXTERNO));
+    Executar("DELETE FROM ES02_SPPROC WHERE IDSPPROC = 5");
+    // The plan is that of the producer's purchase of the month.
+    NoBrenco([] {
+        InserirProdutor(6, "11122233344");
+        InserirEntrada({.Id = 2, .Filial = 77, .Plano = 6});
+        InserirRetencao(2, 1.5, 15);
+    });
+    for (const char* LOutro : {"ES02_CLIFOR SET PRODUTOR = 0 WHERE IDCLIFOR = 5",
+                               "ES02_CLIFOR SET PRODUTOR = 1, TPINSCRICAO = 1 WHERE IDCLIFOR = 5",
+                               "ES02_ENTRADA SET DATAENTRADA = '01.04.2021' WHERE IDPLANO = 5"}) {
+        NoBrenco([&] { Executar(std::string("UPDATE ") + LOutro); });
+        EXPECT_EQ(LCompra + "12/1/2", Carregar(EXTERNO)) << LOutro;
+    }
+    InserirProcesso(6, "IDFILIAL", 10);
     // The list goes down to the processes of the acquirer, and to no producer.
     auto LEvento = Evento(EXTERNO);
     const TListaCamposModificados LLista{"{48D0EDD4-1551-4EA5-A50F-D70B25D437C0}"};

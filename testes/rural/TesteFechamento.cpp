@@ -91,6 +91,12 @@ TEST_F(TTesteFechamento, AquisicaoSomaAConfiguracaoSemRepetirOUm)
         Configurar(LCaso.Inicio, LCaso.Fim, LCaso.Informacao2);
         EXPECT_EQ("0 0 " + std::to_string(LCaso.Vale) + " 0 '" + (LCaso.Vale ? "" : "0") + "'", Fechar());
     }
+    // A setting of another origin, kind or type.
+    for (const char* LOutro : {"ORIGEM = 91", "ESPECIE = 39", "TP = 14"}) {
+        Configurar(D(2020, 1, 1), nullptr, "2");
+        Executar(std::string("UPDATE SC00_EMPRESACFG SET ") + LOutro);
+        EXPECT_EQ("0 0 0 0 '0'", Fechar()) << LOutro;
+    }
     Configurar(D(2020, 1, 1), nullptr, "2");
     InserirEvento("S-1250", D(2021, 3, 1));
     EXPECT_EQ("0 0 1 0 ''", Fechar());
@@ -112,6 +118,9 @@ TEST_F(TTesteFechamento, SemMovimentoTrazAMarcaDoUltimoFechamentoAceito)
     InserirEvento("S-1299", D(2021, 2, 1), 202, 0, 1, LOutra.c_str(), D(2021, 3, 5));
     InserirEvento("S-1299", D(2021, 2, 1), 201, 0, 2, LOutra.c_str(), D(2021, 3, 5));
     InserirEvento("S-1299", D(2020, 12, 1), 201, 0, 1, LOutra.c_str(), D(2021, 1, 5));
+    EXPECT_EQ("0 0 0 0 '2021-01'", Fechar());
+    // Nor does one of a period that is still to come.
+    InserirEvento("S-1299", D(2199, 2, 1), 201, 0, 1, LOutra.c_str(), D(2021, 3, 5));
     EXPECT_EQ("0 0 0 0 '2021-01'", Fechar());
     InserirEvento("S-1299", D(2021, 2, 1), 201, 0, 1, Xml("").c_str(), D(2021, 3, 6));
     EXPECT_EQ("0 0 0 0 '0'", Fechar());
@@ -159,7 +168,7 @@ TEST_F(TTesteFechamento, PercentualDaDesoneracaoSoComIndicadorUm)
     };
     for (const auto& LCaso :
          {TCaso{"3/2021", 1, 1.02, 1, 1.97}, TCaso{"3/2021", 2, 2.02, 2, 0}, TCaso{"3/2021", 1.5, 1.52, 0, 0},
-          TCaso{"03/2021", 1, 1.02, 0, 0}, TCaso{"3/2021", 0, 1, 0, 0}}) {
+          TCaso{"03/2021", 1, 1.02, 0, 0}, TCaso{"3/2021", 0, 1, 0, 0}, TCaso{"3/2021", -1, 1, 0, 0}}) {
         Executar("DELETE FROM FP_RECEITACPRB");
         Inserir("FP_RECEITACPRB", {{"IDEMPRESA", 1},
                                    {"COMPETENCIA", LCaso.Competencia},
@@ -175,6 +184,16 @@ TEST_F(TTesteFechamento, PercentualDaDesoneracaoSoComIndicadorUm)
     Executar("UPDATE FP_RECEITACPRB SET VALORRECEITANB = 1, VALORRECEITATOTAL = 0");
     TTarvoESocialCamposInfoSubstPatr LGrupo(1, D(2021, 3, 1));
     EXPECT_THROW(LGrupo.CarregarDados(), EDatabaseError);
+}
+
+TEST_F(TTesteFechamento, ResponsavelEhODoESocial)
+{
+    for (const auto& [LOrigem, LTp, LNome] :
+         {std::tuple{96, 2, "Outra origem"}, {97, 1, "Outro tipo"}, {97, 2, "Rita"}})
+        Inserir("CA06_CFG", {{"ORIGEM", LOrigem}, {"TP", LTp}, {"INFORMACAO1", LNome}});
+    TTarvoESocialCamposideRespInf LGrupo;
+    LGrupo.CarregarDados();
+    EXPECT_EQ("Rita", LGrupo.nmResp);
 }
 
 TEST_F(TTesteFechamento, FatorSegueAOrdemDosEstabelecimentos)

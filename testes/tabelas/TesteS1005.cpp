@@ -205,6 +205,11 @@ TEST_F(TTesteS1005, AsEntidadesEducacionaisAindaValemNoDiaDoFim)
     Entidade("IDFILIALCFG", LDaFilial, 1, "9");
     Entidade("IDFILIALCFG", LDaFilial, 2, "8");
     Entidade("IDFILIALCFG", LDaFilial + 1000, 1, "8");
+    for (const char* LOutro : {"ORIGEM = 91", "ESPECIE = 57"}) {
+        Entidade("IDFILIALCFG", LDaFilial, 1, "8");
+        Executar(std::string("UPDATE FP_INFOGERALCFG SET ") + LOutro +
+                 " WHERE IDINFOGERALCFG = (SELECT MAX(IDINFOGERALCFG) FROM FP_INFOGERALCFG)");
+    }
     Entidade("IDDEPARTAMENTOCFG", LDoDepto, 1, "9");
     // A child that names a provider that doesn't exist is there all the same.
     Entidade("IDDEPARTAMENTOCFG", LDoDepto, 1, "77");

@@ -154,6 +154,11 @@ TEST_F(TTesteS1010, CadaTributoTemOSeuProcesso)
                LDados.IdeProcessoIRRF.NrProc + "/" + LDados.IdeProcessoIRRF.CodSusp + " " +
                LDados.IdeProcessoSIND.NrProc;
     };
+    // The same process of another rubric, with another extent.
+    Inserir("FP_VERBAPROCESSO", {{"IDVERBA", 99}, {"IDSPPROC", 21}, {"EXTENSAODECISAO", 9}});
+    Executar("UPDATE FP_VERBAPROCESSO SET IDVERBA = 100 - IDVERBA WHERE IDSPPROC = 21");
+    EXPECT_EQ("2/002112019/2/9 002212019 002312019/3 ", Processos(1, D(2019, 1, 1)));
+    Executar("UPDATE FP_VERBAPROCESSO SET IDVERBA = 100 - IDVERBA WHERE IDSPPROC = 21");
     EXPECT_EQ("2/002112019/2/1 002212019 002312019/3 ", Processos(1, D(2019, 1, 1)));
     EXPECT_EQ("2/002112019/2/1 002212019 002312019/3 002412019", Processos(2, D(2019, 1, 1)));
     EXPECT_EQ("///  / ", Processos(2, D(2018, 12, 31)));
