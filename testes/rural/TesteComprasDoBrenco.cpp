@@ -288,12 +288,21 @@ TEST_F(TTesteComprasDoBrencoExterno, LeAsComprasLaEOsProcessosAqui)
         InserirEntrada({.Id = 2, .Filial = 77, .Plano = 6});
         InserirRetencao(2, 1.5, 15);
     });
-    for (const char* LOutro : {"ES02_CLIFOR SET PRODUTOR = 0 WHERE IDCLIFOR = 5",
-                               "ES02_CLIFOR SET PRODUTOR = 1, TPINSCRICAO = 1 WHERE IDCLIFOR = 5",
-                               "ES02_ENTRADA SET DATAENTRADA = '01.04.2021' WHERE IDPLANO = 5"}) {
-        NoBrenco([&] { Executar(std::string("UPDATE ") + LOutro); });
+    for (const auto& [LTabela, LOutro, LProprio] :
+         {std::tuple{"ES02_CLIFOR", "PRODUTOR = 0", "PRODUTOR = 1"},
+          {"ES02_CLIFOR", "TPINSCRICAO = 1", "TPINSCRICAO = 2"},
+          {"ES02_ENTRADA", "DATAENTRADA = '01.04.2021'", "DATAENTRADA = '05.03.2021'"}}) {
+        const auto Mudar = [&](const char* AMudanca) {
+            NoBrenco([&] {
+                Executar(std::string("UPDATE ") + LTabela + " SET " + AMudanca +
+                         (LTabela == std::string("ES02_CLIFOR") ? " WHERE IDCLIFOR = 5" : " WHERE IDPLANO = 5"));
+            });
+        };
+        Mudar(LOutro);
         EXPECT_EQ(LCompra + "12/1/2", Carregar(EXTERNO)) << LOutro;
+        Mudar(LProprio);
     }
+    NoBrenco([] { Executar("DELETE FROM ES02_CLIFOR WHERE IDCLIFOR = 6"); });
     InserirProcesso(6, "IDFILIAL", 10);
     // The list goes down to the processes of the acquirer, and to no producer.
     auto LEvento = Evento(EXTERNO);
