@@ -177,8 +177,22 @@ TEST_F(TTesteLeitorDoDesligamento, CadaTipoLeSuasLinhas)
     Calculo(5, 99, {.Tipo = "01", .SubTipo = 4, .Pagto = D(2021, 3, 30)});
     Calculo(6, 7, {.Convocacao = 5});
     Calculo(6, 99, {.Convocacao = 6});
+    // Of another kind of payroll, or of another worker.
+    Calculo(1, 99, {.Tipo = "02", .SubTipo = 104});
+    Calculo(2, 99, {.Tipo = "05"});
+    Calculo(2, 99, {.Tipo = "02", .SubTipo = 2});
+    Calculo(3, 99, {.Tipo = "02", .SubTipo = 3});
+    Calculo(5, 99, {.Tipo = "02", .SubTipo = 4});
+    Calculo(6, 99, {.Tipo = "06", .Convocacao = 5});
+    Calculo(1, 99, {.SubTipo = 104, .IdEmpregado = 2});
+    Calculo(2, 99, {.Tipo = "05", .SubTipo = 2, .IdEmpregado = 2});
+    Calculo(3, 99, {.Tipo = "02", .IdEmpregado = 2});
+    Calculo(5, 99, {.SubTipo = 4, .IdEmpregado = 2});
+    Calculo(6, 99, {.IdEmpregado = 2, .Convocacao = 5});
 
     EXPECT_EQ("1@1/0=1", S2299(Rescisao, "05"));
+    EXPECT_EQ("1@1/0=1", S2399(Rescisao, "05"));
+    EXPECT_EQ("1@1/0=1", S2399(Rescisao, "05", 3));
     EXPECT_EQ("2@1/0=5", S2299(RescisaoComplementar, "05"));
     EXPECT_EQ("2@1/0=5", S2399(RescisaoComplementar, "05"));
     EXPECT_EQ("4@1/10=5 3@2/20=4", S2299(OutroDaCompetencia, "02", 3));

@@ -135,6 +135,86 @@ TEST_F(TTesteDesligamento, EscolheOsCalculosDoDesligamento)
     EXPECT_EQ("05_000_01_03_2021 05_002_20_03_2021 02_000_0_03_2021", S2299());
 }
 
+TEST_F(TTesteDesligamento, CadaCondicaoDaListaDeDemonstrativosConta)
+{
+    Inserir("EMPREGADOS", {{"IDEMPREGADO", 2}, {"IDEMPRESA", 1}, {"COD_EMPRESA", 7}, {"COD_EMPREGADO", 102}});
+    Verba(61, "8J");
+    Verba(62, "900A");
+    Verba(63, "1B", {{"TIPO", "5"}});
+    const auto Fevereiro = [](int ADia) { return D(2021, 2, ADia); };
+
+    Calculo(1, 100, {.SubTipo = 104});
+    Calculo(1, 1, {.Tipo = "05"});
+    Calculo(1, 1, {.Tipo = "05", .Inicio = Fevereiro(1)});
+    Calculo(1, 0, {.Tipo = "05", .Inicio = Fevereiro(2)});
+    Calculo(1, 1, {.Tipo = "05", .Inicio = Fevereiro(3), .IdEmpregado = 2});
+
+    RescCompl(D(2021, 3, 31));
+    Calculo(1, 1, {.Tipo = "05", .SubTipo = 2, .Inicio = D(2021, 3, 2)});
+    Calculo(63, 1, {.Tipo = "05", .SubTipo = 2, .Inicio = Fevereiro(4)});
+    Calculo(61, 1, {.Tipo = "05", .SubTipo = 2, .Inicio = Fevereiro(5)});
+    Calculo(62, 1, {.Tipo = "05", .SubTipo = 2, .Inicio = Fevereiro(6)});
+    Calculo(1, 1, {.Tipo = "02", .SubTipo = 2, .Inicio = Fevereiro(7)});
+    // The complementary dismissals of another worker, of another company and of no day.
+    for (const auto& [LEmpresa, LEmpregado, LPagto] :
+         {std::tuple{7, 102, D(2021, 4, 10)}, {8, 101, D(2021, 4, 11)}, {8, 102, D(2021, 4, 12)}}) {
+        Inserir("RESC_COMPL", {{"COD_EMPRESA", LEmpresa}, {"COD_EMPREGADO", LEmpregado}, {"DATA_PGTO", LPagto}});
+        for (const int LId : {1, 2})
+            Calculo(1, 1, {.Tipo = "05", .SubTipo = 2, .Inicio = Fevereiro(8), .Pagto = LPagto, .IdEmpregado = LId});
+    }
+
+    Calculo(1, 1, {.Tipo = "06"});
+    Calculo(1, 1, {.Tipo = "02"});
+    Calculo(1, 1, {.Tipo = "04"});
+    Calculo(1, 0, {.Tipo = "02", .Inicio = Fevereiro(9)});
+    Calculo(1, 1, {.Tipo = "02", .Inicio = D(2021, 1, 9), .IdEmpregado = 2});
+    for (const int LSubTipo : {0, 3}) // paid later, so that its items can be read
+        Calculo(1, 1,
+                {.Tipo = "02",
+                 .SubTipo = LSubTipo,
+                 .Inicio = D(2020, 12, 1),
+                 .Pagto = LSubTipo == 0 ? D(2021, 5, 1) : D(2021, 3, 31)});
+    Calculo(1, 1, {.Tipo = "02", .Inicio = D(2021, 1, 9), .Pagto = D(2021, 5, 1)});
+
+    // Differences of January by agreement 5, paid in April.
+    const auto LInicio = D(2021, 1, 1), LFim = D(2021, 1, 31), LPagto = D(2021, 4, 5);
+    Acordo(5, D(2021, 3, 1));
+    Complementar(9, 1, LInicio, LFim, LPagto, 5);
+    Inserir("FP_CALCCOMPLEMPREG", {{"IDCALCCOMPL", 9}, {"IDEMPREGADO", 2}});
+    const auto Diferenca = [&](const TLinha& ALinha, double AValor = 1) { Calculo(1, AValor, ALinha); };
+    Diferenca({.SubTipo = 4, .Inicio = LInicio, .Fim = LFim, .Pagto = LPagto});
+    Diferenca({.Tipo = "11", .SubTipo = 3, .Inicio = LInicio, .Fim = LFim, .Pagto = LPagto});
+    Diferenca({.Tipo = "12", .SubTipo = 4, .Inicio = LInicio, .Fim = LFim, .Pagto = LPagto}, 0);
+    Diferenca({.Tipo = "13", .SubTipo = 4, .Inicio = D(2020, 12, 31), .Fim = LFim, .Pagto = LPagto});
+    Diferenca({.Tipo = "14", .SubTipo = 4, .Inicio = LInicio, .Fim = Fevereiro(1), .Pagto = LPagto});
+    Diferenca({.Tipo = "15", .SubTipo = 4, .Inicio = LInicio, .Fim = LFim, .Pagto = D(2021, 4, 6)});
+    Diferenca({.Tipo = "16", .SubTipo = 4, .Inicio = LInicio, .Fim = LFim, .Pagto = LPagto, .IdEmpregado = 2});
+    Complementar(10, 2, LInicio, LFim, D(2021, 4, 7), 5);
+    Diferenca({.Tipo = "17", .SubTipo = 4, .Inicio = LInicio, .Fim = LFim, .Pagto = D(2021, 4, 7)});
+    Complementar(11, 1, LInicio, LFim, D(2021, 4, 8), 5);
+    Executar("UPDATE FP_CALCCOMPLEMPREG SET IDEMPREGADO = 2 WHERE IDCALCCOMPL = 11");
+    Diferenca({.Tipo = "18", .SubTipo = 4, .Inicio = LInicio, .Fim = LFim, .Pagto = D(2021, 4, 8)});
+    // Paid in the month by an agreement of another.
+    Acordo(6, D(2021, 2, 28));
+    Complementar(12, 1, LInicio, LFim, D(2021, 3, 31), 6);
+    Diferenca({.Tipo = "19", .SubTipo = 4, .Inicio = LInicio, .Fim = LFim});
+
+    Calculo(1, 1, {.SubTipo = 3, .Convocacao = 12});
+    Calculo(1, 1, {.Convocacao = 13});
+    Calculo(1, 1, {.Convocacao = 11});
+    Calculo(1, 1, {.Inicio = Fevereiro(28), .Fim = D(2021, 3, 2), .Convocacao = 14});
+    Calculo(1, 1, {.Inicio = D(2021, 3, 30), .Fim = D(2021, 4, 1), .Convocacao = 15});
+    Calculo(1, 1, {.IdEmpregado = 2, .Convocacao = 16});
+
+    EXPECT_EQ("05_000_01_02_2021 05_000_01_03_2021 05_002_04_02_2021 05_002_05_02_2021 05_002_02_03_2021 "
+              "02_000_0_03_2021 06_000_0_03_2021 01_004_1_01_2021 "
+              "01_000_0_0000000011_03_2021 01_000_0_0000000013_03_2021 01_003_0_0000000012_03_2021",
+              S2299());
+    EXPECT_EQ("05_000_01_02_2021 05_000_02_02_2021 05_000_01_03_2021 05_002_02_03_2021 "
+              "02_000_0_03_2021 06_000_0_03_2021",
+              S2399());
+}
+
 TEST_F(TTesteDesligamento, AcordoVaiParaOPeriodoAnteriorComUmIdeADC)
 {
     Acordo(5, D(2021, 3, 31));
