@@ -264,19 +264,40 @@ TEST_F(TTesteLeitorDoDesligamento, FeriasPagasAntesTrazemAsComplementares)
     Verba(2, "7D");
     Verba(3, "7B");
     Calculo(1, 100, {.SubTipo = 104, .Base = 10});
-    Inserir("CALCCOMPL", {{"IDCALCCOMPL", 1}, {"COD_EMPRESA", 7}, {"TIPO", "04"}});
-    Inserir("CALCCOMPLPER", {{"IDCALCCOMPLPER", 1},
-                             {"IDCALCCOMPL", 1},
-                             {"TIPO", "01"},
-                             {"DATA_INICIO", D(2021, 3, 1)},
-                             {"DATA_FIM", D(2021, 3, 31)}});
-    for (const int LVerba : {1, 3})
-        Inserir("CALCCOMPLDET",
-                {{"IDCALCCOMPLPER", 1}, {"COD_EMPREGADO", 101}, {"COD_VERBA", LVerba}, {"BASE", 5}, {"VALOR", 2.25}});
+    // The first counts; each of the others differs in one point.
+    const struct {
+        int Empresa = 7;
+        const char* Tipo = "04";
+        const char* TipoDoPeriodo = "01";
+        TDateTime Inicio = D(2021, 3, 1);
+        TDateTime Fim = D(2021, 3, 31);
+        int Empregado = 101;
+        double Valor = 90;
+    } LComplementares[] = {
+        {.Valor = 2.25},           {.Empresa = 8},          {.Tipo = "03"},    {.TipoDoPeriodo = "02"},
+        {.Inicio = D(2021, 3, 2)}, {.Fim = D(2021, 3, 30)}, {.Empregado = 102}};
+    Inserir("EMPREGADOS", {{"IDEMPREGADO", 2}, {"COD_EMPRESA", 7}, {"COD_EMPREGADO", 102}});
+    Verba(4, "99C");
+    int LId = 0;
+    for (const auto& A : LComplementares) {
+        Inserir("CALCCOMPL", {{"IDCALCCOMPL", ++LId}, {"COD_EMPRESA", A.Empresa}, {"TIPO", A.Tipo}});
+        Inserir("CALCCOMPLPER", {{"IDCALCCOMPLPER", LId},
+                                 {"IDCALCCOMPL", LId},
+                                 {"TIPO", A.TipoDoPeriodo},
+                                 {"DATA_INICIO", A.Inicio},
+                                 {"DATA_FIM", A.Fim}});
+        for (const int LVerba : {1, 3, 4})
+            Inserir("CALCCOMPLDET", {{"IDCALCCOMPLPER", LId},
+                                     {"COD_EMPREGADO", A.Empregado},
+                                     {"COD_VERBA", LVerba},
+                                     {"BASE", 5},
+                                     {"VALOR", A.Valor}});
+    }
     EXPECT_EQ("1@1/0=100", S2299(Rescisao));
     Calculo(2, 50, {.SubTipo = 104});
-    EXPECT_EQ("1@1/0=102,25 2@1/0=50", S2299(Rescisao));
-    EXPECT_EQ("1@1/0=100 2@1/0=50", S2399(Rescisao));
+    Calculo(4, 1, {.SubTipo = 104});
+    EXPECT_EQ("1@1/0=102,25 2@1/0=50 4@1/0=1", S2299(Rescisao));
+    EXPECT_EQ("1@1/0=100 2@1/0=50 4@1/0=1", S2399(Rescisao));
 }
 
 } // namespace

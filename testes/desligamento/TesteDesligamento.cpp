@@ -304,9 +304,13 @@ TEST_F(TTesteDesligamento, QuantidadeEFatorPelaVerba)
         const char* Horas;
         const char* Quantidade;
         const char* Fator;
-    } LCasos[] = {{"1B", "Nao", "0", "0"},     {"1D", "Sim", "10,3", "0"}, {"4TA", "Nao", "10,3", "0"},
-                  {"99C", "Nao", "0", "10,3"}, {"1Z", "Nao", "0", "1,5"},  {"3G", "Sim", "10,3", "1,5"},
-                  {"3C", "Nao", "0", "1,5"},   {"1CA", "Nao", "0", "1,5"}, {"3GA", "Nao", "0", "0"}};
+    } LCasos[] = {{"1B", "Nao", "0", "0"},      {"1D", "Sim", "10,3", "0"},  {"4TA", "Nao", "10,3", "0"},
+                  {"9X", "Nao", "0", "10,3"},   {"99C", "Nao", "0", "10,3"}, {"1Z", "Nao", "0", "1,5"},
+                  {"3G", "Sim", "10,3", "1,5"}, {"3C", "Nao", "0", "1,5"},   {"1CA", "Nao", "0", "1,5"},
+                  {"3GA", "Nao", "0", "0"}};
+    for (const auto& [LEspecie, LTp] : {std::pair{39, 13}, {38, 14}})
+        Inserir("SC00_EMPRESACFG",
+                {{"IDEMPRESA", 1}, {"ORIGEM", 90}, {"ESPECIE", LEspecie}, {"TP", LTp}, {"INFORMACAO1", "x"}});
     Calculo(1, 100, {.Tipo = "05"});
     int LCodigo = 10;
     for (const auto& LCaso : LCasos) {
@@ -324,6 +328,7 @@ TEST_F(TTesteDesligamento, QuantidadeEFatorPelaVerba)
         EXPECT_EQ(R(LCasos[I].Fator), LVerbas[I]->fatorRubr) << LCasos[I].Formula;
         EXPECT_EQ(LVerbas[I]->qtdRubr, LVerbasSemVinculo[I]->qtdRubr);
         EXPECT_EQ(LVerbas[I]->fatorRubr, LVerbasSemVinculo[I]->fatorRubr);
+        EXPECT_EQ("0", LVerbas[I]->ideTabRubr);
     }
 }
 
@@ -356,6 +361,13 @@ TEST_F(TTesteDesligamento, TransferenciaDaOMotivoEDispensaAsVerbas)
     EXPECT_EQ(D(2021, 3, 15), LEvento->infoDeslig.dtDeslig);
     EXPECT_EQ("11", LEvento->infoDeslig.mtvDeslig);
     EXPECT_EQ("11222333000181", LEvento->infoDeslig.sucessaoVincS2299.cnpjSucessora);
+    // Of the company of destination alone, and from the worker's own.
+    Inserir("SC00_EMPRESA", {{"IDEMPRESA", 2}, {"EMPRESA", 9}, {"CNPJ", "99222333000181"}});
+    Executar("UPDATE TRANSF_EMPREG SET COD_EMPRESADESTINO = 9");
+    EXPECT_EQ("99222333000181", Carregar()->infoDeslig.sucessaoVincS2299.cnpjSucessora);
+    Executar("UPDATE TRANSF_EMPREG SET COD_EMPRESAORIGEM = 9");
+    EXPECT_EQ("", Carregar()->infoDeslig.mtvDeslig);
+    Executar("UPDATE TRANSF_EMPREG SET COD_EMPRESAORIGEM = 7");
     EXPECT_EQ("", LEvento->infoDeslig.transfTit.motivoAfast);
     EXPECT_TRUE(LEvento->infoDeslig.verbasResc.dmDev.empty());
 
@@ -366,6 +378,62 @@ TEST_F(TTesteDesligamento, TransferenciaDaOMotivoEDispensaAsVerbas)
     EXPECT_EQ("12345678909", LEvento->infoDeslig.transfTit.cpfSubstituto);
     Executar("UPDATE TRANSF_EMPREG SET MOTIVO = 2");
     EXPECT_EQ("", Carregar()->infoDeslig.mtvDeslig);
+}
+
+TEST_F(TTesteDesligamento, LinhaDeOutraChaveNaoConta)
+{
+    for (const auto& [LId, LEspecie, LTp] : {std::tuple{1, 5, 1}, {1, 4, 2}, {2, 4, 1}})
+        Inserir("FP_EMPREGADOSDET", {{"IDEMPREGADO", LId},
+                                     {"ESPECIE", LEspecie},
+                                     {"TP", LTp},
+                                     {"INFORMACAO1", "x"},
+                                     {"INFORMACAO5", "x"},
+                                     {"INFORMACAO10", "x"}});
+    for (const auto& [LId, LOrigem, LEspecie, LTp] :
+         {std::tuple{1, 91, 14, 3}, {1, 90, 15, 3}, {1, 90, 14, 4}, {2, 90, 14, 3}})
+        Inserir("SC00_EMPREGADOCFG", {{"IDEMPREGADO", LId},
+                                      {"ORIGEM", LOrigem},
+                                      {"ESPECIE", LEspecie},
+                                      {"TP", LTp},
+                                      {"DATAINICIO", D(2021, 1, 1)},
+                                      {"INFORMACAO1", "10"}});
+    for (const auto& [LEmpresa, LEmpregado] : {std::pair{8, 101}, {7, 102}})
+        Inserir("TAB_RESCISAO", {{"COD_EMPRESA", LEmpresa}, {"COD_EMPREGADO", LEmpregado}, {"DIAS_INDEN", 30}});
+    const auto LEvento = Carregar();
+    const auto& LInfo = LEvento->infoDeslig;
+    EXPECT_EQ("", LInfo.nrCertObito + LInfo.observacao + LInfo.ConsigFGTS.insConsig);
+    EXPECT_EQ("0", LInfo.pensAlim + LInfo.percAliment);
+    EXPECT_EQ("", LInfo.indPagtoAPI);
+    EXPECT_EQ("", Carregar<TTarvoESocialCamposS2399>()->infoTSVTermino.CategoriaEmpregado);
+    Inserir("TAB_RESCISAO", {{"COD_EMPRESA", 7}, {"COD_EMPREGADO", 101}, {"DIAS_INDEN", 15}});
+    EXPECT_EQ("15", Carregar()->infoDeslig.indPagtoAPI);
+    const auto LTermino = Carregar<TTarvoESocialCamposS2399>();
+    EXPECT_EQ("101", LTermino->infoTSVTermino.CategoriaEmpregado);
+    EXPECT_EQ(0, LTermino->infoTSVTermino.percAliment);
+    // The reason and the category of S-2399 come in one row: without a category of table 1 there is neither.
+    Executar("UPDATE TAB_RESCISAO SET MTVDESLIGTSV = '03'");
+    Executar("UPDATE FP_ESOCIALTABELA SET TABELA = 2 WHERE IDESOCIALTABELA = 101");
+    EXPECT_EQ("", Carregar<TTarvoESocialCamposS2399>()->infoTSVTermino.mtvDesligTSV);
+}
+
+TEST_F(TTesteDesligamento, ProcessoDoEstabelecimentoNoDiaDoDesligamento)
+{
+    for (const auto& [LFilial, LInicio] : {std::pair{1, D(2018, 1, 2)}, {2, D(2021, 3, 21)}})
+        Inserir("MOV_TRANSF",
+                {{"IDEMPREGADO", 1}, {"COD_EMPRESA", 7}, {"IDFILIAL", LFilial}, {"DATAINICIOMOV", LInicio}});
+    const auto Processo = [](int AFilial, int AMateria, TValorSql AEmpregado, const char* ANumero) {
+        Inserir("ES02_SPPROC",
+                {{"IDFILIAL", AFilial}, {"IDEMPREGADO", AEmpregado}, {"INDMATERIA", AMateria}, {"NUMERO", ANumero}});
+    };
+    Processo(1, 1, 1, "do trabalhador");
+    Processo(1, 2, nullptr, "de outra matéria");
+    Processo(2, 1, nullptr, "de outro estabelecimento");
+    EXPECT_EQ("", Carregar()->infoDeslig.verbasResc.procCs.nrProcJud);
+    for (const int LMateria : {1, 7}) {
+        Executar("DELETE FROM ES02_SPPROC WHERE NUMERO = 'do estabelecimento'");
+        Processo(1, LMateria, nullptr, "do estabelecimento");
+        EXPECT_EQ("do estabelecimento", Carregar()->infoDeslig.verbasResc.procCs.nrProcJud);
+    }
 }
 
 TEST_F(TTesteDesligamento, PensaoPelaConfiguracaoDoDesligamento)
@@ -409,9 +477,17 @@ TEST_F(TTesteDesligamento, PlanoDeSaudeDaRescisaoENaoDaComplementar)
     Inserir("PSAUDE_VERBAS", {{"IDPSAUDE_OPER", 1}, {"IDVERBA", 1038}});
     Inserir("PSAUDE_VERBAS", {{"IDPSAUDE_OPER", 2}, {"IDVERBA", 1039}});
     Inserir("DEPENDENTES", {{"IDDEPENDENTE", 1}, {"NOME", "Dependente"}});
-    Inserir(
-        "FP_PSAUDEVLRMESDEP",
-        {{"IDPSAUDEOPER", 1}, {"IDEMPREGADO", 1}, {"IDDEPENDENTE", 1}, {"DATAINICIO", D(2021, 1, 1)}, {"VALOR", 130}});
+    // In force on a day of the calculation, from the first to the last.
+    for (const auto& [LInicio, LFim, LValor] : {std::tuple{D(2021, 3, 20), TValorSql(nullptr), 70},
+                                                {D(2021, 1, 1), TValorSql(D(2021, 3, 1)), 60},
+                                                {D(2021, 3, 21), TValorSql(nullptr), 9},
+                                                {D(2021, 1, 1), TValorSql(D(2021, 2, 28)), 9}})
+        Inserir("FP_PSAUDEVLRMESDEP", {{"IDPSAUDEOPER", 1},
+                                       {"IDEMPREGADO", 1},
+                                       {"IDDEPENDENTE", 1},
+                                       {"DATAINICIO", LInicio},
+                                       {"DATAFIM", LFim},
+                                       {"VALOR", LValor}});
     Calculo(38, 20, {.SubTipo = 104});
     Calculo(39, 7, {.SubTipo = 104});
     Calculo(38, 20, {.Tipo = "05", .SubTipo = 2, .Inicio = D(2021, 3, 20)});
@@ -423,7 +499,7 @@ TEST_F(TTesteDesligamento, PlanoDeSaudeDaRescisaoENaoDaComplementar)
     ASSERT_EQ(1u, LSaude.detOper.size());
     // Below zero after the dependant, then the second rubric's whole amount.
     EXPECT_EQ(R("-10"), LSaude.detOper[0]->vrPgTit);
-    EXPECT_EQ(R("130"), LSaude.detOper[0]->detPlano[0]->vlrPgDep);
+    EXPECT_EQ(2u, LSaude.detOper[0]->detPlano.size());
     EXPECT_TRUE(LEvento->infoDeslig.verbasResc.dmDev[1]->infoPerApur.ideEstabLot[0]->infoSaudeColet.detOper.empty());
 
     // Every kind of operator counts in S-2399.
@@ -497,9 +573,24 @@ TEST_F(TTesteDesligamento, ValorDaPensaoPelaVerbaDaConfiguracao)
         return LInfo.vrAlim;
     };
     Calculo(31, 99, {.Tipo = "05", .SubTipo = 2});
+    Calculo(31, 99, {.Tipo = "02"});
+    Calculo(31, 99, {.Tipo = "05", .IdEmpregado = 2});
+    Calculo(32, 99, {.Tipo = "05"});
     EXPECT_EQ("", Valor());
     Calculo(31, 301.5, {.Tipo = "05"});
     EXPECT_EQ("301,5", Valor());
+}
+
+TEST_F(TTesteDesligamento, ExposicaoNoFimDoCalculo)
+{
+    Rescisao();
+    for (const auto& [LData, LOcorrencia] :
+         {std::pair{D(2021, 3, 21), "depois"}, {D(2018, 1, 2), "antes"}, {D(2021, 3, 20), "no dia"}})
+        Inserir("CARGOS", {{"IDEMPREGADO", 1}, {"DATA", LData}, {"OCORRENCIA", LOcorrencia}});
+    EXPECT_EQ("no dia", Carregar()->infoDeslig.verbasResc.dmDev[0]->infoPerApur.ideEstabLot[0]->infoAgNocivo.grauExp);
+    EXPECT_EQ(
+        "no dia",
+        Carregar<TTarvoESocialCamposS2399>()->infoTSVTermino.verbasResc.dmDev[0]->ideEstabLot[0]->infoAgNocivo.grauExp);
 }
 
 TEST_F(TTesteDesligamento, OutrosEmpregadoresDoMesSemOProprio)
@@ -520,6 +611,16 @@ TEST_F(TTesteDesligamento, OutrosEmpregadoresDoMesSemOProprio)
     Rendimento("99", 1, D(2021, 4, 1), 77);
     Rendimento("11222333000181", 1, D(2021, 1, 1), 77);
     Rendimento("11222333000182", 1, D(2021, 1, 1), 77);
+    Rendimento("11222333000199", 1, D(2021, 1, 1), 77);
+    Executar("UPDATE SC00_EMPRESA SET CNPJ = '11222333000199'");
+    // Of another company's worker, of another tax, and ended before the month.
+    Rendimento("81", 1, D(2021, 1, 1), 77);
+    Rendimento("82", 1, D(2021, 1, 1), 77);
+    Rendimento("83", 1, D(2021, 1, 1), 77);
+    Executar("UPDATE RENDIMENTOS SET COD_EMPRESA = 8 WHERE INSCRICAO = '81'");
+    Executar("UPDATE RENDIMENTOS SET TIPOREND = 'IRRF' WHERE INSCRICAO = '82'");
+    Executar("UPDATE RENDIMENTOS SET DATA_FIM = '28.02.2021' WHERE INSCRICAO = '83'");
+    Executar("UPDATE RENDIMENTOS SET DATA_FIM = '01.03.2021' WHERE INSCRICAO = '99' AND ORDEMCALCULO = 2");
     Executar("UPDATE EMPREGADOS SET ORDEMDESCINSS = 1, INDICADORDESCINSS = 1");
     auto LEvento = Carregar();
     const auto& LMV = LEvento->infoDeslig.verbasResc.infoMV;
@@ -527,6 +628,8 @@ TEST_F(TTesteDesligamento, OutrosEmpregadoresDoMesSemOProprio)
     ASSERT_EQ(1u, LMV.remunOutrEmpr.size());
     EXPECT_EQ("15,25", LMV.remunOutrEmpr[0]->vlrRemunOE);
     EXPECT_EQ("101", LMV.remunOutrEmpr[0]->codCateg);
+    Executar("UPDATE RENDIMENTOS SET IDESOCIALTABELA = NULL");
+    EXPECT_EQ("", Carregar()->infoDeslig.verbasResc.infoMV.remunOutrEmpr.at(0)->codCateg);
     // Withheld in a fixed order: those after this employer's turn don't count.
     Executar("UPDATE EMPREGADOS SET INDICADORDESCINSS = 2");
     EXPECT_EQ("10,25",
