@@ -172,7 +172,7 @@ TEST_F(TTesteLeitorDoDesligamento, QuebraMostraSoAsLinhasQuebradasNoS2299ETodasN
 TEST_F(TTesteLeitorDoDesligamento, LinhaQuebradaValePorInteiro)
 {
     Verba(1, "1A");
-    const auto LIdCalculo = Calculo(1, 70, {.Depto = 10, .Convocacao = 5, .Base = 50, .Referencia = 30});
+    const auto LIdCalculo = Calculo(1, 70, {.Filial = 2, .Depto = 20, .Convocacao = 5, .Base = 50, .Referencia = 30});
     Quebra(LIdCalculo, 2, 20, 7, 9);
     const auto Ler = [](auto ADados, auto ACriar, TTipoCalculoDesligamento ATipo, const char* ATipoFolha) {
         Alimentar(ADados, ATipo, ATipoFolha, 3);

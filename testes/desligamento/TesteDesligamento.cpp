@@ -308,9 +308,9 @@ TEST_F(TTesteDesligamento, QuantidadeEFatorPelaVerba)
                   {"9X", "Nao", "0", "10,3"},   {"99C", "Nao", "0", "10,3"}, {"1Z", "Nao", "0", "1,5"},
                   {"3G", "Sim", "10,3", "1,5"}, {"3C", "Nao", "0", "1,5"},   {"1CA", "Nao", "0", "1,5"},
                   {"3GA", "Nao", "0", "0"}};
-    for (const auto& [LEspecie, LTp] : {std::pair{39, 13}, {38, 14}})
+    for (const auto& [LOrigem, LEspecie, LTp] : {std::tuple{91, 38, 13}, {90, 39, 13}, {90, 38, 14}})
         Inserir("SC00_EMPRESACFG",
-                {{"IDEMPRESA", 1}, {"ORIGEM", 90}, {"ESPECIE", LEspecie}, {"TP", LTp}, {"INFORMACAO1", "x"}});
+                {{"IDEMPRESA", 1}, {"ORIGEM", LOrigem}, {"ESPECIE", LEspecie}, {"TP", LTp}, {"INFORMACAO1", "x"}});
     Calculo(1, 100, {.Tipo = "05"});
     int LCodigo = 10;
     for (const auto& LCaso : LCasos) {
