@@ -123,6 +123,7 @@ TEST_F(TTesteDesligamento, EscolheOsCalculosDoDesligamento)
     // An advance goes by its day of payment, and a complementary dismissal without an agreement by none.
     Calculo(1, 5, {.Tipo = "02", .Pagto = D(2021, 3, 1)});
     Calculo(1, 5, {.Tipo = "06", .Pagto = D(2021, 4, 1)});
+    Calculo(1, 0, {.Tipo = "06", .Pagto = D(2021, 3, 31)});
     Calculo(1, 5, {.Tipo = "05", .SubTipo = 2, .Inicio = D(2021, 3, 20), .Pagto = D(2021, 6, 10)});
     EXPECT_EQ("05_000_01_03_2021 02_000_0_03_2021", S2299());
     RescCompl(D(2021, 6, 10));
@@ -380,62 +381,6 @@ TEST_F(TTesteDesligamento, TransferenciaDaOMotivoEDispensaAsVerbas)
     EXPECT_EQ("", Carregar()->infoDeslig.mtvDeslig);
 }
 
-TEST_F(TTesteDesligamento, LinhaDeOutraChaveNaoConta)
-{
-    for (const auto& [LId, LEspecie, LTp] : {std::tuple{1, 5, 1}, {1, 4, 2}, {2, 4, 1}})
-        Inserir("FP_EMPREGADOSDET", {{"IDEMPREGADO", LId},
-                                     {"ESPECIE", LEspecie},
-                                     {"TP", LTp},
-                                     {"INFORMACAO1", "x"},
-                                     {"INFORMACAO5", "x"},
-                                     {"INFORMACAO10", "x"}});
-    for (const auto& [LId, LOrigem, LEspecie, LTp] :
-         {std::tuple{1, 91, 14, 3}, {1, 90, 15, 3}, {1, 90, 14, 4}, {2, 90, 14, 3}})
-        Inserir("SC00_EMPREGADOCFG", {{"IDEMPREGADO", LId},
-                                      {"ORIGEM", LOrigem},
-                                      {"ESPECIE", LEspecie},
-                                      {"TP", LTp},
-                                      {"DATAINICIO", D(2021, 1, 1)},
-                                      {"INFORMACAO1", "10"}});
-    for (const auto& [LEmpresa, LEmpregado] : {std::pair{8, 101}, {7, 102}})
-        Inserir("TAB_RESCISAO", {{"COD_EMPRESA", LEmpresa}, {"COD_EMPREGADO", LEmpregado}, {"DIAS_INDEN", 30}});
-    const auto LEvento = Carregar();
-    const auto& LInfo = LEvento->infoDeslig;
-    EXPECT_EQ("", LInfo.nrCertObito + LInfo.observacao + LInfo.ConsigFGTS.insConsig);
-    EXPECT_EQ("0", LInfo.pensAlim + LInfo.percAliment);
-    EXPECT_EQ("", LInfo.indPagtoAPI);
-    EXPECT_EQ("", Carregar<TTarvoESocialCamposS2399>()->infoTSVTermino.CategoriaEmpregado);
-    Inserir("TAB_RESCISAO", {{"COD_EMPRESA", 7}, {"COD_EMPREGADO", 101}, {"DIAS_INDEN", 15}});
-    EXPECT_EQ("15", Carregar()->infoDeslig.indPagtoAPI);
-    const auto LTermino = Carregar<TTarvoESocialCamposS2399>();
-    EXPECT_EQ("101", LTermino->infoTSVTermino.CategoriaEmpregado);
-    EXPECT_EQ(0, LTermino->infoTSVTermino.percAliment);
-    // The reason and the category of S-2399 come in one row: without a category of table 1 there is neither.
-    Executar("UPDATE TAB_RESCISAO SET MTVDESLIGTSV = '03'");
-    Executar("UPDATE FP_ESOCIALTABELA SET TABELA = 2 WHERE IDESOCIALTABELA = 101");
-    EXPECT_EQ("", Carregar<TTarvoESocialCamposS2399>()->infoTSVTermino.mtvDesligTSV);
-}
-
-TEST_F(TTesteDesligamento, ProcessoDoEstabelecimentoNoDiaDoDesligamento)
-{
-    for (const auto& [LFilial, LInicio] : {std::pair{1, D(2018, 1, 2)}, {2, D(2021, 3, 21)}})
-        Inserir("MOV_TRANSF",
-                {{"IDEMPREGADO", 1}, {"COD_EMPRESA", 7}, {"IDFILIAL", LFilial}, {"DATAINICIOMOV", LInicio}});
-    const auto Processo = [](int AFilial, int AMateria, TValorSql AEmpregado, const char* ANumero) {
-        Inserir("ES02_SPPROC",
-                {{"IDFILIAL", AFilial}, {"IDEMPREGADO", AEmpregado}, {"INDMATERIA", AMateria}, {"NUMERO", ANumero}});
-    };
-    Processo(1, 1, 1, "do trabalhador");
-    Processo(1, 2, nullptr, "de outra matéria");
-    Processo(2, 1, nullptr, "de outro estabelecimento");
-    EXPECT_EQ("", Carregar()->infoDeslig.verbasResc.procCs.nrProcJud);
-    for (const int LMateria : {1, 7}) {
-        Executar("DELETE FROM ES02_SPPROC WHERE NUMERO = 'do estabelecimento'");
-        Processo(1, LMateria, nullptr, "do estabelecimento");
-        EXPECT_EQ("do estabelecimento", Carregar()->infoDeslig.verbasResc.procCs.nrProcJud);
-    }
-}
-
 TEST_F(TTesteDesligamento, PensaoPelaConfiguracaoDoDesligamento)
 {
     const auto Configurar = [](TDateTime AInicio, TValorSql AFim) {
@@ -464,6 +409,60 @@ TEST_F(TTesteDesligamento, PensaoPelaConfiguracaoDoDesligamento)
     EXPECT_EQ("03", LTermino->infoTSVTermino.mtvDesligTSV);
     Configurar(D(2021, 3, 1), D(2021, 12, 31));
     EXPECT_EQ(0, Carregar<TTarvoESocialCamposS2399>()->infoTSVTermino.percAliment);
+    Configurar(D(2021, 1, 1), D(2021, 2, 28));
+    EXPECT_EQ("", Carregar()->infoDeslig.percAliment);
+    // Settings of another contract, origin, kind or type.
+    for (const char* LOutro : {"IDEMPREGADO = 2", "ORIGEM = 91", "ESPECIE = 13", "TP = 2"}) {
+        Configurar(D(2021, 3, 1), nullptr);
+        EXPECT_EQ(12.5, Carregar<TTarvoESocialCamposS2399>()->infoTSVTermino.percAliment);
+        Executar(std::string("UPDATE SC00_EMPREGADOCFG SET ") + LOutro);
+        EXPECT_EQ("0", Carregar()->infoDeslig.pensAlim) << LOutro;
+        EXPECT_EQ("", Carregar()->infoDeslig.percAliment) << LOutro;
+        EXPECT_EQ(0, Carregar<TTarvoESocialCamposS2399>()->infoTSVTermino.percAliment) << LOutro;
+    }
+    Executar("UPDATE FP_ESOCIALTABELA SET TABELA = 2");
+    EXPECT_EQ("", Carregar<TTarvoESocialCamposS2399>()->infoTSVTermino.mtvDesligTSV) << "without a category nothing";
+}
+
+TEST_F(TTesteDesligamento, DadosDaRescisaoSoDoContratoEDaSuaEspecie)
+{
+    Inserir("ES02_SPPROC", {{"IDSPPROC", 7}, {"NUMERO", "0001.234"}});
+    Inserir("TAB_RESCISAO", {{"COD_EMPRESA", 8}, {"COD_EMPREGADO", 101}, {"DIAS_INDEN", 90}});
+    Inserir("TAB_RESCISAO", {{"COD_EMPRESA", 7}, {"COD_EMPREGADO", 102}, {"DIAS_INDEN", 60}});
+    const auto Detalhar = [](int AIdEmpregado, int AEspecie, int ATipo, const char* APrefixo) {
+        const auto Texto = [&](const char* AValor) { return std::string(APrefixo) + AValor; };
+        Inserir("FP_EMPREGADOSDET", {{"IDEMPREGADO", AIdEmpregado},
+                                     {"ESPECIE", AEspecie},
+                                     {"TP", ATipo},
+                                     {"INFORMACAO1", Texto("1")},
+                                     {"INFORMACAO2", "7"},
+                                     {"INFORMACAO3", Texto("3")},
+                                     {"INFORMACAO5", Texto("5")},
+                                     {"INFORMACAO6", Texto("6")},
+                                     {"INFORMACAO10", Texto("10")}});
+    };
+    const auto Dados = [this] {
+        const auto LEvento = Carregar();
+        const auto& LInfo = LEvento->infoDeslig;
+        return LInfo.nrCertObito + "/" + LInfo.nrProcTrab + "/" + LInfo.indCumprParc + "/" + LInfo.observacao + " " +
+               LInfo.ConsigFGTS.insConsig + "/" + LInfo.ConsigFGTS.nrContr + " " + LInfo.mtvDeslig;
+    };
+    Detalhar(2, 4, 1, "o");
+    Detalhar(1, 3, 1, "e");
+    Detalhar(1, 4, 2, "t");
+    EXPECT_EQ("/// / 2", Dados());
+    EXPECT_EQ("", Carregar()->infoDeslig.dtProjFimAPI);
+    // S-2399 has neither reason nor category without its own.
+    const auto Categoria = [] { return Carregar<TTarvoESocialCamposS2399>()->infoTSVTermino.CategoriaEmpregado; };
+    EXPECT_EQ("", Categoria());
+    Detalhar(1, 4, 1, "");
+    EXPECT_EQ("1/0001.234/3/10 5/6 2", Dados());
+    Inserir("TAB_RESCISAO", {{"COD_EMPRESA", 7}, {"COD_EMPREGADO", 101}, {"DIAS_INDEN", 30}});
+    EXPECT_EQ("19/04/2021", Carregar()->infoDeslig.dtProjFimAPI);
+    EXPECT_EQ("101", Categoria());
+    // A contract without a category has all the same its dismissal.
+    Executar("UPDATE EMPREGADOS SET IDCATEGORIAESOCIAL = NULL");
+    EXPECT_EQ("1/0001.234/3/10 5/6 2", Dados());
 }
 
 TEST_F(TTesteDesligamento, PlanoDeSaudeDaRescisaoENaoDaComplementar)
@@ -573,9 +572,9 @@ TEST_F(TTesteDesligamento, ValorDaPensaoPelaVerbaDaConfiguracao)
         return LInfo.vrAlim;
     };
     Calculo(31, 99, {.Tipo = "05", .SubTipo = 2});
-    Calculo(31, 99, {.Tipo = "02"});
+    Calculo(31, 99, {.Tipo = "01"});
     Calculo(31, 99, {.Tipo = "05", .IdEmpregado = 2});
-    Calculo(32, 99, {.Tipo = "05"});
+    Calculo(30, 99, {.Tipo = "05"});
     EXPECT_EQ("", Valor());
     Calculo(31, 301.5, {.Tipo = "05"});
     EXPECT_EQ("301,5", Valor());
@@ -613,14 +612,12 @@ TEST_F(TTesteDesligamento, OutrosEmpregadoresDoMesSemOProprio)
     Rendimento("11222333000182", 1, D(2021, 1, 1), 77);
     Rendimento("11222333000199", 1, D(2021, 1, 1), 77);
     Executar("UPDATE SC00_EMPRESA SET CNPJ = '11222333000199'");
-    // Of another company's worker, of another tax, and ended before the month.
-    Rendimento("81", 1, D(2021, 1, 1), 77);
-    Rendimento("82", 1, D(2021, 1, 1), 77);
-    Rendimento("83", 1, D(2021, 1, 1), 77);
-    Executar("UPDATE RENDIMENTOS SET COD_EMPRESA = 8 WHERE INSCRICAO = '81'");
-    Executar("UPDATE RENDIMENTOS SET TIPOREND = 'IRRF' WHERE INSCRICAO = '82'");
-    Executar("UPDATE RENDIMENTOS SET DATA_FIM = '28.02.2021' WHERE INSCRICAO = '83'");
-    Executar("UPDATE RENDIMENTOS SET DATA_FIM = '01.03.2021' WHERE INSCRICAO = '99' AND ORDEMCALCULO = 2");
+    Rendimento("96", 1, D(2021, 1, 1), 77);
+    Executar("UPDATE RENDIMENTOS SET COD_EMPRESA = 8 WHERE INSCRICAO = '96'");
+    Rendimento("98", 1, D(2021, 1, 1), 77);
+    Executar("UPDATE RENDIMENTOS SET TIPOREND = 'IRRF' WHERE INSCRICAO = '98'");
+    Rendimento("97", 1, D(2021, 1, 1), 77);
+    Executar("UPDATE RENDIMENTOS SET DATA_FIM = '28.02.2021' WHERE INSCRICAO = '97'");
     Executar("UPDATE EMPREGADOS SET ORDEMDESCINSS = 1, INDICADORDESCINSS = 1");
     auto LEvento = Carregar();
     const auto& LMV = LEvento->infoDeslig.verbasResc.infoMV;
@@ -628,12 +625,38 @@ TEST_F(TTesteDesligamento, OutrosEmpregadoresDoMesSemOProprio)
     ASSERT_EQ(1u, LMV.remunOutrEmpr.size());
     EXPECT_EQ("15,25", LMV.remunOutrEmpr[0]->vlrRemunOE);
     EXPECT_EQ("101", LMV.remunOutrEmpr[0]->codCateg);
-    Executar("UPDATE RENDIMENTOS SET IDESOCIALTABELA = NULL");
-    EXPECT_EQ("", Carregar()->infoDeslig.verbasResc.infoMV.remunOutrEmpr.at(0)->codCateg);
     // Withheld in a fixed order: those after this employer's turn don't count.
     Executar("UPDATE EMPREGADOS SET INDICADORDESCINSS = 2");
     EXPECT_EQ("10,25",
               Carregar<TTarvoESocialCamposS2399>()->infoTSVTermino.verbasResc.infoMV.remunOutrEmpr[0]->vlrRemunOE);
+    // Until the first day of the month, and without a category.
+    Executar("UPDATE RENDIMENTOS SET DATA_FIM = '01.03.2021', IDESOCIALTABELA = NULL WHERE INSCRICAO = '97'");
+    LEvento = Carregar();
+    const auto& LOutros = LEvento->infoDeslig.verbasResc.infoMV.remunOutrEmpr;
+    ASSERT_EQ(2u, LOutros.size());
+    EXPECT_EQ("97/", LOutros[0]->nrInsc + "/" + LOutros[0]->codCateg);
+}
+
+TEST_F(TTesteDesligamento, ProcessoDoEstabelecimentoENaoOsDosEmpregados)
+{
+    const auto Processo = [] { return Carregar()->infoDeslig.verbasResc.procCs.nrProcJud; };
+    // The second place came after the dismissal.
+    for (const auto& [LFilial, LInicio] : {std::pair{1, D(2018, 1, 2)}, {2, D(2021, 3, 21)}})
+        Inserir("MOV_TRANSF",
+                {{"IDEMPREGADO", 1}, {"IDFILIAL", LFilial}, {"COD_EMPRESA", 7}, {"DATAINICIOMOV", LInicio}});
+    for (const auto& [LId, LMateria, LFilial, LEmpregado] :
+         {std::tuple{1, 1, 1, TValorSql(2)}, {2, 2, 1, nullptr}, {3, 7, 2, nullptr}})
+        Inserir("ES02_SPPROC", {{"IDSPPROC", LId},
+                                {"INDMATERIA", LMateria},
+                                {"IDFILIAL", LFilial},
+                                {"IDEMPREGADO", LEmpregado},
+                                {"NUMERO", "P" + std::to_string(LId)}});
+    EXPECT_EQ("", Processo());
+    Executar("UPDATE ES02_SPPROC SET IDFILIAL = 1");
+    EXPECT_EQ("P3", Processo());
+    Executar("DELETE FROM ES02_SPPROC WHERE IDSPPROC = 3");
+    Executar("UPDATE ES02_SPPROC SET IDEMPREGADO = NULL WHERE IDSPPROC = 1");
+    EXPECT_EQ("P1", Processo());
 }
 
 } // namespace

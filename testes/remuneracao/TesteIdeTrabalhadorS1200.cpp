@@ -89,6 +89,8 @@ TEST_F(TTesteIdeTrabalhador, ParametroNaoInformadoDizQualEh)
 TEST_F(TTesteIdeTrabalhador, NisDoContratoVigenteDoPrestadorOuDeQualquerContrato)
 {
     EXPECT_EQ("170", Carregar()->nisTrab);
+    Inserir("EMPREGADOS", {{"IDEMPREGADO", 2}, {"IDEMPRESA", 2}, {"CPF", CPF}, {"PIS", "070"}});
+    EXPECT_EQ("170", Carregar()->nisTrab) << "not that of another employer's contract";
     for (const auto& [LDemissao, LSemPrestador, LComPrestador] :
          {std::tuple{D(2021, 3, 2), "170", "170"}, {D(2021, 3, 1), "170", "999"}, {D(2020, 1, 1), "170", "999"}}) {
         Executar("UPDATE EMPREGADOS SET DATA_DEMISSAO = " + TValorSql(LDemissao).Texto());
@@ -106,6 +108,8 @@ TEST_F(TTesteIdeTrabalhador, NisDoContratoVigenteDoPrestadorOuDeQualquerContrato
 TEST_F(TTesteIdeTrabalhador, IndicadorDoContratoVenceOMaior)
 {
     EXPECT_EQ(3, Carregar()->InfoMV.indMV) << "nothing known";
+    Inserir("EMPREGADOS", {{"IDEMPREGADO", 3}, {"IDEMPRESA", 2}, {"CPF", CPF}, {"INDICADORDESCINSS", 1}});
+    EXPECT_EQ(3, Carregar()->InfoMV.indMV) << "another employer's contract";
     Executar("UPDATE EMPREGADOS SET INDICADORDESCINSS = 1");
     Inserir("EMPREGADOS", {{"IDEMPREGADO", 2}, {"IDEMPRESA", 1}, {"CPF", CPF}, {"INDICADORDESCINSS", 2}});
     EXPECT_EQ(2, Carregar()->InfoMV.indMV);
@@ -138,6 +142,15 @@ TEST_F(TTesteIdeTrabalhador, IndicadorPelosOutrosRendimentosEPeloInssDosRecibos)
         EXPECT_EQ(LEsperados[LQuantidade][1], Carregar()->InfoMV.indMV) << LQuantidade;
         OutroRendimento(1, 2, "333", 1);
     }
+    // Another provider's incomes aren't this worker's.
+    Executar("DELETE FROM FP_RPAOUTROSREND");
+    OutroRendimento(1, 2, "333", 1);
+    OutroRendimento(1, 2, "444", 1);
+    EXPECT_EQ(2, Carregar()->InfoMV.indMV);
+    Prestador(6, "99988877766", 701);
+    Executar("UPDATE FP_RPAOUTROSREND SET IDPRESTSERVICO = 6 WHERE INSCRICAO = '444'");
+    EXPECT_EQ(1, Carregar()->InfoMV.indMV);
+    Executar("UPDATE FP_RPAOUTROSREND SET IDPRESTSERVICO = 5");
     // Neither another month's receipt nor another employer's counts.
     for (const char* LMudanca : {"UPDATE RPA SET DATAPAGTO = '01.04.2021'", "UPDATE SC00_FILIAL SET IDEMPRESA = 2"}) {
         Executar("UPDATE RPA SET DATAPAGTO = '31.03.2021'");
@@ -159,6 +172,9 @@ TEST_F(TTesteIdeTrabalhador, OutrosRendimentosDosContratos)
     Rendimento("11222333000181", 5);
     Rendimento("11222333000182", 6);
     EXPECT_EQ("333:101=1500 444:-2=700 888:101=2", OutrosRendimentos());
+    Executar("UPDATE FP_ESOCIALTABELA SET TABELA = 2 WHERE IDESOCIALTABELA = 101");
+    EXPECT_EQ("333:-2=1500 444:-2=700 888:-2=2", OutrosRendimentos()) << "a code of another table is no category";
+    Executar("UPDATE FP_ESOCIALTABELA SET TABELA = 1 WHERE IDESOCIALTABELA = 101");
     // Withheld in order: only the incomes up to this employer's turn.
     Executar("UPDATE EMPREGADOS SET INDICADORDESCINSS = 2, ORDEMDESCINSS = 1");
     EXPECT_EQ("333:101=1500 888:101=2", OutrosRendimentos());
@@ -182,6 +198,16 @@ TEST_F(TTesteIdeTrabalhador, OutrosRendimentosSomamAsDuasFontes)
     Recibo(2, 11, 5, D(2021, 3, 31), 1);
     Recibo(3, 12, 5, D(2021, 4, 1), 1);
     EXPECT_EQ("333:101=110,5 333:721=7 444:101=40", OutrosRendimentos()) << "of the newest receipt only origin 2";
+    Rendimento("333", 100);
+    EXPECT_EQ("333:101=110,5 333:721=7 444:101=40", OutrosRendimentos()) << "an income that stands twice counts once";
+    // A newer receipt of another provider, or at another employer, moves nothing; his incomes aren't this worker's.
+    Prestador(6, "99988877766", 701);
+    Recibo(7, 70, 6, D(2021, 3, 31), 1);
+    OutroRendimento(1, 1, "555", 900);
+    Executar("UPDATE FP_RPAOUTROSREND SET IDPRESTSERVICO = 6 WHERE INSCRICAO = '555'");
+    Recibo(8, 80, 5, D(2021, 3, 31), 1, 9);
+    Inserir("SC00_FILIAL", {{"IDFILIAL", 9}, {"IDEMPRESA", 2}, {"FILIAL", 9}});
+    EXPECT_EQ("333:101=110,5 333:721=7 444:101=40", OutrosRendimentos());
 }
 
 TEST_F(TTesteIdeTrabalhador, ComplementoEContribuinteSoDeQuemEhPrestador)
@@ -264,6 +290,8 @@ TEST_F(TTesteIdeTrabalhador, DiasDeConvocacaoContamOsDoisExtremos)
     Convocar(D(2021, 3, 30), D(2021, 4, 1));
     Convocar(D(2021, 2, 28), D(2021, 3, 1));
     EXPECT_EQ(4, Carregar()->infoInterm.qtdDiasInterm) << "across the month's limits not at all";
+    Executar("UPDATE EMPREGADOS SET IDEMPRESA = 2");
+    EXPECT_EQ(0, Carregar()->infoInterm.qtdDiasInterm) << "another employer's convocations";
 }
 
 } // namespace

@@ -122,6 +122,19 @@ TEST_F(TTestePeriodoAnterior, RescisaoComplementarVaiParaOMesDaRescisao)
     EXPECT_EQ(D(2020, 6, 20), PerRef()) << "nor a complementary one";
     Calculo(1, 999, {.Tipo = "05", .Inicio = D(2019, 3, 1), .Fim = D(2019, 3, 15)});
     EXPECT_EQ(D(2019, 3, 1), PerRef());
+    // Of several contracts the one whose complementary dismissal is paid on the day, neither one with a normal
+    // dismissal paid then nor one with a later complementary.
+    Calculo(1, 999, {.Tipo = "05", .Inicio = D(2017, 1, 1), .Fim = D(2017, 1, 1), .Pagto = PAGTO, .IdEmpregado = 2});
+    Calculo(1, 999,
+            {.Tipo = "05",
+             .SubTipo = 2,
+             .Inicio = D(2017, 1, 1),
+             .Fim = D(2017, 1, 1),
+             .Pagto = PAGTO + 30,
+             .IdEmpregado = 2});
+    Info.SetListaIdsEmpregado({1, 2});
+    EXPECT_EQ(D(2019, 3, 1), PerRef());
+    Info.SetListaIdsEmpregado({1});
     Info.Chave = 5;
     Info.SetTipoFolha(1);
     Info.SetSubTipoFolha(4);
@@ -134,6 +147,9 @@ TEST_F(TTestePeriodoAnterior, RescisaoComplementarVaiParaOMesDaRescisao)
 TEST_F(TTestePeriodoAnterior, LotacoesPeloTipoDeQuebra)
 {
     Diferenca(100);
+    TipoDeQuebra(2);
+    EXPECT_EQ("1/0:MAT1=100", Itens()) << "nothing was calculated in the other establishment";
+    TipoDeQuebra(0);
     Diferenca(200, {.Depto = 10});
     const auto LPartida = Diferenca(300, {.Filial = 2, .Depto = 20});
     Quebra(LPartida, 1, 10, 120, 10);

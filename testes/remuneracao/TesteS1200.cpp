@@ -236,6 +236,100 @@ TEST_F(TTesteS1200, ContratosDeOutraEmpresaNaoContam)
     EXPECT_THROW(LEvento.CarregarDados(), EConvertError) << "an employer without a code";
 }
 
+TEST_F(TTesteS1200, FolhaDeOutraEmpresaNaoAbreDemonstrativo)
+{
+    // A contract keeps its id when it moves to another employer of the group: the run calculated there is wider than
+    // this employer's, so that its rows would be read again with it.
+    Acordo(9, D(2021, 3, 10));
+    Complementar(1, 2, D(2021, 3, 1), D(2021, 3, 31), D(2021, 3, 31));
+    Complementar(2, 1, D(2020, 6, 1), D(2020, 6, 30), D(2021, 3, 31), 9);
+    const struct {
+        const char* Tipo;
+        int SubTipo;
+        TDateTime Inicio;
+        TDateTime Fim;
+        TDateTime FimDeLa;
+        const char* Esperado;
+    } LCasos[] = {
+        {"01", 0, D(2021, 3, 1), D(2021, 3, 15), D(2021, 3, 31), "01_000_0_03_2021"},
+        {"02", 0, D(2021, 3, 1), D(2021, 3, 15), D(2021, 3, 31), "02_000_0_03_2021"},
+        {"09", 0, D(2021, 3, 1), D(2021, 3, 15), D(2021, 3, 31), "09_000_0_03_2021"},
+        {"01", 4, D(2021, 3, 1), D(2021, 3, 15), D(2021, 3, 31), "01_004_2_03_2021"},
+        {"01", 4, D(2020, 6, 1), D(2020, 6, 15), D(2020, 6, 30), "01_004_1_06_2020"},
+    };
+    for (const auto& LCaso : LCasos) {
+        Executar("DELETE FROM CALCULO");
+        Calculo(1, 100, {.Tipo = LCaso.Tipo, .SubTipo = LCaso.SubTipo, .Inicio = LCaso.Inicio, .Fim = LCaso.Fim});
+        Calculo(1, 900,
+                {.Tipo = LCaso.Tipo,
+                 .SubTipo = LCaso.SubTipo,
+                 .Inicio = LCaso.Inicio,
+                 .Fim = LCaso.FimDeLa,
+                 .CodEmpresa = 8});
+        EXPECT_EQ(LCaso.Esperado, Identificadores()) << LCaso.Tipo << "/" << LCaso.SubTipo;
+    }
+}
+
+TEST_F(TTesteS1200, ReciboDeMesmoNumeroDeOutraEmpresa)
+{
+    Inserir("SC00_EMPRESA", {{"IDEMPRESA", 2}, {"EMPRESA", 8}, {"CNPJ", "99888777000166"}});
+    Inserir("SC00_FILIAL", {{"IDFILIAL", 3},
+                            {"IDEMPRESA", 2},
+                            {"FILIAL", 1},
+                            {"TPINSCRICAO", 1},
+                            {"CNPJ", "99888777000166"},
+                            {"CODIGOESOCIAL", "F3"}});
+    Prestador(5, "11122233396", 701);
+    Recibo(1, 1234, 5, D(2021, 3, 5), 60);
+    Recibo(2, 1234, 5, D(2021, 3, 5), 900, 3);
+    Recibo(3, 77, 5, D(2021, 3, 8), 900, 3);
+    EXPECT_EQ("97_0000001234_05_03_2021", Identificadores());
+    EXPECT_EQ("1/0:0=60", Itens());
+    // The same receipt over two establishments of this employer is one demonstrative.
+    Recibo(4, 1234, 5, D(2021, 3, 5), 40, 2);
+    EXPECT_EQ("97_0000001234_05_03_2021", Identificadores());
+    EXPECT_EQ("1/0:0=60 2/0:0=40", Itens());
+}
+
+TEST_F(TTesteS1200, CategoriaDeOutraTabelaNaoEhCategoria)
+{
+    Calculo(1, 100);
+    Prestador(5, "11122233396", 701);
+    Recibo(1, 1234, 5, D(2021, 3, 5), 60);
+    EXPECT_EQ("01_000_0_03_2021 97_0000001234_05_03_2021", Identificadores());
+    Executar("UPDATE FP_ESOCIALTABELA SET TABELA = 2 WHERE IDESOCIALTABELA = 101");
+    EXPECT_EQ("97_0000001234_05_03_2021", Identificadores());
+    Executar("UPDATE FP_ESOCIALTABELA SET TABELA = 2 WHERE IDESOCIALTABELA = 701");
+    EXPECT_EQ("", Identificadores());
+}
+
+TEST_F(TTesteS1200, LinhaForaDoComplementarNaoAbreDemonstrativo)
+{
+    Complementar(1, 2, D(2021, 3, 1), D(2021, 3, 31), D(2021, 3, 31));
+    Calculo(1, 100, {.SubTipo = 4});
+    for (const auto& [LInicio, LFim] : {std::pair{D(2021, 2, 28), D(2021, 3, 31)}, {D(2021, 3, 1), D(2021, 4, 1)}}) {
+        Calculo(1, 900, {.SubTipo = 4, .Inicio = LInicio, .Fim = LFim});
+        EXPECT_EQ("01_004_2_03_2021", Identificadores()) << "a period that the complementary doesn't hold";
+    }
+}
+
+TEST_F(TTesteS1200, SoAComplementarPagaNoDiaVaiComOAcordo)
+{
+    Acordo(9, D(2021, 3, 10));
+    Complementar(2, 1, D(2020, 6, 1), D(2020, 6, 30), D(2021, 3, 31), 9);
+    const TLinha LJunho{.SubTipo = 4, .Inicio = D(2020, 6, 1), .Fim = D(2020, 6, 30)};
+    Calculo(1, 137.5, LJunho);
+    auto LOutra = LJunho;
+    LOutra.Pagto = D(2021, 3, 30);
+    Calculo(1, 900, LOutra);
+    LOutra = LJunho;
+    LOutra.SubTipo = 0;
+    Calculo(1, 900, LOutra);
+    EXPECT_EQ("01_004_1_06_2020", Identificadores());
+    Executar("UPDATE CALCCOMPL SET TIPOCALCULO = 2");
+    EXPECT_EQ("", Identificadores());
+}
+
 TEST_F(TTesteS1200, LotacoesPeloTipoDeQuebra)
 {
     Calculo(1, 100);
@@ -359,8 +453,18 @@ TEST_F(TTesteS1200, RescisaoComplementarDeAcordoTemODiaNoIdentificador)
     EXPECT_EQ("", Identificadores()) << "without an agreement it belongs to the dismissal";
     Acordo(9, D(2021, 3, 10));
     Executar("UPDATE RESC_COMPL SET IDINFOGFIP650660 = 9");
+    // Another kind of dismissal that is paid on the same day.
+    Calculo(1, 10,
+            {.Tipo = "05", .SubTipo = 1, .Inicio = D(2019, 1, 15), .Fim = D(2019, 1, 15), .Pagto = D(2021, 3, 20)});
     EXPECT_EQ("05_002_15_01_2019", Identificadores());
     EXPECT_EQ(6, Info.Chave);
+    // That of another contract, or of another day.
+    for (const auto& [LOutro, LProprio] : {std::pair{"COD_EMPREGADO = 102", "COD_EMPREGADO = 101"},
+                                           {"DATA_PGTO = '19.03.2021'", "DATA_PGTO = '20.03.2021'"}}) {
+        Executar(std::string("UPDATE RESC_COMPL SET ") + LOutro);
+        EXPECT_EQ("", Identificadores()) << LOutro;
+        Executar(std::string("UPDATE RESC_COMPL SET ") + LProprio);
+    }
     // Calculated under another employer's code it is a run all the same; there is nothing of it to report here.
     Executar("UPDATE CALCULO SET COD_EMPRESA = 8");
     Executar("UPDATE RESC_COMPL SET COD_EMPRESA = 8");

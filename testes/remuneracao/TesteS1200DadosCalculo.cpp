@@ -114,8 +114,18 @@ TEST_F(TTesteDadosCalculo, FeriasComplementaresSomamNaPrimeiraVerbaIgual)
     EXPECT_EQ("1=1075,355 2=9 3=5", Texto(LLista)) << "unrounded; totals of the family 99 are left out";
     EXPECT_EQ(175.355, LLista[0].Base);
     EXPECT_EQ(30, LLista[0].Referencia);
-    Executar("UPDATE CALCCOMPLPER SET DATA_FIM = '30.03.2021'");
-    EXPECT_EQ("1=1000 2=0 3=5", Texto(Lista()));
+    // Of another contract, payroll or period.
+    Inserir("EMPREGADOS", {{"IDEMPREGADO", 2}, {"IDEMPRESA", 1}, {"COD_EMPRESA", 7}, {"COD_EMPREGADO", 102}});
+    Inserir("CALCCOMPLDET",
+            {{"IDCALCCOMPLPER", 1}, {"COD_EMPREGADO", 102}, {"COD_VERBA", 1}, {"BASE", 500}, {"VALOR", 500}});
+    EXPECT_EQ("1=1075,355 2=9 3=5", Texto(Lista()));
+    for (const auto& [LOutro, LProprio] : {std::pair{"TIPO = '02'", "TIPO = '01'"},
+                                           {"DATA_INICIO = '02.03.2021'", "DATA_INICIO = '01.03.2021'"},
+                                           {"DATA_FIM = '30.03.2021'", "DATA_FIM = '31.03.2021'"}}) {
+        Executar(std::string("UPDATE CALCCOMPLPER SET ") + LOutro);
+        EXPECT_EQ("1=1000 2=0 3=5", Texto(Lista())) << LOutro;
+        Executar(std::string("UPDATE CALCCOMPLPER SET ") + LProprio);
+    }
 }
 
 TEST_F(TTesteDadosCalculo, ASomaDeQuantiasNaoArredonda)
@@ -150,6 +160,7 @@ TEST_F(TTesteDadosCalculo, AQuebraSubstituiALinhaDoCalculo)
     Quebra(LPartido, 2, nullptr, 199.995, 21);
     Calculo(2, 50, {.Depto = 10});
     Calculo(2, 70);
+    Quebra(Calculo(2, 900, {.Tipo = "02", .Depto = 10}), 1, 10, 900, 10); // of an advance
 
     TipoDeQuebra(3);
     const auto LPorDepto = Lista(0, 10);
@@ -184,6 +195,7 @@ TEST_F(TTesteDadosCalculo, CadaTipoDeFolhaLeAsSuasLinhas)
     Calculo(1, 999, {.Fim = D(2021, 4, 1)});
     Calculo(1, 20, {.Tipo = "02", .SubTipo = 4});
     Calculo(1, 88, {.Tipo = "09", .Inicio = D(2021, 3, 2)});
+    Calculo(1, 88, {.Tipo = "09", .Fim = D(2021, 3, 30)});
 
     const struct {
         int Tipo;
@@ -248,6 +260,40 @@ TEST_F(TTesteDadosCalculo, ComplementarDoMesEDeAcordoLeemCadaUmaOSeu)
     EXPECT_EQ("", Texto(Lista(1, 0, TTagOrigem::toRemunPerAnt)));
 }
 
+TEST_F(TTesteDadosCalculo, OComplementarEscolheAsSuasLinhas)
+{
+    Verba(1, "1A");
+    Folha(1, 4);
+    Acordo(1, D(2021, 3, 10));
+    Complementar(1, 2, D(2021, 3, 1), D(2021, 3, 31), D(2021, 3, 31));
+    Complementar(2, 1, D(2020, 6, 1), D(2020, 6, 30), D(2021, 3, 31), 1);
+    Info.PerRef = D(2020, 6, 1);
+    for (const std::int64_t LEmpregado : {1, 2}) {
+        const double LValor = LEmpregado == 1 ? 10 : 900;
+        Calculo(1, LValor, {.SubTipo = 4, .IdEmpregado = LEmpregado});
+        Calculo(1, LValor + 1,
+                {.SubTipo = 4, .Inicio = D(2020, 6, 1), .Fim = D(2020, 6, 30), .IdEmpregado = LEmpregado});
+        if (LEmpregado == 2)
+            for (const int LId : {1, 2})
+                Inserir("FP_CALCCOMPLEMPREG", {{"IDCALCCOMPL", LId}, {"IDEMPREGADO", 2}});
+    }
+    const auto Listas = [&] { return Texto(Lista()) + "|" + Texto(Lista(1, 0, TTagOrigem::toRemunPerAnt)); };
+    EXPECT_EQ("1=10|1=11", Listas()) << "each contract its own";
+    const std::tuple<const char*, const char*, const char*> LMudancas[] = {
+        {"CALCCOMPLPER SET DATA_INICIO", "DATA_INICIO + 1", "DATA_INICIO - 1"},
+        {"CALCCOMPLPER SET DATA_FIM", "DATA_FIM - 1", "DATA_FIM + 1"},
+        {"CALCCOMPLPER SET COMPET_PGTO", "COMPET_PGTO - 1", "COMPET_PGTO + 1"},
+        {"CALCCOMPL SET TIPOCALCULO", "3 - TIPOCALCULO", "3 - TIPOCALCULO"},
+        {"FP_CALCCOMPLEMPREG SET IDEMPREGADO", "IDEMPREGADO + 2", "IDEMPREGADO - 2"},
+    };
+    for (const auto& [LColuna, LOutro, LProprio] : LMudancas) {
+        Executar(std::string("UPDATE ") + LColuna + " = " + LOutro);
+        EXPECT_EQ("|", Listas()) << LColuna;
+        Executar(std::string("UPDATE ") + LColuna + " = " + LProprio);
+    }
+    EXPECT_EQ("1=10|1=11", Listas());
+}
+
 TEST_F(TTesteDadosCalculo, RescisaoComplementarVaiPeloDiaDoPagamento)
 {
     Verba(1, "8C");
@@ -257,9 +303,11 @@ TEST_F(TTesteDadosCalculo, RescisaoComplementarVaiPeloDiaDoPagamento)
                 {.Tipo = "05", .SubTipo = LSubTipo, .Inicio = D(2019, 1, 1), .Fim = D(2019, 1, 9), .Depto = 10});
     Calculo(2, 7, {.Tipo = "05", .SubTipo = 2, .Filial = 2});
     Calculo(1, 99, {.Tipo = "05", .SubTipo = 2, .Pagto = D(2021, 3, 30)});
+    Calculo(1, 99, {.Tipo = "01", .SubTipo = 1, .Depto = 10});
+    Calculo(2, 8, {.Tipo = "05", .SubTipo = 2});
     Info.Chave = 6;
     EXPECT_EQ("1=11 1=12", Texto(Lista(0, 10, TTagOrigem::toRemunPerAnt)));
-    EXPECT_EQ("1=11 1=12", Texto(Lista(1, 0, TTagOrigem::toRemunPerAnt)));
+    EXPECT_EQ("2=8 1=11 1=12", Texto(Lista(1, 0, TTagOrigem::toRemunPerAnt))) << "by department before the rubric";
     EXPECT_EQ("2=7", Texto(Lista(2, 0, TTagOrigem::toRemunPerAnt)));
 }
 
@@ -290,6 +338,16 @@ TEST_F(TTesteDadosCalculo, ReciboTemCodigoCompostoEValorPositivo)
     EXPECT_EQ(1u, Lista(1, 0).size());
     EXPECT_TRUE(Lista(2, 0).empty());
     EXPECT_TRUE(Lista(0, 20).empty());
+    // A code of another table is no code.
+    for (const char* LId : {"3501", "9997", "9998", "9996", "9995"}) {
+        const auto DaTabela = [&](const std::string& ATabela) {
+            Executar("UPDATE FP_ESOCIALTABELA SET TABELA = " + ATabela + " WHERE IDESOCIALTABELA = " + LId);
+        };
+        DaTabela("1");
+        EXPECT_TRUE(Lista(1, 0).empty()) << LId;
+        DaTabela(LId == std::string("3501") ? "3" : LId);
+        EXPECT_EQ(1u, Lista(1, 0).size()) << LId;
+    }
     Info.NrReciboRpa = 1235;
     EXPECT_TRUE(Lista(1, 0).empty());
 }

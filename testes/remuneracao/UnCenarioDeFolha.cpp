@@ -71,7 +71,7 @@ std::int64_t TTesteDeFolha::Calculo(int ACodVerba, double AValor, const TLinha& 
 {
     Inserir("CALCULO", {{"IDCALCULO", ++FUltimoCalculo},
                         {"IDEMPREGADO", ALinha.IdEmpregado},
-                        {"COD_EMPRESA", 7},
+                        {"COD_EMPRESA", ALinha.CodEmpresa},
                         {"COD_EMPREGADO", 100 + ALinha.IdEmpregado},
                         {"COD_FILIAL", ALinha.Filial},
                         {"IDFILIAL", ALinha.Filial},

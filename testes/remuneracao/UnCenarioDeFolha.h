@@ -30,6 +30,7 @@ protected:
         TValorSql Convocacao = nullptr;
         double Base = 0;
         double Referencia = 0;
+        int CodEmpresa = 7;
     };
     /// A row of CALCULO; gives its id.
     std::int64_t Calculo(int ACodVerba, double AValor, const TLinha& ALinha);

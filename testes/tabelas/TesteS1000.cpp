@@ -101,6 +101,14 @@ TEST_F(TTesteS1000, CadaIndicadorVemDaSuaLinha)
     EXPECT_TRUE(LEvento->InfoEmpregador.idePeriodo.fimValid.Vazia());
 }
 
+TEST_F(TTesteS1000, ContatoEhDoResponsavelPeloESocial)
+{
+    for (const auto& [LOrigem, LTp, LNome] :
+         {std::tuple{96, 2, "Outra origem"}, {97, 1, "Outro tipo"}, {97, 2, "Rita"}})
+        Inserir("CA06_CFG", {{"ORIGEM", LOrigem}, {"TP", LTp}, {"INFORMACAO1", LNome}});
+    EXPECT_EQ("Rita", Carregar(D(2021, 3, 1))->InfoEmpregador.infoCadastro.Contato.NmCtt);
+}
+
 TEST_F(TTesteS1000, CertificadoComDataInvalidaFalhaEODemaisDaEmpresaFica)
 {
     Configurar(90, 38, 2, D(2020, 1, 1), D(2022, 12, 31), "x", "CERT-1", "31/02/2021");

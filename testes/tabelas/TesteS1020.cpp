@@ -122,6 +122,8 @@ TEST_F(TTesteS1020, OEstabelecimentoPrecisaDeUmaLinhaJaIniciada)
     // The suite's own code, where a department shows that of the layout.
     Executar("UPDATE SC00_FILIAL SET TPINSCRICAO = 3");
     EXPECT_EQ("21/3/11222333000181", Dados(1, 0));
+    Executar("UPDATE FP_ESOCIALTABELA SET TABELA = 11");
+    EXPECT_EQ("/3/11222333000181", Dados(1, 0)) << "a code of another table is no kind";
 }
 
 TEST_F(TTesteS1020, UmBitPorEntidadeComPercentual)

@@ -164,6 +164,9 @@ TEST_F(TTesteInfoContrato, TransferenciaDefinitivaPosteriorTambemDaOLocal)
     Transferir(D(2021, 7, 1), "TRANSFERENCIA DEFINITIVA", 303);
     EXPECT_EQ(233, Depto(D(2021, 1, 31)));
     EXPECT_EQ(233, Depto(D(2021, 7, 1)));
+    Executar("UPDATE MOV_TRANSF SET COD_DEPTO = 301 WHERE COD_DEPTO = 303");
+    EXPECT_EQ(200, Depto(D(2021, 1, 31))) << "the establishment of a department of another kind";
+    Executar("UPDATE MOV_TRANSF SET COD_DEPTO = 303 WHERE DATAINICIOMOV = '01.07.2021'");
     // Of two movements of one day the later entered is the place, and the transfer isn't later than the day.
     Transferir(D(2021, 8, 1), "TRANSFERENCIA DEFINITIVA", 302);
     Transferir(D(2021, 8, 1), "TRANSFERENCIA", 303);

@@ -187,6 +187,8 @@ TEST_F(TTesteSemVinculo, TextosDoEstagio)
 TEST_F(TTesteSemVinculo, TerminoSoComRescisaoDeSituacaoZero)
 {
     Empregado("DATA_DEMISSAO = '20.03.2021'");
+    Inserir("TAB_RESCISAO", {{"COD_EMPRESA", 10}, {"COD_EMPREGADO", 71}, {"SITUACAO", 0}});
+    Inserir("TAB_RESCISAO", {{"COD_EMPRESA", 11}, {"COD_EMPREGADO", 70}, {"SITUACAO", 0}});
     for (const auto& [LSituacao, LEsperado] : {std::pair{1, TDateTime()}, {0, D(2021, 3, 20)}}) {
         Inserir("TAB_RESCISAO", {{"COD_EMPRESA", 10}, {"COD_EMPREGADO", 70}, {"SITUACAO", LSituacao}});
         TTarvoESocialCamposTermino LGrupo(ID);

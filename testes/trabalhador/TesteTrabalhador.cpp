@@ -77,8 +77,8 @@ TEST_F(TTesteTrabalhador, TextosDaFolhaViramCodigosCadaUmNaSuaTabela)
     // The same text stands in both tables, with different codes.
     Tabela(9993, "1", "02-Branca");
     Tabela(9994, "5", "02-Branca");
-    Tabela(9993, "2", "2-Casado(a)");
     Tabela(9994, "9", "2-Casado(a)");
+    Tabela(9993, "2", "2-Casado(a)");
     Definir("RACACOR", "02-Branca");
     Definir("ESTADOCIVILLEGAL", "2-Casado(a)");
     Definir("GRAU_INSTR", "07-Médio completo");
