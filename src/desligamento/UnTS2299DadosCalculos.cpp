@@ -16,7 +16,7 @@ TS2299DadosCalculos::TS2299DadosCalculos(TdmDevS2299IOP& ADadosDmDev)
 
 void TS2299DadosCalculos::CarregarRegistrosCalculo()
 {
-    LimparLista();
+    LimparListas();
     Currency LRetidoNasFerias;
     bool LTemFeriasComplementares = false;
     if (const auto LCds = BuscarCalculo()) {

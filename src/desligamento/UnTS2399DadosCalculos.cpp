@@ -12,7 +12,7 @@ TS2399DadosCalculos::TS2399DadosCalculos(TdmDevS2399IOP& ADadosDmDev)
 
 void TS2399DadosCalculos::CarregarRegistrosCalculo()
 {
-    LimparLista();
+    LimparListas();
     if (const auto LCds = BuscarCalculo())
         for (; !LCds->Eof(); LCds->Next())
             AdicionarVerba(*LCds);

@@ -127,7 +127,11 @@ TDataset TDadosCalculosDesligamento::BuscarCalculoOutrosTiposNaCompetencia() con
         std::string(ORDEM_DO_CALCULO));
 }
 
-void TDadosCalculosDesligamento::LimparLista() { FListaDadosCalculo.clear(); }
+void TDadosCalculosDesligamento::LimparListas()
+{
+    FListaDadosCalculo.clear();
+    FLotacoesDoCalculo.clear();
+}
 
 void TDadosCalculosDesligamento::AdicionarVerba(const TOvraClientDataSet& ACds)
 {

@@ -48,7 +48,7 @@ public:
     TDadosCalculosDesligamento& operator=(const TDadosCalculosDesligamento&) = delete;
     virtual ~TDadosCalculosDesligamento() = default;
 
-    /// Fills both lists; a demonstrative of no known kind leaves them empty.
+    /// Fills both lists anew; a demonstrative of no known kind leaves them empty.
     virtual void CarregarRegistrosCalculo() = 0;
 
     /// Not owned; the groups write the lotação that is being loaded into it.
@@ -79,7 +79,7 @@ protected:
     /// Advances of the month: split rows where there are any.
     TDataset BuscarCalculoOutrosTiposNaCompetencia() const;
 
-    void LimparLista();
+    void LimparListas();
     /// An amount of the current row. It joins the amount before it where rubric and lotação are the same; rows that
     /// don't follow each other stay apart, and the reference stays that of the first.
     void AdicionarVerba(const TOvraClientDataSet& ACds);

@@ -1,6 +1,5 @@
 #pragma once
 
-
 #include "desligamento/UnTarvoESocialCamposideEstabLotDesligamento.h"
 
 namespace tarvo::desligamento {

@@ -96,6 +96,10 @@ TEST_F(TTesteLeitorDoDesligamento, SoLinhasVizinhasSeJuntam)
     LLeitor.CarregarRegistrosCalculo();
     EXPECT_EQ(3u, LLeitor.ListaDadosCalculo().size());
     EXPECT_EQ(2u, LLeitor.LotacoesDoCalculo().size());
+    Executar("DELETE FROM CALCULO WHERE COD_FILIAL = 1");
+    LLeitor.CarregarRegistrosCalculo();
+    EXPECT_EQ("1@2/0=30", Texto(LLeitor));
+    EXPECT_EQ(1u, LLeitor.LotacoesDoCalculo().size());
 }
 
 TEST_F(TTesteLeitorDoDesligamento, OutraVerbaNoMeioSeparaAMesmaLotacao)
@@ -103,10 +107,15 @@ TEST_F(TTesteLeitorDoDesligamento, OutraVerbaNoMeioSeparaAMesmaLotacao)
     // Without a split by department both departments are one lotação, but the rows still come by department.
     Verba(1, "1A");
     Verba(2, "1B");
-    Calculo(1, 10, {.SubTipo = 104, .Depto = 10});
-    Calculo(2, 1, {.SubTipo = 104, .Depto = 10});
     Calculo(1, 20, {.SubTipo = 104, .Depto = 20});
+    Calculo(2, 1, {.SubTipo = 104, .Depto = 10});
+    Calculo(1, 10, {.SubTipo = 104, .Depto = 10});
     EXPECT_EQ("1@1/0=10 2@1/0=1 1@1/0=20", S2299(Rescisao));
+    EXPECT_EQ("1@1/0=10 2@1/0=1 1@1/0=20", S2399(Rescisao));
+    // By code in S-2299, by id in S-2399.
+    Executar("UPDATE TAB_VERBAS SET CODIGO = 9 WHERE CODIGO = 1");
+    Executar("UPDATE CALCULO SET COD_VERBA = 9 WHERE COD_VERBA = 1");
+    EXPECT_EQ("2@1/0=1 1@1/0=30", S2299(Rescisao));
     EXPECT_EQ("1@1/0=10 2@1/0=1 1@1/0=20", S2399(Rescisao));
 }
 
@@ -160,6 +169,43 @@ TEST_F(TTesteLeitorDoDesligamento, QuebraMostraSoAsLinhasQuebradasNoS2299ETodasN
     EXPECT_EQ("1@1/10=40 1@2/0=60", S2299(Rescisao, "01", 3));
 }
 
+TEST_F(TTesteLeitorDoDesligamento, LinhaQuebradaValePorInteiro)
+{
+    Verba(1, "1A");
+    const auto LIdCalculo = Calculo(1, 70, {.Filial = 2, .Depto = 20, .Convocacao = 5, .Base = 50, .Referencia = 30});
+    Quebra(LIdCalculo, 2, 20, 7, 9);
+    const auto Ler = [](auto ADados, auto ACriar, TTipoCalculoDesligamento ATipo, const char* ATipoFolha) {
+        Alimentar(ADados, ATipo, ATipoFolha, 3);
+        if constexpr (requires { ADados.IdDetConvocacaoTrabInterm; })
+            ADados.IdDetConvocacaoTrabInterm = 5;
+        auto LLeitor = ACriar(ADados);
+        LLeitor->CarregarRegistrosCalculo();
+        auto LTexto = Texto(*LLeitor);
+        for (const auto& A : LLeitor->ListaDadosCalculo())
+            LTexto +=
+                " " + CurrToStr(A.Base) + " " + CurrToStr(A.Referencia) + " " + std::to_string(A.DiasTrabNaLotacao);
+        return LTexto;
+    };
+    const auto Criar2299 = [](TdmDevS2299IOP& A) { return std::make_unique<TS2299DadosCalculos>(A); };
+    const auto Criar2399 = [](TdmDevS2399IOP& A) { return std::make_unique<TS2399DadosCalculos>(A); };
+    const auto Conferir = [&](const char* AEsperado) {
+        EXPECT_EQ(AEsperado, Ler(TdmDevS2299IOP(), Criar2299, Intermitente, "01"));
+        Executar("UPDATE CALCULO SET SUBTIPO = 104");
+        EXPECT_EQ(AEsperado, Ler(TdmDevS2299IOP(), Criar2299, Rescisao, "05"));
+        EXPECT_EQ(AEsperado, Ler(TdmDevS2399IOP(), Criar2399, Rescisao, "05"));
+        Executar("UPDATE CALCULO SET SUBTIPO = 0");
+        EXPECT_EQ(AEsperado, Ler(TdmDevS2299IOP(), Criar2299, OutroDaCompetencia, "01"));
+        EXPECT_EQ(AEsperado, Ler(TdmDevS2399IOP(), Criar2399, OutroDaCompetencia, "01"));
+    };
+    Executar("UPDATE CALC_QUEBRA SET BASE = 5, REFERENCIA = 3");
+    Conferir("1@2/20=7 5 3 9");
+    // What it leaves out isn't taken from the calculation.
+    Executar("UPDATE CALC_QUEBRA SET COD_DEPTO = NULL, BASE = NULL, REFERENCIA = NULL, VALOR = NULL, DIASTRAB = NULL");
+    Conferir("1@2/0=0 0 0 0");
+    Executar("UPDATE CALC_QUEBRA SET COD_FILIAL = NULL");
+    Conferir("1@0/0=0 0 0 0");
+}
+
 TEST_F(TTesteLeitorDoDesligamento, CadaTipoLeSuasLinhas)
 {
     for (int LCodigo = 1; LCodigo <= 9; ++LCodigo)
@@ -177,8 +223,32 @@ TEST_F(TTesteLeitorDoDesligamento, CadaTipoLeSuasLinhas)
     Calculo(5, 99, {.Tipo = "01", .SubTipo = 4, .Pagto = D(2021, 3, 30)});
     Calculo(6, 7, {.Convocacao = 5});
     Calculo(6, 99, {.Convocacao = 6});
+    // Of another period by one of its days.
+    for (const auto& [LInicio, LFim] : {std::pair{D(2021, 3, 1), D(2021, 3, 30)}, {D(2021, 3, 2), D(2021, 3, 31)}}) {
+        Calculo(1, 99, {.SubTipo = 104, .Inicio = LInicio, .Fim = LFim});
+        Calculo(3, 99, {.Tipo = "02", .Inicio = LInicio, .Fim = LFim});
+        Calculo(5, 99, {.SubTipo = 4, .Inicio = LInicio, .Fim = LFim});
+        Calculo(6, 99, {.Inicio = LInicio, .Fim = LFim, .Convocacao = 5});
+    }
+    // Of another kind of payroll, or of another worker.
+    for (const int LVerba : {1, 2}) {
+        const auto LDeOutroTipo = Calculo(LVerba, 99, {.Tipo = "06", .SubTipo = 104, .Convocacao = 5});
+        if (LVerba == 2)
+            Quebra(LDeOutroTipo, 2, 20, 99, 9);
+    }
+    Calculo(2, 99, {.Tipo = "05"});
+    Calculo(2, 99, {.Tipo = "02", .SubTipo = 2});
+    Calculo(3, 99, {.Tipo = "02", .SubTipo = 3});
+    Calculo(5, 99, {.Tipo = "02", .SubTipo = 4});
+    Calculo(1, 99, {.SubTipo = 104, .IdEmpregado = 2});
+    Calculo(2, 99, {.Tipo = "05", .SubTipo = 2, .IdEmpregado = 2});
+    Calculo(3, 99, {.Tipo = "02", .IdEmpregado = 2});
+    Calculo(5, 99, {.SubTipo = 4, .IdEmpregado = 2});
+    Calculo(6, 99, {.IdEmpregado = 2, .Convocacao = 5});
 
     EXPECT_EQ("1@1/0=1", S2299(Rescisao, "05"));
+    EXPECT_EQ("1@1/0=1", S2399(Rescisao, "05"));
+    EXPECT_EQ("1@1/0=1", S2399(Rescisao, "05", 3));
     EXPECT_EQ("2@1/0=5", S2299(RescisaoComplementar, "05"));
     EXPECT_EQ("2@1/0=5", S2399(RescisaoComplementar, "05"));
     EXPECT_EQ("4@1/10=5 3@2/20=4", S2299(OutroDaCompetencia, "02", 3));
@@ -194,19 +264,40 @@ TEST_F(TTesteLeitorDoDesligamento, FeriasPagasAntesTrazemAsComplementares)
     Verba(2, "7D");
     Verba(3, "7B");
     Calculo(1, 100, {.SubTipo = 104, .Base = 10});
-    Inserir("CALCCOMPL", {{"IDCALCCOMPL", 1}, {"COD_EMPRESA", 7}, {"TIPO", "04"}});
-    Inserir("CALCCOMPLPER", {{"IDCALCCOMPLPER", 1},
-                             {"IDCALCCOMPL", 1},
-                             {"TIPO", "01"},
-                             {"DATA_INICIO", D(2021, 3, 1)},
-                             {"DATA_FIM", D(2021, 3, 31)}});
-    for (const int LVerba : {1, 3})
-        Inserir("CALCCOMPLDET",
-                {{"IDCALCCOMPLPER", 1}, {"COD_EMPREGADO", 101}, {"COD_VERBA", LVerba}, {"BASE", 5}, {"VALOR", 2.25}});
+    // The first counts; each of the others differs in one point.
+    const struct {
+        int Empresa = 7;
+        const char* Tipo = "04";
+        const char* TipoDoPeriodo = "01";
+        TDateTime Inicio = D(2021, 3, 1);
+        TDateTime Fim = D(2021, 3, 31);
+        int Empregado = 101;
+        double Valor = 90;
+    } LComplementares[] = {
+        {.Valor = 2.25},           {.Empresa = 8},          {.Tipo = "03"},    {.TipoDoPeriodo = "02"},
+        {.Inicio = D(2021, 3, 2)}, {.Fim = D(2021, 3, 30)}, {.Empregado = 102}};
+    Inserir("EMPREGADOS", {{"IDEMPREGADO", 2}, {"COD_EMPRESA", 7}, {"COD_EMPREGADO", 102}});
+    Verba(4, "99C");
+    int LId = 0;
+    for (const auto& A : LComplementares) {
+        Inserir("CALCCOMPL", {{"IDCALCCOMPL", ++LId}, {"COD_EMPRESA", A.Empresa}, {"TIPO", A.Tipo}});
+        Inserir("CALCCOMPLPER", {{"IDCALCCOMPLPER", LId},
+                                 {"IDCALCCOMPL", LId},
+                                 {"TIPO", A.TipoDoPeriodo},
+                                 {"DATA_INICIO", A.Inicio},
+                                 {"DATA_FIM", A.Fim}});
+        for (const int LVerba : {1, 3, 4})
+            Inserir("CALCCOMPLDET", {{"IDCALCCOMPLPER", LId},
+                                     {"COD_EMPREGADO", A.Empregado},
+                                     {"COD_VERBA", LVerba},
+                                     {"BASE", 5},
+                                     {"VALOR", A.Valor}});
+    }
     EXPECT_EQ("1@1/0=100", S2299(Rescisao));
     Calculo(2, 50, {.SubTipo = 104});
-    EXPECT_EQ("1@1/0=102,25 2@1/0=50", S2299(Rescisao));
-    EXPECT_EQ("1@1/0=100 2@1/0=50", S2399(Rescisao));
+    Calculo(4, 1, {.SubTipo = 104});
+    EXPECT_EQ("1@1/0=102,25 2@1/0=50 4@1/0=1", S2299(Rescisao));
+    EXPECT_EQ("1@1/0=100 2@1/0=50 4@1/0=1", S2399(Rescisao));
 }
 
 } // namespace

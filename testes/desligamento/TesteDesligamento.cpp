@@ -136,6 +136,86 @@ TEST_F(TTesteDesligamento, EscolheOsCalculosDoDesligamento)
     EXPECT_EQ("05_000_01_03_2021 05_002_20_03_2021 02_000_0_03_2021", S2299());
 }
 
+TEST_F(TTesteDesligamento, CadaCondicaoDaListaDeDemonstrativosConta)
+{
+    Inserir("EMPREGADOS", {{"IDEMPREGADO", 2}, {"IDEMPRESA", 1}, {"COD_EMPRESA", 7}, {"COD_EMPREGADO", 102}});
+    Verba(61, "8J");
+    Verba(62, "900A");
+    Verba(63, "1B", {{"TIPO", "5"}});
+    const auto Fevereiro = [](int ADia) { return D(2021, 2, ADia); };
+
+    Calculo(1, 100, {.SubTipo = 104});
+    Calculo(1, 1, {.Tipo = "05"});
+    Calculo(1, 1, {.Tipo = "05", .Inicio = Fevereiro(1)});
+    Calculo(1, 0, {.Tipo = "05", .Inicio = Fevereiro(2)});
+    Calculo(1, 1, {.Tipo = "05", .Inicio = Fevereiro(3), .IdEmpregado = 2});
+
+    RescCompl(D(2021, 3, 31));
+    Calculo(1, 1, {.Tipo = "05", .SubTipo = 2, .Inicio = D(2021, 3, 2)});
+    Calculo(63, 1, {.Tipo = "05", .SubTipo = 2, .Inicio = Fevereiro(4)});
+    Calculo(61, 1, {.Tipo = "05", .SubTipo = 2, .Inicio = Fevereiro(5)});
+    Calculo(62, 1, {.Tipo = "05", .SubTipo = 2, .Inicio = Fevereiro(6)});
+    Calculo(1, 1, {.Tipo = "02", .SubTipo = 2, .Inicio = Fevereiro(7)});
+    // The complementary dismissals of another worker, of another company and of no day.
+    for (const auto& [LEmpresa, LEmpregado, LPagto] :
+         {std::tuple{7, 102, D(2021, 4, 10)}, {8, 101, D(2021, 4, 11)}, {8, 102, D(2021, 4, 12)}}) {
+        Inserir("RESC_COMPL", {{"COD_EMPRESA", LEmpresa}, {"COD_EMPREGADO", LEmpregado}, {"DATA_PGTO", LPagto}});
+        for (const int LId : {1, 2})
+            Calculo(1, 1, {.Tipo = "05", .SubTipo = 2, .Inicio = Fevereiro(8), .Pagto = LPagto, .IdEmpregado = LId});
+    }
+
+    Calculo(1, 1, {.Tipo = "06"});
+    Calculo(1, 1, {.Tipo = "02"});
+    Calculo(1, 1, {.Tipo = "04"});
+    Calculo(1, 0, {.Tipo = "02", .Inicio = Fevereiro(9)});
+    Calculo(1, 1, {.Tipo = "02", .Inicio = D(2021, 1, 9), .IdEmpregado = 2});
+    for (const int LSubTipo : {0, 3}) // paid later, so that its items can be read
+        Calculo(1, 1,
+                {.Tipo = "02",
+                 .SubTipo = LSubTipo,
+                 .Inicio = D(2020, 12, 1),
+                 .Pagto = LSubTipo == 0 ? D(2021, 5, 1) : D(2021, 3, 31)});
+    Calculo(1, 1, {.Tipo = "02", .Inicio = D(2021, 1, 9), .Pagto = D(2021, 5, 1)});
+
+    // Differences of January by agreement 5, paid in April.
+    const auto LInicio = D(2021, 1, 1), LFim = D(2021, 1, 31), LPagto = D(2021, 4, 5);
+    Acordo(5, D(2021, 3, 1));
+    Complementar(9, 1, LInicio, LFim, LPagto, 5);
+    Inserir("FP_CALCCOMPLEMPREG", {{"IDCALCCOMPL", 9}, {"IDEMPREGADO", 2}});
+    const auto Diferenca = [&](const TLinha& ALinha, double AValor = 1) { Calculo(1, AValor, ALinha); };
+    Diferenca({.SubTipo = 4, .Inicio = LInicio, .Fim = LFim, .Pagto = LPagto});
+    Diferenca({.Tipo = "11", .SubTipo = 3, .Inicio = LInicio, .Fim = LFim, .Pagto = LPagto});
+    Diferenca({.Tipo = "12", .SubTipo = 4, .Inicio = LInicio, .Fim = LFim, .Pagto = LPagto}, 0);
+    Diferenca({.Tipo = "13", .SubTipo = 4, .Inicio = D(2020, 12, 31), .Fim = LFim, .Pagto = LPagto});
+    Diferenca({.Tipo = "14", .SubTipo = 4, .Inicio = LInicio, .Fim = Fevereiro(1), .Pagto = LPagto});
+    Diferenca({.Tipo = "15", .SubTipo = 4, .Inicio = LInicio, .Fim = LFim, .Pagto = D(2021, 4, 6)});
+    Diferenca({.Tipo = "16", .SubTipo = 4, .Inicio = LInicio, .Fim = LFim, .Pagto = LPagto, .IdEmpregado = 2});
+    Complementar(10, 2, LInicio, LFim, D(2021, 4, 7), 5);
+    Diferenca({.Tipo = "17", .SubTipo = 4, .Inicio = LInicio, .Fim = LFim, .Pagto = D(2021, 4, 7)});
+    Complementar(11, 1, LInicio, LFim, D(2021, 4, 8), 5);
+    Executar("UPDATE FP_CALCCOMPLEMPREG SET IDEMPREGADO = 2 WHERE IDCALCCOMPL = 11");
+    Diferenca({.Tipo = "18", .SubTipo = 4, .Inicio = LInicio, .Fim = LFim, .Pagto = D(2021, 4, 8)});
+    // Paid in the month by an agreement of another.
+    Acordo(6, D(2021, 2, 28));
+    Complementar(12, 1, LInicio, LFim, D(2021, 3, 31), 6);
+    Diferenca({.Tipo = "19", .SubTipo = 4, .Inicio = LInicio, .Fim = LFim});
+
+    Calculo(1, 1, {.SubTipo = 3, .Convocacao = 12});
+    Calculo(1, 1, {.Convocacao = 13});
+    Calculo(1, 1, {.Convocacao = 11});
+    Calculo(1, 1, {.Inicio = Fevereiro(28), .Fim = D(2021, 3, 2), .Convocacao = 14});
+    Calculo(1, 1, {.Inicio = D(2021, 3, 30), .Fim = D(2021, 4, 1), .Convocacao = 15});
+    Calculo(1, 1, {.IdEmpregado = 2, .Convocacao = 16});
+
+    EXPECT_EQ("05_000_01_02_2021 05_000_01_03_2021 05_002_04_02_2021 05_002_05_02_2021 05_002_02_03_2021 "
+              "02_000_0_03_2021 06_000_0_03_2021 01_004_1_01_2021 "
+              "01_000_0_0000000011_03_2021 01_000_0_0000000013_03_2021 01_003_0_0000000012_03_2021",
+              S2299());
+    EXPECT_EQ("05_000_01_02_2021 05_000_02_02_2021 05_000_01_03_2021 05_002_02_03_2021 "
+              "02_000_0_03_2021 06_000_0_03_2021",
+              S2399());
+}
+
 TEST_F(TTesteDesligamento, AcordoVaiParaOPeriodoAnteriorComUmIdeADC)
 {
     Acordo(5, D(2021, 3, 31));
@@ -225,9 +305,13 @@ TEST_F(TTesteDesligamento, QuantidadeEFatorPelaVerba)
         const char* Horas;
         const char* Quantidade;
         const char* Fator;
-    } LCasos[] = {{"1B", "Nao", "0", "0"},     {"1D", "Sim", "10,3", "0"}, {"4TA", "Nao", "10,3", "0"},
-                  {"99C", "Nao", "0", "10,3"}, {"1Z", "Nao", "0", "1,5"},  {"3G", "Sim", "10,3", "1,5"},
-                  {"3C", "Nao", "0", "1,5"},   {"1CA", "Nao", "0", "1,5"}, {"3GA", "Nao", "0", "0"}};
+    } LCasos[] = {{"1B", "Nao", "0", "0"},      {"1D", "Sim", "10,3", "0"},  {"4TA", "Nao", "10,3", "0"},
+                  {"9X", "Nao", "0", "10,3"},   {"99C", "Nao", "0", "10,3"}, {"1Z", "Nao", "0", "1,5"},
+                  {"3G", "Sim", "10,3", "1,5"}, {"3C", "Nao", "0", "1,5"},   {"1CA", "Nao", "0", "1,5"},
+                  {"3GA", "Nao", "0", "0"}};
+    for (const auto& [LOrigem, LEspecie, LTp] : {std::tuple{91, 38, 13}, {90, 39, 13}, {90, 38, 14}})
+        Inserir("SC00_EMPRESACFG",
+                {{"IDEMPRESA", 1}, {"ORIGEM", LOrigem}, {"ESPECIE", LEspecie}, {"TP", LTp}, {"INFORMACAO1", "x"}});
     Calculo(1, 100, {.Tipo = "05"});
     int LCodigo = 10;
     for (const auto& LCaso : LCasos) {
@@ -245,6 +329,7 @@ TEST_F(TTesteDesligamento, QuantidadeEFatorPelaVerba)
         EXPECT_EQ(R(LCasos[I].Fator), LVerbas[I]->fatorRubr) << LCasos[I].Formula;
         EXPECT_EQ(LVerbas[I]->qtdRubr, LVerbasSemVinculo[I]->qtdRubr);
         EXPECT_EQ(LVerbas[I]->fatorRubr, LVerbasSemVinculo[I]->fatorRubr);
+        EXPECT_EQ("0", LVerbas[I]->ideTabRubr);
     }
 }
 
@@ -277,6 +362,13 @@ TEST_F(TTesteDesligamento, TransferenciaDaOMotivoEDispensaAsVerbas)
     EXPECT_EQ(D(2021, 3, 15), LEvento->infoDeslig.dtDeslig);
     EXPECT_EQ("11", LEvento->infoDeslig.mtvDeslig);
     EXPECT_EQ("11222333000181", LEvento->infoDeslig.sucessaoVincS2299.cnpjSucessora);
+    // Of the company of destination alone, and from the worker's own.
+    Inserir("SC00_EMPRESA", {{"IDEMPRESA", 2}, {"EMPRESA", 9}, {"CNPJ", "99222333000181"}});
+    Executar("UPDATE TRANSF_EMPREG SET COD_EMPRESADESTINO = 9");
+    EXPECT_EQ("99222333000181", Carregar()->infoDeslig.sucessaoVincS2299.cnpjSucessora);
+    Executar("UPDATE TRANSF_EMPREG SET COD_EMPRESAORIGEM = 9");
+    EXPECT_EQ("", Carregar()->infoDeslig.mtvDeslig);
+    Executar("UPDATE TRANSF_EMPREG SET COD_EMPRESAORIGEM = 7");
     EXPECT_EQ("", LEvento->infoDeslig.transfTit.motivoAfast);
     EXPECT_TRUE(LEvento->infoDeslig.verbasResc.dmDev.empty());
 
@@ -360,10 +452,14 @@ TEST_F(TTesteDesligamento, DadosDaRescisaoSoDoContratoEDaSuaEspecie)
     Detalhar(1, 4, 2, "t");
     EXPECT_EQ("/// / 2", Dados());
     EXPECT_EQ("", Carregar()->infoDeslig.dtProjFimAPI);
+    // S-2399 has neither reason nor category without its own.
+    const auto Categoria = [] { return Carregar<TTarvoESocialCamposS2399>()->infoTSVTermino.CategoriaEmpregado; };
+    EXPECT_EQ("", Categoria());
     Detalhar(1, 4, 1, "");
     EXPECT_EQ("1/0001.234/3/10 5/6 2", Dados());
     Inserir("TAB_RESCISAO", {{"COD_EMPRESA", 7}, {"COD_EMPREGADO", 101}, {"DIAS_INDEN", 30}});
     EXPECT_EQ("19/04/2021", Carregar()->infoDeslig.dtProjFimAPI);
+    EXPECT_EQ("101", Categoria());
     // A contract without a category has all the same its dismissal.
     Executar("UPDATE EMPREGADOS SET IDCATEGORIAESOCIAL = NULL");
     EXPECT_EQ("1/0001.234/3/10 5/6 2", Dados());
@@ -380,9 +476,17 @@ TEST_F(TTesteDesligamento, PlanoDeSaudeDaRescisaoENaoDaComplementar)
     Inserir("PSAUDE_VERBAS", {{"IDPSAUDE_OPER", 1}, {"IDVERBA", 1038}});
     Inserir("PSAUDE_VERBAS", {{"IDPSAUDE_OPER", 2}, {"IDVERBA", 1039}});
     Inserir("DEPENDENTES", {{"IDDEPENDENTE", 1}, {"NOME", "Dependente"}});
-    Inserir(
-        "FP_PSAUDEVLRMESDEP",
-        {{"IDPSAUDEOPER", 1}, {"IDEMPREGADO", 1}, {"IDDEPENDENTE", 1}, {"DATAINICIO", D(2021, 1, 1)}, {"VALOR", 130}});
+    // In force on a day of the calculation, from the first to the last.
+    for (const auto& [LInicio, LFim, LValor] : {std::tuple{D(2021, 3, 20), TValorSql(nullptr), 70},
+                                                {D(2021, 1, 1), TValorSql(D(2021, 3, 1)), 60},
+                                                {D(2021, 3, 21), TValorSql(nullptr), 9},
+                                                {D(2021, 1, 1), TValorSql(D(2021, 2, 28)), 9}})
+        Inserir("FP_PSAUDEVLRMESDEP", {{"IDPSAUDEOPER", 1},
+                                       {"IDEMPREGADO", 1},
+                                       {"IDDEPENDENTE", 1},
+                                       {"DATAINICIO", LInicio},
+                                       {"DATAFIM", LFim},
+                                       {"VALOR", LValor}});
     Calculo(38, 20, {.SubTipo = 104});
     Calculo(39, 7, {.SubTipo = 104});
     Calculo(38, 20, {.Tipo = "05", .SubTipo = 2, .Inicio = D(2021, 3, 20)});
@@ -394,7 +498,7 @@ TEST_F(TTesteDesligamento, PlanoDeSaudeDaRescisaoENaoDaComplementar)
     ASSERT_EQ(1u, LSaude.detOper.size());
     // Below zero after the dependant, then the second rubric's whole amount.
     EXPECT_EQ(R("-10"), LSaude.detOper[0]->vrPgTit);
-    EXPECT_EQ(R("130"), LSaude.detOper[0]->detPlano[0]->vlrPgDep);
+    EXPECT_EQ(2u, LSaude.detOper[0]->detPlano.size());
     EXPECT_TRUE(LEvento->infoDeslig.verbasResc.dmDev[1]->infoPerApur.ideEstabLot[0]->infoSaudeColet.detOper.empty());
 
     // Every kind of operator counts in S-2399.
@@ -476,6 +580,18 @@ TEST_F(TTesteDesligamento, ValorDaPensaoPelaVerbaDaConfiguracao)
     EXPECT_EQ("301,5", Valor());
 }
 
+TEST_F(TTesteDesligamento, ExposicaoNoFimDoCalculo)
+{
+    Rescisao();
+    for (const auto& [LData, LOcorrencia] :
+         {std::pair{D(2021, 3, 21), "depois"}, {D(2018, 1, 2), "antes"}, {D(2021, 3, 20), "no dia"}})
+        Inserir("CARGOS", {{"IDEMPREGADO", 1}, {"DATA", LData}, {"OCORRENCIA", LOcorrencia}});
+    EXPECT_EQ("no dia", Carregar()->infoDeslig.verbasResc.dmDev[0]->infoPerApur.ideEstabLot[0]->infoAgNocivo.grauExp);
+    EXPECT_EQ(
+        "no dia",
+        Carregar<TTarvoESocialCamposS2399>()->infoTSVTermino.verbasResc.dmDev[0]->ideEstabLot[0]->infoAgNocivo.grauExp);
+}
+
 TEST_F(TTesteDesligamento, OutrosEmpregadoresDoMesSemOProprio)
 {
     const auto Rendimento = [](const char* AInscricao, int AOrdem, TDateTime AInicio, double AValor) {
@@ -494,6 +610,10 @@ TEST_F(TTesteDesligamento, OutrosEmpregadoresDoMesSemOProprio)
     Rendimento("99", 1, D(2021, 4, 1), 77);
     Rendimento("11222333000181", 1, D(2021, 1, 1), 77);
     Rendimento("11222333000182", 1, D(2021, 1, 1), 77);
+    Rendimento("11222333000199", 1, D(2021, 1, 1), 77);
+    Executar("UPDATE SC00_EMPRESA SET CNPJ = '11222333000199'");
+    Rendimento("96", 1, D(2021, 1, 1), 77);
+    Executar("UPDATE RENDIMENTOS SET COD_EMPRESA = 8 WHERE INSCRICAO = '96'");
     Rendimento("98", 1, D(2021, 1, 1), 77);
     Executar("UPDATE RENDIMENTOS SET TIPOREND = 'IRRF' WHERE INSCRICAO = '98'");
     Rendimento("97", 1, D(2021, 1, 1), 77);
@@ -520,7 +640,10 @@ TEST_F(TTesteDesligamento, OutrosEmpregadoresDoMesSemOProprio)
 TEST_F(TTesteDesligamento, ProcessoDoEstabelecimentoENaoOsDosEmpregados)
 {
     const auto Processo = [] { return Carregar()->infoDeslig.verbasResc.procCs.nrProcJud; };
-    Inserir("MOV_TRANSF", {{"IDEMPREGADO", 1}, {"IDFILIAL", 1}, {"COD_EMPRESA", 7}, {"DATAINICIOMOV", D(2018, 1, 2)}});
+    // The second place came after the dismissal.
+    for (const auto& [LFilial, LInicio] : {std::pair{1, D(2018, 1, 2)}, {2, D(2021, 3, 21)}})
+        Inserir("MOV_TRANSF",
+                {{"IDEMPREGADO", 1}, {"IDFILIAL", LFilial}, {"COD_EMPRESA", 7}, {"DATAINICIOMOV", LInicio}});
     for (const auto& [LId, LMateria, LFilial, LEmpregado] :
          {std::tuple{1, 1, 1, TValorSql(2)}, {2, 2, 1, nullptr}, {3, 7, 2, nullptr}})
         Inserir("ES02_SPPROC", {{"IDSPPROC", LId},

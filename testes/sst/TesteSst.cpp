@@ -177,6 +177,7 @@ TEST_F(TTesteSst, CursoSemMarcaTemSoOsProfissionais)
                                       {"IDEMPREGADO", 5},
                                       {"IDESOCIALTABELA", LTabela},
                                       {"ENVIARS2245", LMarca},
+                                      {"OBSERVACOES", "Anual"},
                                       {"HORASTREINAMENTO", 40.5}});
         int LTipo = 0;
         for (const auto& [LEmpregado, LPrestador] :
@@ -188,6 +189,7 @@ TEST_F(TTesteSst, CursoSemMarcaTemSoOsProfissionais)
         TTarvoESocialCamposS2245 LEvento(LId);
         LEvento.CarregarDados();
         EXPECT_EQ(LId == 1 ? "1006" : "", LEvento.treiCap.codTreiCap);
+        EXPECT_EQ(LId == 1 ? "Anual" : "", LEvento.treiCap.obsTreiCap);
         EXPECT_EQ(LMarca == 1 ? "40,5" : "", LEvento.treiCap.infoComplem.durTreiCap);
         std::string LResumo;
         for (const auto& LItem : LEvento.treiCap.infoComplem.ideProfResp)
