@@ -1,3 +1,5 @@
+#include <tuple>
+
 #include "imports/UnOvraExcecoes.h"
 #include "imports/UnTarvoConexaoBrenco.h"
 #include "rural/UnComprasDeTeste.h"
