@@ -143,6 +143,9 @@ TEST_F(TTesteChavesDoLote, SemVinculoPelaCategoriaECadaEventoDoVinculoPeloSeuReg
             for (const int LStatus : {401, 201, 202})
                 Inserir("SC00_ESOCIALREINFDET", {{"IDEVENTO", LNumero}, {"STATUS", LStatus}});
         }
+    // Accepted with a warning.
+    Inserir("SC00_ESOCIALREINFXML", {{"IDESOCIALREINFXML", 9}, {"IDEMPRESA", 2}, {"TPEVENTO", "S-2300"}, {"TPAMB", 1}});
+    Inserir("SC00_ESOCIALREINFDET", {{"IDEVENTO", 9}, {"STATUS", 202}});
     // Neither a situation that is no leave nor an event that was refused.
     Inserir("SITUACOES",
             {{"IDSITUACAO", 3}, {"IDEMPREGADO", 21}, {"DATA", D(2021, 3, 1)}, {"DATA_FIM", D(2021, 3, 2)}});
@@ -167,7 +170,7 @@ TEST_F(TTesteChavesDoLote, SemVinculoPelaCategoriaECadaEventoDoVinculoPeloSeuReg
           {"S-2260",
            {},
            R"({"AIdEmpregado":21,"ADataInicio":"2021-03-01"} {"AIdEmpregado":21,"ADataInicio":"2021-03-02"} )"},
-          {"S-3000", {}, "211 "}}) {
+          {"S-3000", {}, "9 211 "}}) {
         LArgumentos["IdEmpresa"] = "2";
         std::string LTexto;
         for (const auto& LChave : BuscarChavesDoLote(LEvento, LArgumentos)) {
