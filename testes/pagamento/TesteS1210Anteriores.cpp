@@ -151,6 +151,12 @@ TEST_F(TTesteFeriasEAnteriores, RubricasDasFerias)
     LOutra.Tipo = "01";
     LOutra.Subtipo = 1; // no payment
     Calculo(LOutra);
+    // The same vacation, paid on another day.
+    Verba(71, "7B", "Sim");
+    IncidenciaIrrf(71, 13);
+    LOutra = Ferias(71, 8);
+    LOutra.Pagto = D(2021, 3, 31);
+    Calculo(LOutra);
     Calculo(Ferias(vSalario, 5)); // a code that a vacation doesn't report
     Calculo(Ferias(70, 9));       // a total, without incidences
     Calculo(Ferias(vLiquidoFerias, 2449));
@@ -229,6 +235,8 @@ TEST_F(TTesteFeriasEAnteriores, CadaRamoTomaOsSeusCodigos)
     }
     Calcular("04", 0, DEZ20);
     EXPECT_TRUE(Anteriores().empty());
+    Calcular("09", 0, FEV21);
+    EXPECT_EQ(COMUNS, Anteriores(D(2021, 4, 1)));
 
     // Complementary: of an earlier year the accumulated codes, of the same year the others.
     Complementar(2, MAR31, nullptr, 2);

@@ -141,11 +141,12 @@ TEST_F(TTesteDemonstrativos, LiquidoZeroSoFicaComRubricaQueConta)
     EXPECT_TRUE(Unico(Carregar()).ValidouGeracao);
     Executar("UPDATE FP_RUBRICARELAC SET DATAFIM = NULL");
     EXPECT_EQ(0.0L, Unico(Carregar()).vrLiq);
-    for (const char* LAtribuicao : {"DATAFIM = '30.03.2021'", "DATAFIM = NULL, DATAINICIO = '02.03.2021'"}) {
+    for (const char* LAtribuicao : {"DATAFIM = '30.03.2021'", "DATAFIM = NULL, DATAINICIO = '02.03.2021'",
+                                    "DATAINICIO = '01.03.2021', IDVERBA = 199"}) {
         Executar(std::string("UPDATE FP_RUBRICARELAC SET ") + LAtribuicao);
         EXPECT_TRUE(Carregar().Pagamentos().empty()) << LAtribuicao;
     }
-    Executar("UPDATE FP_RUBRICARELAC SET DATAFIM = NULL, DATAINICIO = '01.03.2021'");
+    Executar("UPDATE FP_RUBRICARELAC SET DATAFIM = NULL, DATAINICIO = '01.03.2021', IDVERBA = 101");
     for (const auto& [LNatureza, LFica] : {std::pair{"9905", true}, {"9930", true}, {"9931", true}, {"9939", false}}) {
         Executar(std::string("UPDATE FP_ESOCIALTABELA SET CODIGO = '") + LNatureza + "' WHERE IDESOCIALTABELA = 39932");
         EXPECT_EQ(LFica, !Carregar().Pagamentos().empty()) << LNatureza;
@@ -276,13 +277,14 @@ TEST_F(TTesteDemonstrativos, PensionistasDividemAPensaoPorIgual)
     Dependente(-3, nullptr, 0, D(2010, 1, 1), nullptr, 3);
     Dependente(0, "11111111111", 0); // registered once more, not as a pensioner
     Dependente(1, "11111111111", 1);
-    Dependente(2, "22222222222", 1, D(2021, 3, 1));
     Dependente(3, "22222222222", 1, D(2021, 3, 1), nullptr, 2); // the same person under the other contract
+    Dependente(2, "22222222222", 1, D(2021, 3, 1));
+    Dependente(-4, "22222222222", 1, D(2021, 3, 2)); // and with a date of birth that is wrong
     Dependente(4, "33333333333", 0);
     Dependente(5, "44444444444", 1, D(2021, 3, 2)); // not born yet
     Dependente(9, nullptr, 1, D(2021, 3, 2));
     Dependente(10, nullptr, 0, D(2021, 3, 2));
-    Dependente(6, nullptr, 0); // without a CPF counts only beside a pensioner without one
+    Dependente(6, nullptr, 0, D(2021, 3, 1)); // without a CPF counts only beside a pensioner without one
     const auto Pensoes = [&] {
         std::vector<std::string> LTextos;
         const auto LPagamento = Carregar();
@@ -296,13 +298,16 @@ TEST_F(TTesteDemonstrativos, PensionistasDividemAPensaoPorIgual)
     EXPECT_EQ((TTextos{"051 1 11111111111 150,5", "051 2 22222222222 150,5", "053 1 11111111111 150,5",
                        "053 2 22222222222 150,5"}),
               Pensoes());
+    // Nothing to share out when the alimonies come to nothing.
+    Executar("UPDATE CALCULO SET VALOR = -300 WHERE COD_VERBA = 32");
+    EXPECT_EQ(TTextos(), Pensoes());
     Executar("DELETE FROM CALCULO WHERE COD_VERBA = 32");
     // A pensioner without a CPF stands for the dependants without one who are not marked, and himself isn't told.
     Dependente(7, "", 1);
-    Dependente(8, "", 2);
-    EXPECT_EQ((TTextos{"051 6  75", "051 8  75", "051 1 11111111111 75", "051 2 22222222222 75"}), Pensoes());
+    Dependente(-8, "", 2);
+    EXPECT_EQ((TTextos{"051 -8  75", "051 6  75", "051 1 11111111111 75", "051 2 22222222222 75"}), Pensoes());
     // Not rounded.
-    Executar("DELETE FROM DEPENDENTES WHERE IDDEPENDENTE = 8");
+    Executar("DELETE FROM DEPENDENTES WHERE IDDEPENDENTE = -8");
     Executar("UPDATE CALCULO SET VALOR = 100 WHERE COD_VERBA = 31");
     EXPECT_EQ("051 6  33,333333333333336", Pensoes().at(0));
 }
