@@ -127,6 +127,41 @@ TEST_F(TTesteDemonstrativos, AcordoLevaADataParaOPeriodo)
     EXPECT_TRUE(Carregar(D(2020, 7, 1)).Pagamentos().empty());
 }
 
+TEST_F(TTesteDemonstrativos, CadaPagamentoTemSoOsCalculosDoSeuDia)
+{
+    const auto Identificadores = [](const TPagamentoCarregado& APagamento) {
+        std::string LTexto;
+        for (const auto& LPagamento : APagamento.Pagamentos()) {
+            LTexto += "[";
+            for (const auto& LDetalhe : LPagamento->detPgtoFl)
+                LTexto += " " + LDetalhe->ideDmDev;
+            LTexto += " ]";
+        }
+        return LTexto;
+    };
+    Empregado(1);
+    // Two complementaries without an agreement, the one of February paid before that of March.
+    Complementar(2, D(2021, 3, 31));
+    Inserir("CALCCOMPL", {{"IDCALCCOMPL", 2}, {"TIPOCALCULO", 2}});
+    Inserir("FP_CALCCOMPLEMPREG", {{"IDCALCCOMPL", 2}, {"IDEMPREGADO", 1}});
+    Inserir("CALCCOMPLPER", {{"IDCALCCOMPL", 2}, {"COMPET_PGTO", D(2021, 3, 20)}});
+    Calculo({.Verba = vLiquido, .Subtipo = 4});
+    Calculo({.Verba = vLiquido, .Tipo = "02", .Subtipo = 4});
+    Calculo({.Verba = vLiquido, .Subtipo = 4, .Inicio = D(2021, 2, 1), .Fim = D(2021, 2, 28), .Pagto = D(2021, 3, 20)});
+    EXPECT_EQ("[ 01_004_2_02_2021 ][ 01_004_2_03_2021 ]", Identificadores(Carregar()));
+    EXPECT_EQ("[ 01_004_2_03_2021 ]", Identificadores(Carregar(D(2021, 3, 1)))) << "from the layout's first day on";
+
+    // A complementary dismissal of the day, beside kinds that no branch takes.
+    Executar("DELETE FROM CALCULO");
+    Inserir("RESC_COMPL", {{"COD_EMPRESA", 1}, {"COD_EMPREGADO", 1001}, {"DATA_PGTO", D(2021, 3, 31)}});
+    for (const int LVerba : {int{vLiquido}, int{vLiquidoRescisao}}) {
+        Calculo({.Verba = LVerba, .Tipo = "05", .Subtipo = 2});
+        Calculo({.Verba = LVerba, .Tipo = "05", .Subtipo = 1});
+        Calculo({.Verba = LVerba, .Subtipo = 2});
+    }
+    EXPECT_EQ("[ 05_002_01_03_2021 ]", Identificadores(Carregar()));
+}
+
 TEST_F(TTesteDemonstrativos, LiquidoZeroSoFicaComRubricaQueConta)
 {
     Empregado(1);
@@ -212,11 +247,14 @@ TEST_F(TTesteDemonstrativos, RubricaRetidaComCodigoQuantidadeFatorEValor)
         EXPECT_TRUE(LVerba.penAlim.empty());
     }
     Executar("DELETE FROM CALCULO WHERE IDDETCONVOCACAO = 7");
+    Calculo({.Verba = vIrrf, .Valor = 0.5, .Referencia = 7.3}); // the rubric's second row is no second rubric
     Executar("UPDATE TAB_VERBAS SET HORAS = 'sim' WHERE CODIGO = 26");
     Inserir("SC00_EMPRESACFG",
             {{"IDEMPRESA", 1}, {"ORIGEM", 90}, {"ESPECIE", 38}, {"TP", 13}, {"INFORMACAO1", "TAB01"}});
     {
         const auto LPagamento = Carregar();
+        ASSERT_EQ(1U, Unico(LPagamento).retPgtoTot.size());
+        EXPECT_EQ(95.01, static_cast<double>(Unico(LPagamento).retPgtoTot[0]->vrRubr));
         EXPECT_EQ("TAB01", Unico(LPagamento).retPgtoTot.at(0)->ideTabRubr);
         EXPECT_EQ(7.5L, Unico(LPagamento).retPgtoTot.at(0)->qtdRubr);
     }
@@ -341,7 +379,8 @@ TEST_F(TTesteDemonstrativos, ReciboComImpostoRetido)
     Recibo(10, 7, D(2021, 2, 1), D(2021, 3, 10), 500);
     Recibo(11, 7, D(2021, 2, 1), D(2021, 3, 10), 90);
     Inserir("RPATPVALOR", {{"IDRPATPVALOR", 3}, {"NOME", "VLRIRRF"}, {"DESCRICAO", "IRRF retido"}});
-    Inserir("RPAVALOR", {{"IDRPA", 10}, {"IDRPATPVALOR", 3}, {"VALOR", 75.25}});
+    for (const double LValor : {75.0, 0.25})
+        Inserir("RPAVALOR", {{"IDRPA", 10}, {"IDRPATPVALOR", 3}, {"VALOR", LValor}});
     EXPECT_EQ("Verba 3 sem incidência de IRRF de retenção (31 a 35, 51 a 55 ou 81 a 83): IRRF retido (RPA), no "
               "demonstrativo 97_0000000010_10_03_2021 pago em 10/03/2021",
               Falha([] { Carregar(); }));
