@@ -78,6 +78,17 @@ TEST_F(TTesteFeriasEAnteriores, FeriasPorTrabalhadorEInicioComOsDiasQuitados)
     ASSERT_EQ(1U, LDoLeiaute.Pagamentos().size());
     ASSERT_EQ(2U, LDoLeiaute.Pagamentos()[0]->detPgtoFer.size());
     EXPECT_EQ(D(2021, 3, 8), LDoLeiaute.Pagamentos()[0]->detPgtoFer[0]->dtIniGoz);
+
+    // A vacation that is paid on another day of the month is told there alone.
+    LOutra = Ferias(vLiquidoFerias, 9);
+    LOutra.Inicio = D(2021, 3, 9);
+    LOutra.Pagto = D(2021, 3, 5);
+    Calculo(LOutra);
+    const auto LDeDoisDias = Carregar();
+    ASSERT_EQ(2U, LDeDoisDias.Pagamentos().size());
+    EXPECT_EQ(3U, LDeDoisDias.Pagamentos()[0]->detPgtoFer.size());
+    ASSERT_EQ(1U, LDeDoisDias.Pagamentos()[1]->detPgtoFer.size());
+    EXPECT_EQ(30, LDeDoisDias.Pagamentos()[1]->detPgtoFer[0]->qtDias);
 }
 
 TEST_F(TTesteFeriasEAnteriores, SoAsIncidenciasDeFeriasSaoRubricas)
