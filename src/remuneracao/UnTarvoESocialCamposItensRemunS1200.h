@@ -14,7 +14,7 @@ public:
     /// Empty for a rubric that has no incidences, which isn't reported.
     std::string codRubr;
     std::string ideTabRubr;
-    /// Decimal hours, or the quantity of a rubric that carries one; that of the last row.
+    /// Decimal hours, of a rubric that goes by hours; those of the last row.
     double qtdRubr = 0;
     double fatorRubr = 0;
     /// Nothing sets it.
@@ -49,8 +49,9 @@ private:
 
 /// The items of the current worker from the calculated rows. Rows of one rubric that follow each other make one item;
 /// its first row decides whether it is reported. Left out are amounts of zero or less, rubrics without incidences,
-/// those of a payment (income tax withheld, alimony), and bases and discounts of the social security. The rows must
-/// not begin with rubric 0: EAccessViolation.
+/// those of a payment (EhRetencaoDeIrrf), and by their social-security code sickness benefit (23, 24) and the
+/// complement to the minimum wage (61); of a contract whose category is above 700 also maternity pay of the INSS
+/// (25, 26) and family salary (51). The rows must not begin with rubric 0: EAccessViolation.
 void GerarListaItensRemun(const TTarvoESocialCamposS1200IOP& AInfoBind, const std::vector<TDadosCalculo>& ADadosCalculo,
                           const TListaCamposModificados* AListaCamposModificados,
                           TListaDeGrupos<TTarvoESocialCamposItensRemunS1200>& AItensRemun);

@@ -96,6 +96,19 @@ TEST_F(TTesteS1200, CadaFolhaDoMesEhUmDemonstrativo)
     EXPECT_EQ(1, Info.IdEmpregado());
 }
 
+TEST_F(TTesteS1200, DiasDePagamentoNaoPartemUmaFolha)
+{
+    Complementar(1, 2, D(2021, 3, 1), D(2021, 3, 31), D(2021, 3, 15));
+    Complementar(2, 2, D(2021, 3, 1), D(2021, 3, 31), D(2021, 3, 31));
+    for (const auto& [LTipo, LSubTipo] : {std::pair{"01", 0}, {"02", 0}, {"03", 0}, {"01", 4}})
+        for (const auto& LPagto : {D(2021, 3, 15), D(2021, 3, 31)})
+            Calculo(1, 10, {.Tipo = LTipo, .SubTipo = LSubTipo, .Pagto = LPagto});
+    EXPECT_EQ("01_000_0_03_2021 02_000_0_03_2021 01_004_2_03_2021", Identificadores());
+    EXPECT_EQ(D(1900, 1, 1), Info.DataPagto());
+    Info.SetIndApuracao(tpIndApuracao::Anual);
+    EXPECT_EQ("03_000_0_03_2021", Identificadores());
+}
+
 TEST_F(TTesteS1200, PeriodoQueCadaFolhaPrecisaTer)
 {
     const struct {
@@ -219,6 +232,10 @@ TEST_F(TTesteS1200, CodigoLongoDeCategoriaValeParaContratoENaoParaPrestador)
     EXPECT_EQ("01_000_0_03_2021", Identificadores());
     Executar("UPDATE FP_ESOCIALTABELA SET CODIGO = 'X23' WHERE IDESOCIALTABELA = 723");
     EXPECT_THROW(Carregar(), EConvertError);
+    Executar("DELETE FROM PREST_SERVICO");
+    EXPECT_THROW(Carregar(), EConvertError);
+    Executar("UPDATE EMPREGADOS SET IDEMPRESA = 2");
+    EXPECT_EQ("", Identificadores()) << "another employer's contract gives no category";
 }
 
 TEST_F(TTesteS1200, ContratosDeOutraEmpresaNaoContam)
@@ -473,6 +490,11 @@ TEST_F(TTesteS1200, RescisaoComplementarDeAcordoTemODiaNoIdentificador)
     EXPECT_EQ(6, Info.Chave);
     Executar("UPDATE CALCULO SET COD_EMPRESA = 7");
     Executar("UPDATE RESC_COMPL SET COD_EMPRESA = 7");
+    Executar("UPDATE TAB_VERBAS SET CODIGO = CODIGO + 100");
+    Info.Chave = 0;
+    EXPECT_EQ("", Identificadores());
+    EXPECT_EQ(0, Info.Chave) << "of rubrics that nobody knows there is no run";
+    Executar("UPDATE TAB_VERBAS SET CODIGO = CODIGO - 100");
     Executar("UPDATE CALCULO SET DATA_PAGTO = '01.04.2021'");
     Executar("UPDATE RESC_COMPL SET DATA_PGTO = '01.04.2021'");
     EXPECT_EQ("", Identificadores());
@@ -487,6 +509,25 @@ TEST_F(TTesteS1200, ALotacaoESeusFilhosCarregamComQualquerLista)
     EXPECT_EQ("01_000_0_03_2021", Identificadores(LEvento));
     EXPECT_EQ("1/0:MAT1=100", Itens(LEvento));
     EXPECT_EQ("", LEvento.IdeTrabalhador.nisTrab);
+}
+
+TEST_F(TTesteS1200, OPeriodoAnteriorEOComplementoSeguemALista)
+{
+    Acordo(9, D(2021, 3, 10));
+    Complementar(2, 1, D(2020, 6, 1), D(2020, 6, 30), D(2021, 3, 31), 9);
+    Calculo(1, 137.5, {.SubTipo = 4, .Inicio = D(2020, 6, 1), .Fim = D(2020, 6, 30)});
+    Prestador(5, "11122233396", 701);
+    const TListaCamposModificados LNenhum{"{nenhum}"};
+    for (const auto& [LLista, LEsperado] :
+         {std::pair{static_cast<const TListaCamposModificados*>(nullptr), "F1 2611-10"}, {&LNenhum, " "}}) {
+        TTarvoESocialCamposS1200 LEvento(Info);
+        LEvento.CarregarDados(LLista);
+        ASSERT_EQ("01_004_1_06_2020", Identificadores(LEvento));
+        const auto& LDmDev = *LEvento.dmDev[0];
+        const auto& LLotacao = *LDmDev.infoPerAnt.ideAdc[0]->idePeriodo[0]->ideEstabLot[0];
+        EXPECT_EQ(LEsperado, LLotacao.codLotacao + " " + LDmDev.infoComplCont.codCBO);
+        EXPECT_EQ(137.5, LLotacao.remunPerAnt[0]->itensRemun[0]->vrRubr) << "what lies below loads in any case";
+    }
 }
 
 /// What holds for every worker of the sample company, in every month in which it calculated or paid.

@@ -71,6 +71,32 @@ TEST_F(TTesteDadosCalculo, DemitidoNoMesSoTemDecimoTerceiroELucros)
     }
 }
 
+TEST_F(TTesteDadosCalculo, DemissaoDoEmpregadoDeMesmoIdNaoTocaOPrestador)
+{
+    Executar("UPDATE EMPREGADOS SET DATA_DEMISSAO = '15.03.2021'");
+    Prestador(1, "99988877766", 701);
+    Recibo(1, 1234, 1, D(2021, 3, 5), 100);
+    Info.SetTipoEmpregado(TTipoTrabalhador::Prestador);
+    Info.NrReciboRpa = 1234;
+    Folha(97, 0);
+    EXPECT_EQ("1=100", Texto(Lista()));
+}
+
+TEST_F(TTesteDadosCalculo, ALinhaTrazOsCamposDaVerbaEAsQuantiasEmCentavos)
+{
+    Verba(1, "1Z", {{"HORAS", "Sim"}, {"VLR_CALC", 1.005}});
+    const auto LId = Calculo(1, 3.335, {.Base = 100.005, .Referencia = 7.305});
+    const auto LLista = Lista();
+    ASSERT_EQ(1u, LLista.size());
+    EXPECT_EQ(LId, LLista[0].IdCalculo);
+    EXPECT_EQ(1001, LLista[0].IdVerba);
+    EXPECT_EQ("Sim 1Z", LLista[0].Horas + " " + LLista[0].Formula);
+    EXPECT_EQ(100.01, LLista[0].Base);
+    EXPECT_EQ(7.31, LLista[0].Referencia);
+    EXPECT_EQ(3.34, LLista[0].Valor);
+    EXPECT_EQ(1.01, LLista[0].Vlr_Calc);
+}
+
 TEST_F(TTesteDadosCalculo, OValorDasRetencoesDeFeriasVaiParaOLiquidoDeFerias)
 {
     Verba(1, "1A");
@@ -191,6 +217,7 @@ TEST_F(TTesteDadosCalculo, CadaTipoDeFolhaLeAsSuasLinhas)
     for (const int LSubTipo : {1, 104, 105, 3})
         Calculo(1, LSubTipo, {.SubTipo = LSubTipo});
     Calculo(1, 57, {.Convocacao = 57});
+    Calculo(1, 999, {.SubTipo = 105, .Convocacao = 57});
     Calculo(1, 999, {.Inicio = D(2021, 2, 28)});
     Calculo(1, 999, {.Fim = D(2021, 4, 1)});
     Calculo(1, 20, {.Tipo = "02", .SubTipo = 4});
@@ -199,27 +226,29 @@ TEST_F(TTesteDadosCalculo, CadaTipoDeFolhaLeAsSuasLinhas)
 
     const struct {
         int Tipo;
+        int SubTipo;
         std::int64_t Convocacao;
         const char* Esperado;
     } LCasos[] = {
-        {1, 0, "1=0,1 1=1 1=57 1=104 10=1"},
-        {1, 57, "1=57"},
-        {2, 0, "1=0,1 1=20 10=1"},
-        {3, 0, "1=0,1 10=1"},
-        {6, 0, "1=0,1 10=1"},
-        {9, 0, "1=0,1 10=1"},
-        {4, 0, ""},
-        {5, 0, ""},
-        {97, 0, ""},
+        {1, 0, 0, "1=0,1 1=1 1=57 1=104 10=1"},
+        {1, 0, 57, "1=57"},
+        {2, 0, 0, "1=0,1 1=20 10=1"},
+        {2, 4, 0, "1=0,1 1=20 10=1"}, // only normal payroll and thirteenth salary have a complementary reader
+        {3, 0, 0, "1=0,1 10=1"},
+        {6, 0, 0, "1=0,1 10=1"},
+        {9, 0, 0, "1=0,1 10=1"},
+        {4, 0, 0, ""},
+        {5, 0, 0, ""},
+        {97, 0, 0, ""},
     };
     for (const auto& LCaso : LCasos) {
-        Folha(LCaso.Tipo, 0);
+        Folha(LCaso.Tipo, LCaso.SubTipo);
         Info.IdDetConvocacao = LCaso.Convocacao;
         auto LLista = Lista();
         std::stable_sort(LLista.begin(), LLista.end(), [](const auto& A, const auto& B) {
             return std::pair(A.Cod_Verba, A.Valor) < std::pair(B.Cod_Verba, B.Valor);
         });
-        EXPECT_EQ(LCaso.Esperado, Texto(LLista)) << LCaso.Tipo << "/" << LCaso.Convocacao;
+        EXPECT_EQ(LCaso.Esperado, Texto(LLista)) << LCaso.Tipo << "/" << LCaso.SubTipo << "/" << LCaso.Convocacao;
     }
 }
 
@@ -292,6 +321,12 @@ TEST_F(TTesteDadosCalculo, OComplementarEscolheAsSuasLinhas)
         Executar(std::string("UPDATE ") + LColuna + " = " + LProprio);
     }
     EXPECT_EQ("1=10|1=11", Listas());
+    // A normal run of the earlier month, and a complementary one whose period ends before the month does.
+    Calculo(1, 900, {.Inicio = D(2020, 6, 1), .Fim = D(2020, 6, 30)});
+    EXPECT_EQ("1=10|1=11", Listas());
+    Calculo(1, 20, {.SubTipo = 4, .Fim = D(2021, 3, 15)});
+    Info.SetDataFim(D(2021, 3, 15));
+    EXPECT_EQ("1=20|1=11", Listas());
 }
 
 TEST_F(TTesteDadosCalculo, RescisaoComplementarVaiPeloDiaDoPagamento)
@@ -348,6 +383,10 @@ TEST_F(TTesteDadosCalculo, ReciboTemCodigoCompostoEValorPositivo)
         DaTabela(LId == std::string("3501") ? "3" : LId);
         EXPECT_EQ(1u, Lista(1, 0).size()) << LId;
     }
+    // The nature alone kept the other value out; the values go by their sequence.
+    Executar("UPDATE FP_RUBRICARELACRPA SET IDESOCIALTABELA = 3501 WHERE IDRPATPVALOR = 2");
+    Executar("UPDATE RPATPVALOR SET SEQUENCIA = 10 WHERE IDRPATPVALOR = 1");
+    EXPECT_EQ("9=30 10=2000,01", Texto(Lista(1, 0)));
     Info.NrReciboRpa = 1235;
     EXPECT_TRUE(Lista(1, 0).empty());
 }
