@@ -397,6 +397,9 @@ TEST_F(TTesteDesligamento, PensaoPelaConfiguracaoDoDesligamento)
     Configurar(D(2021, 3, 1), D(2021, 3, 1));
     EXPECT_EQ("1", Carregar()->infoDeslig.pensAlim);
     EXPECT_EQ("12,5", Carregar()->infoDeslig.percAliment);
+    Executar("UPDATE EMPREGADOS SET DATA_DEMISSAO = '01.03.2021'");
+    EXPECT_EQ("1", Carregar()->infoDeslig.pensAlim) << "since the very day";
+    Executar("UPDATE EMPREGADOS SET DATA_DEMISSAO = '20.03.2021'");
     // In force on the first day of the month.
     Configurar(D(2021, 3, 2), nullptr);
     EXPECT_EQ("0", Carregar()->infoDeslig.pensAlim);

@@ -80,12 +80,17 @@ TEST_F(TTesteBeneficiario, ListaDeGruposAlcancaOsFilhosEFalhaNaoDeixaNadaAberto)
 {
     Empregado(1);
     Calculo({.Verba = vLiquido, .Valor = 321.09});
+    Calculo({.Verba = vPensao, .Valor = 50});
+    Dependente(1, "11111111111", 1);
     auto LPagamento = Construir();
     const TListaCamposModificados LLista{"{nenhum}"};
     LPagamento.Evento->CarregarDados(&LLista);
     // Everything here is computed, and computing isn't the base step that the list leaves out.
     ASSERT_EQ(1U, LPagamento.Pagamentos().size());
     EXPECT_EQ(321.09, static_cast<double>(LPagamento.Pagamentos()[0]->detPgtoFl.at(0)->vrLiq));
+    const auto& LPensao = *LPagamento.Pagamentos()[0]->detPgtoFl[0]->retPgtoTot.at(0)->penAlim.at(0);
+    EXPECT_EQ(50.0L, LPensao.vlrPensao);
+    EXPECT_EQ("", LPensao.cpfBenef) << "which is read";
 
     Executar("UPDATE FP_ESOCIALTABELA SET CODIGO = 'ABC' WHERE IDESOCIALTABELA = 101");
     EXPECT_THROW(Carregar(), EDatabaseError);
