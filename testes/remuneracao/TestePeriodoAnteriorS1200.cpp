@@ -97,7 +97,13 @@ TEST_F(TTestePeriodoAnterior, SoVeOMesDeReferencia)
         Info.PerRef = LPerRef;
         EXPECT_EQ(LConta ? "1/0:MAT1=10" : "", Itens()) << LPerRef.Valor();
     }
-    Info.PerRef = JUNHO;
+    // A calculation that crosses the month's limit is seen from both sides.
+    Executar("UPDATE CALCCOMPLPER SET DATA_FIM = '31.07.2020'");
+    Executar("UPDATE CALCULO SET DATA_INICIO = '20.06.2020', DATA_FIM = '10.07.2020'");
+    for (const auto& LPerRef : {D(2020, 6, 20), D(2020, 7, 10)}) {
+        Info.PerRef = LPerRef;
+        EXPECT_EQ("1/0:MAT1=10", Itens()) << LPerRef.Valor();
+    }
     Executar("UPDATE FP_INFOGFIP650660 SET DATAOCORRENCIA = '01.04.2021'");
     EXPECT_EQ("", Itens()) << "an agreement of another month than the event's";
 }
@@ -115,25 +121,30 @@ TEST_F(TTestePeriodoAnterior, RescisaoComplementarVaiParaOMesDaRescisao)
     EXPECT_EQ(D(2020, 6, 20), PerRef()) << "without a normal dismissal";
     EXPECT_EQ(6, Carregar()->ideAdc[0]->tpAcConv) << "whatever the agreement's kind";
     EXPECT_EQ("1/0:MAT1=50", Itens());
-    Calculo(1, 999, {.Tipo = "05", .Inicio = D(2019, 3, 1), .Fim = D(2019, 3, 15), .IdEmpregado = 2});
+    Calculo(1, 999, {.Tipo = "05", .Inicio = D(2017, 3, 1), .Fim = D(2017, 3, 15), .IdEmpregado = 2});
     EXPECT_EQ(D(2020, 6, 20), PerRef()) << "that of another contract doesn't count";
     Calculo(1, 999,
             {.Tipo = "05", .SubTipo = 1, .Inicio = D(2018, 1, 1), .Fim = D(2018, 1, 15), .Pagto = D(2018, 1, 20)});
     EXPECT_EQ(D(2020, 6, 20), PerRef()) << "nor a complementary one";
     Calculo(1, 999, {.Tipo = "05", .Inicio = D(2019, 3, 1), .Fim = D(2019, 3, 15)});
     EXPECT_EQ(D(2019, 3, 1), PerRef());
-    // Of several contracts the one whose complementary dismissal is paid on the day, neither one with a normal
-    // dismissal paid then nor one with a later complementary.
-    Calculo(1, 999, {.Tipo = "05", .Inicio = D(2017, 1, 1), .Fim = D(2017, 1, 1), .Pagto = PAGTO, .IdEmpregado = 2});
-    Calculo(1, 999,
-            {.Tipo = "05",
-             .SubTipo = 2,
-             .Inicio = D(2017, 1, 1),
-             .Fim = D(2017, 1, 1),
-             .Pagto = PAGTO + 30,
-             .IdEmpregado = 2});
-    Info.SetListaIdsEmpregado({1, 2});
-    EXPECT_EQ(D(2019, 3, 1), PerRef());
+    Calculo(1, 999, {.Inicio = D(2016, 1, 1), .Fim = D(2016, 1, 31)});
+    EXPECT_EQ(D(2019, 3, 1), PerRef()) << "nor a payroll";
+    // A dismissed contract without a complementary dismissal (2) paid on the day: neither another kind of it, nor a
+    // payroll, nor one of another day or of another contract stands for it.
+    Inserir("EMPREGADOS", {{"IDEMPREGADO", 2}, {"IDEMPRESA", 1}, {"CODIGOESOCIAL", "MAT2"}});
+    auto LOutra = LComplementar;
+    LOutra.IdEmpregado = 2;
+    LOutra.SubTipo = 1;
+    Calculo(1, 50, LOutra);
+    LOutra.SubTipo = 2;
+    LOutra.Tipo = "01";
+    Calculo(1, 999, LOutra);
+    LOutra.Tipo = "05";
+    LOutra.Pagto = PAGTO + 30;
+    Calculo(1, 999, LOutra);
+    Info.SetListaIdsEmpregado({2});
+    EXPECT_EQ(D(2020, 6, 20), PerRef());
     Info.SetListaIdsEmpregado({1});
     Info.Chave = 5;
     Info.SetTipoFolha(1);
@@ -149,6 +160,13 @@ TEST_F(TTestePeriodoAnterior, LotacoesPeloTipoDeQuebra)
     Diferenca(100);
     TipoDeQuebra(2);
     EXPECT_EQ("1/0:MAT1=100", Itens()) << "nothing was calculated in the other establishment";
+    // Nor does a contract stand in the establishment of another one.
+    Inserir("EMPREGADOS", {{"IDEMPREGADO", 2}, {"IDEMPRESA", 1}, {"CODIGOESOCIAL", "MAT2"}});
+    Inserir("FP_CALCCOMPLEMPREG", {{"IDCALCCOMPL", 1}, {"IDEMPREGADO", 2}});
+    Diferenca(50, {.IdEmpregado = 2, .Filial = 2});
+    Info.SetListaIdsEmpregado({1, 2});
+    EXPECT_EQ("1/0:MAT1=100 2/0:MAT2=50", Itens());
+    Info.SetListaIdsEmpregado({1});
     TipoDeQuebra(0);
     Diferenca(200, {.Depto = 10});
     const auto LPartida = Diferenca(300, {.Filial = 2, .Depto = 20});
@@ -194,7 +212,9 @@ TEST_F(TTestePeriodoAnterior, NoDepartamentoContaOMesInteiroENaoHaTesteDeAdmissa
     Info.SetListaIdsEmpregado({});
     EXPECT_EQ("", Itens());
     Info.SetListaIdsEmpregado({1});
+    Inserir("SC00_EMPRESA", {{"IDEMPRESA", 2}, {"EMPRESA", 8}});
     Executar("UPDATE SC00_FILIAL SET IDEMPRESA = 2");
+    Executar("UPDATE CALCULO SET COD_EMPRESA = 8");
     EXPECT_EQ("", Itens()) << "the establishments of another employer";
 }
 
