@@ -91,6 +91,8 @@ TEST_F(TTesteIdeTrabalhador, NisDoContratoVigenteDoPrestadorOuDeQualquerContrato
     EXPECT_EQ("170", Carregar()->nisTrab);
     Inserir("EMPREGADOS", {{"IDEMPREGADO", 2}, {"IDEMPRESA", 2}, {"CPF", CPF}, {"PIS", "070"}});
     EXPECT_EQ("170", Carregar()->nisTrab) << "not that of another employer's contract";
+    Prestador(5, "11122233396", 701);
+    EXPECT_EQ("170", Carregar()->nisTrab) << "a contract that goes on comes before the provider";
     for (const auto& [LDemissao, LSemPrestador, LComPrestador] :
          {std::tuple{D(2021, 3, 2), "170", "170"}, {D(2021, 3, 1), "170", "999"}, {D(2020, 1, 1), "170", "999"}}) {
         Executar("UPDATE EMPREGADOS SET DATA_DEMISSAO = " + TValorSql(LDemissao).Texto());
@@ -103,6 +105,8 @@ TEST_F(TTesteIdeTrabalhador, NisDoContratoVigenteDoPrestadorOuDeQualquerContrato
     // A contract whose CPF is written in another way isn't found.
     Executar("UPDATE EMPREGADOS SET CPF = '11122233396', DATA_DEMISSAO = NULL");
     EXPECT_EQ("999", Carregar()->nisTrab);
+    Info.SetCpf(std::string(" ") + CPF);
+    EXPECT_EQ("999", Carregar()->nisTrab) << "blanks around it don't hide a provider";
 }
 
 TEST_F(TTesteIdeTrabalhador, IndicadorDoContratoVenceOMaior)
@@ -151,6 +155,10 @@ TEST_F(TTesteIdeTrabalhador, IndicadorPelosOutrosRendimentosEPeloInssDosRecibos)
     Executar("UPDATE FP_RPAOUTROSREND SET IDPRESTSERVICO = 6 WHERE INSCRICAO = '444'");
     EXPECT_EQ(1, Carregar()->InfoMV.indMV);
     Executar("UPDATE FP_RPAOUTROSREND SET IDPRESTSERVICO = 5");
+    // Nor is an income of another month.
+    Executar("UPDATE FP_RPAOUTROSREND SET DATAPAGTO = '01.04.2021' WHERE INSCRICAO = '444'");
+    EXPECT_EQ(1, Carregar()->InfoMV.indMV);
+    Executar("UPDATE FP_RPAOUTROSREND SET DATAPAGTO = '05.03.2021'");
     // Neither another month's receipt nor another employer's counts.
     for (const char* LMudanca : {"UPDATE RPA SET DATAPAGTO = '01.04.2021'", "UPDATE SC00_FILIAL SET IDEMPRESA = 2"}) {
         Executar("UPDATE RPA SET DATAPAGTO = '31.03.2021'");
@@ -171,6 +179,14 @@ TEST_F(TTesteIdeTrabalhador, OutrosRendimentosDosContratos)
     Rendimento("999", 13, {{"TIPOFOLHA", "03"}});
     Rendimento("11222333000181", 5);
     Rendimento("11222333000182", 6);
+    Rendimento("100", 1, {{"COD_EMPREGADO", 100}});
+    // Another company of the suite is another employer; its own contracts' incomes, one under the same code, the other
+    // of the same CPF, are no concern of this one.
+    Inserir("SC00_EMPRESA", {{"IDEMPRESA", 2}, {"EMPRESA", 8}, {"CNPJ", "888"}});
+    Inserir("EMPREGADOS",
+            {{"IDEMPREGADO", 2}, {"IDEMPRESA", 2}, {"COD_EMPRESA", 8}, {"COD_EMPREGADO", 102}, {"CPF", CPF}});
+    Rendimento("101", 1, {{"COD_EMPRESA", 8}});
+    Rendimento("102", 1, {{"COD_EMPRESA", 8}, {"COD_EMPREGADO", 102}});
     EXPECT_EQ("333:101=1500 444:-2=700 888:101=2", OutrosRendimentos());
     Executar("UPDATE FP_ESOCIALTABELA SET TABELA = 2 WHERE IDESOCIALTABELA = 101");
     EXPECT_EQ("333:-2=1500 444:-2=700 888:-2=2", OutrosRendimentos()) << "a code of another table is no category";
@@ -193,6 +209,8 @@ TEST_F(TTesteIdeTrabalhador, OutrosRendimentosSomamAsDuasFontes)
     OutroRendimento(2, 1, "333", 1000);
     OutroRendimento(2, 2, "444", 40);
     OutroRendimento(1, 2, "11222333000181", 9);
+    OutroRendimento(1, 2, "666", 3);
+    Executar("UPDATE FP_RPAOUTROSREND SET DATAPAGTO = '28.02.2021' WHERE INSCRICAO = '666'");
     EXPECT_EQ("333:101=100", OutrosRendimentos()) << "without a receipt in the month its incomes don't count";
     Recibo(1, 10, 5, D(2021, 3, 5), 1);
     Recibo(2, 11, 5, D(2021, 3, 31), 1);
@@ -200,6 +218,11 @@ TEST_F(TTesteIdeTrabalhador, OutrosRendimentosSomamAsDuasFontes)
     EXPECT_EQ("333:101=110,5 333:721=7 444:101=40", OutrosRendimentos()) << "of the newest receipt only origin 2";
     Rendimento("333", 100);
     EXPECT_EQ("333:101=110,5 333:721=7 444:101=40", OutrosRendimentos()) << "an income that stands twice counts once";
+    OutroRendimento(1, 1, "333", 10.5);
+    EXPECT_EQ("333:101=121 333:721=7 444:101=40", OutrosRendimentos()) << "but of the receipts each";
+    Executar("UPDATE FP_ESOCIALTABELA SET TABELA = 2 WHERE IDESOCIALTABELA = 721");
+    EXPECT_EQ("333:-2=7 333:101=121 444:101=40", OutrosRendimentos());
+    Executar("UPDATE FP_ESOCIALTABELA SET TABELA = 1 WHERE IDESOCIALTABELA = 721");
     // A newer receipt of another provider, or at another employer, moves nothing; his incomes aren't this worker's.
     Prestador(6, "99988877766", 701);
     Recibo(7, 70, 6, D(2021, 3, 31), 1);
@@ -207,7 +230,7 @@ TEST_F(TTesteIdeTrabalhador, OutrosRendimentosSomamAsDuasFontes)
     Executar("UPDATE FP_RPAOUTROSREND SET IDPRESTSERVICO = 6 WHERE INSCRICAO = '555'");
     Recibo(8, 80, 5, D(2021, 3, 31), 1, 9);
     Inserir("SC00_FILIAL", {{"IDFILIAL", 9}, {"IDEMPRESA", 2}, {"FILIAL", 9}});
-    EXPECT_EQ("333:101=110,5 333:721=7 444:101=40", OutrosRendimentos());
+    EXPECT_EQ("333:101=121 333:721=7 444:101=40", OutrosRendimentos());
 }
 
 TEST_F(TTesteIdeTrabalhador, ComplementoEContribuinteSoDeQuemEhPrestador)
