@@ -179,6 +179,7 @@ TEST_F(TTesteIdeTrabalhador, OutrosRendimentosDosContratos)
     Rendimento("999", 13, {{"TIPOFOLHA", "03"}});
     Rendimento("11222333000181", 5);
     Rendimento("11222333000182", 6);
+    Rendimento("100", 1, {{"COD_EMPREGADO", 100}});
     // Another company of the suite is another employer; its own contracts' incomes, one under the same code, the other
     // of the same CPF, are no concern of this one.
     Inserir("SC00_EMPRESA", {{"IDEMPRESA", 2}, {"EMPRESA", 8}, {"CNPJ", "888"}});

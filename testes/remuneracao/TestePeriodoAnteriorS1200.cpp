@@ -121,33 +121,30 @@ TEST_F(TTestePeriodoAnterior, RescisaoComplementarVaiParaOMesDaRescisao)
     EXPECT_EQ(D(2020, 6, 20), PerRef()) << "without a normal dismissal";
     EXPECT_EQ(6, Carregar()->ideAdc[0]->tpAcConv) << "whatever the agreement's kind";
     EXPECT_EQ("1/0:MAT1=50", Itens());
-    Calculo(1, 999, {.Tipo = "05", .Inicio = D(2019, 3, 1), .Fim = D(2019, 3, 15), .IdEmpregado = 2});
+    Calculo(1, 999, {.Tipo = "05", .Inicio = D(2017, 3, 1), .Fim = D(2017, 3, 15), .IdEmpregado = 2});
     EXPECT_EQ(D(2020, 6, 20), PerRef()) << "that of another contract doesn't count";
     Calculo(1, 999,
             {.Tipo = "05", .SubTipo = 1, .Inicio = D(2018, 1, 1), .Fim = D(2018, 1, 15), .Pagto = D(2018, 1, 20)});
     EXPECT_EQ(D(2020, 6, 20), PerRef()) << "nor a complementary one";
     Calculo(1, 999, {.Tipo = "05", .Inicio = D(2019, 3, 1), .Fim = D(2019, 3, 15)});
     EXPECT_EQ(D(2019, 3, 1), PerRef());
-    // The first row that the engine meets counts, so the dismissal is entered behind what must not be taken for it: a
-    // normal payroll, a complementary one paid on the day, a normal dismissal paid then, a later complementary one, and
-    // that of a contract of another category.
-    Executar("DELETE FROM CALCULO WHERE TIPO = '05' AND SUBTIPO = 2");
-    const auto Rescisao = [&](int ASubTipo, int AAno, TDateTime APagto, std::int64_t AIdEmpregado) {
-        return TLinha{.Tipo = "05",
-                      .SubTipo = ASubTipo,
-                      .Inicio = D(AAno, 1, 1),
-                      .Fim = D(AAno, 1, 1),
-                      .Pagto = APagto,
-                      .IdEmpregado = AIdEmpregado};
-    };
-    for (const auto& LOutra :
-         {TLinha{.Inicio = D(2016, 1, 1), .Fim = D(2016, 1, 31)},
-          TLinha{.SubTipo = 2, .Inicio = D(2016, 1, 1), .Fim = D(2016, 1, 31), .Pagto = PAGTO, .IdEmpregado = 2},
-          Rescisao(0, 2017, PAGTO, 2), Rescisao(2, 2017, PAGTO + 30, 2), Rescisao(0, 2017, D(2017, 1, 9), 3),
-          Rescisao(2, 2017, PAGTO, 3), LComplementar})
-        Calculo(1, 50, LOutra);
-    Info.SetListaIdsEmpregado({1, 2});
-    EXPECT_EQ(D(2019, 3, 1), PerRef());
+    Calculo(1, 999, {.Inicio = D(2016, 1, 1), .Fim = D(2016, 1, 31)});
+    EXPECT_EQ(D(2019, 3, 1), PerRef()) << "nor a payroll";
+    // A dismissed contract without a complementary dismissal (2) paid on the day: neither another kind of it, nor a
+    // payroll, nor one of another day or of another contract stands for it.
+    Inserir("EMPREGADOS", {{"IDEMPREGADO", 2}, {"IDEMPRESA", 1}, {"CODIGOESOCIAL", "MAT2"}});
+    auto LOutra = LComplementar;
+    LOutra.IdEmpregado = 2;
+    LOutra.SubTipo = 1;
+    Calculo(1, 50, LOutra);
+    LOutra.SubTipo = 2;
+    LOutra.Tipo = "01";
+    Calculo(1, 999, LOutra);
+    LOutra.Tipo = "05";
+    LOutra.Pagto = PAGTO + 30;
+    Calculo(1, 999, LOutra);
+    Info.SetListaIdsEmpregado({2});
+    EXPECT_EQ(D(2020, 6, 20), PerRef());
     Info.SetListaIdsEmpregado({1});
     Info.Chave = 5;
     Info.SetTipoFolha(1);

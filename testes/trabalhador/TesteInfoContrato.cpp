@@ -155,8 +155,14 @@ TEST_F(TTesteInfoContrato, TransferenciaDefinitivaPosteriorTambemDaOLocal)
     const auto Depto = [](TDateTime AData) {
         TTarvoESocialCamposLocalTrabGeral LGrupo(ID, AData);
         LGrupo.CarregarDados();
+        EXPECT_NE("outro", LGrupo.Contrato);
         return LGrupo.IdFilial * 100 + LGrupo.IdDepto;
     };
+    // Neither another worker nor a department of the same code in another establishment is taken along.
+    Empregado("CONTRATO = 'seu'");
+    Inserir("EMPREGADOS", {{"IDEMPREGADO", ID - 1}, {"CONTRATO", "outro"}});
+    Inserir("SC00_FILIAL", {{"IDFILIAL", 1}, {"IDEMPRESA", 1}, {"FILIAL", 10}});
+    Inserir("SC00_DEPTO", {{"IDDEPTO", 3}, {"IDFILIAL", 1}, {"DEPTO", 303}, {"TIPODEPTO", 3}});
     // Before the admission there is no place but that of a later definitive transfer.
     EXPECT_EQ(0, Depto(D(2021, 1, 31)));
     Transferir(D(2021, 6, 1), "TRANSFERENCIA", 302);
