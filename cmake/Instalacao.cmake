@@ -56,9 +56,9 @@ set(CPACK_DEBIAN_DESENVOLVIMENTO_PACKAGE_DEPENDS
   "${CPACK_DEBIAN_BIBLIOTECA_PACKAGE_NAME} (= ${PROJECT_VERSION}), firebird-dev, libpugixml-dev")
 set(CPACK_DEBIAN_PROGRAMA_PACKAGE_NAME esocial-campos)
 set(CPACK_DEBIAN_PROGRAMA_PACKAGE_SECTION utils)
-# Without it the program reaches servers, but opens no file.
-set(CPACK_DEBIAN_PROGRAMA_PACKAGE_RECOMMENDS firebird3.0-server-core)
-set(CPACK_DEBIAN_BIBLIOTECA_PACKAGE_RECOMMENDS firebird3.0-server-core)
+# Without the engine of the client's version the program reaches servers, but opens no file.
+set(CPACK_DEBIAN_PROGRAMA_PACKAGE_RECOMMENDS "firebird4.0-server-core | firebird3.0-server-core")
+set(CPACK_DEBIAN_BIBLIOTECA_PACKAGE_RECOMMENDS ${CPACK_DEBIAN_PROGRAMA_PACKAGE_RECOMMENDS})
 set(CPACK_COMPONENT_BIBLIOTECA_DESCRIPTION "Biblioteca que carrega os eventos do eSocial (S-1000 a S-3000).")
 set(CPACK_COMPONENT_DESENVOLVIMENTO_DESCRIPTION "Cabeçalhos, biblioteca estática e referência dos eventos.")
 set(CPACK_COMPONENT_PROGRAMA_DESCRIPTION "Programa que carrega os eventos e os mostra em JSON.")

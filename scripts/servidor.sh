@@ -14,15 +14,30 @@ encerrar_servidor() {
     SERVIDOR_PID=
 }
 
-# A Firebird server with a configuration, a security database and a port of its own; it ends with the script.
+# A program of a version of Firebird. Where several versions stand side by side, what is in the path sets FIREBIRD anew,
+# and the version's own folder has the program itself.
+programa_do_firebird() {
+    local proprio=/usr/lib/firebird/$1/bin/$2
+    if [ -x "$proprio" ]; then
+        echo "$proprio"
+    else
+        PATH=$PATH:/usr/sbin command -v "$2"
+    fi
+}
+
+# A Firebird server with a configuration, a security database and a port of its own; it ends with the script. Its
+# version is that of the client unless one is named ("3.0").
 iniciar_servidor() {
+    local versao=${1:-$(versao_do_firebird)}
+    local pasta isql
+    pasta=$(echo /usr/lib/*/firebird/"$versao")
+    isql=$(programa_do_firebird "$versao" isql-fb)
     SERVIDOR=$(mktemp -d)
     trap 'encerrar_servidor; rm -rf "$SERVIDOR"' EXIT
     SERVIDOR_PORTA=$(python3 -c 'import socket; s = socket.socket(); s.bind(("127.0.0.1", 0)); print(s.getsockname()[1])')
     mkdir "$SERVIDOR/trava"
-    ln -s /usr/lib/*/firebird/3.0/{plugins,firebird.msg,plugins.conf} "$SERVIDOR/"
-    # A copy: the server loads its character sets from no folder behind a link.
-    cp -rL /usr/lib/*/firebird/3.0/intl "$SERVIDOR/"
+    # Copies: neither plugins nor character sets are loaded from behind a link.
+    cp -rL "$pasta"/{plugins,firebird.msg,plugins.conf,intl} "$SERVIDOR/"
     : > "$SERVIDOR/databases.conf"
     cat > "$SERVIDOR/firebird.conf" <<CONF
 RemoteServicePort = $SERVIDOR_PORTA
@@ -34,14 +49,15 @@ WireCrypt = Enabled
 DatabaseAccess = Full
 CONF
     export FIREBIRD_LOCK="$SERVIDOR/trava"
-    FIREBIRD="$SERVIDOR" isql-fb -q <<SQL
+    FIREBIRD="$SERVIDOR" "$isql" -q <<SQL
 CREATE DATABASE '$SERVIDOR/seguranca.fdb' USER 'SYSDBA';
 SQL
-    FIREBIRD="$SERVIDOR" isql-fb -q -user SYSDBA "$SERVIDOR/seguranca.fdb" <<SQL
+    FIREBIRD="$SERVIDOR" "$isql" -q -user SYSDBA "$SERVIDOR/seguranca.fdb" <<SQL
 CREATE USER SYSDBA PASSWORD 'tarvo';
 COMMIT;
 SQL
-    FIREBIRD="$SERVIDOR" /usr/sbin/firebird -p "$SERVIDOR_PORTA" >"$SERVIDOR/servidor.log" 2>&1 &
+    FIREBIRD="$SERVIDOR" "$(programa_do_firebird "$versao" firebird)" -p "$SERVIDOR_PORTA" \
+        >"$SERVIDOR/servidor.log" 2>&1 &
     SERVIDOR_PID=$!
     unset FIREBIRD_LOCK
     # A busy machine may take long over it; a server that ended won't answer at all.

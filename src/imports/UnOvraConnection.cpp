@@ -31,6 +31,8 @@ constexpr unsigned BYTES_POR_CARACTERE_UTF8 = 4;
 constexpr std::size_t MAXIMO_DE_COMANDOS = 256;
 /// Variants of shapes whose literals have been judged.
 constexpr std::size_t MAXIMO_DE_FORMAS = 8192;
+/// isc_dpb_set_bind, by its number: the header of version 3 lacks it.
+constexpr unsigned char DPB_SET_BIND = 93;
 /// Days from the engine's day 0 (17 November 1858) to TDateTime's.
 constexpr int DIA_ZERO_DO_MOTOR = 15018;
 /// The engine counts the time of day in ten-thousandths of a second.
@@ -51,6 +53,21 @@ IMaster* Mestre()
     return LMestre;
 }
 
+/// What to do about an error whose own text doesn't tell; goes in front of it.
+std::string ConselhoDoErro(intptr_t ACodigo)
+{
+    if (ACodigo == isc_unavailable) {
+        const auto LVersao = Mestre()->getUtilInterface()->getClientVersion();
+        return "Falta o motor do Firebird que abre um arquivo: instale o pacote firebird" +
+               std::to_string(LVersao >> 8) + "." + std::to_string(LVersao & 0xFF) + "-server-core\n";
+    }
+    if (ACodigo == isc_wrong_ods)
+        return "O arquivo é de outra versão do Firebird: copie-o com o gbak da versão que o criou (gbak -b) e "
+               "restaure-o "
+               "com o da versão em uso (gbak -c)\n";
+    return {};
+}
+
 /// The status of one call. Verificar raises what the call reported.
 class TStatus {
 public:
@@ -69,7 +86,7 @@ public:
         Mestre()->getUtilInterface()->formatStatus(LTexto.data(), LTexto.size(), &FStatus);
         std::array<char, 6> LSqlState{};
         fb_sqlstate(LSqlState.data(), LErros);
-        throw EDatabaseError(ParaUtf8(LTexto.data()), LErros[1], LSqlState.data());
+        throw EDatabaseError(ConselhoDoErro(LErros[1]) + ParaUtf8(LTexto.data()), LErros[1], LSqlState.data());
     }
 
 private:
@@ -98,9 +115,13 @@ TBlocoDeParametros ParametrosDeConexao(const TParametrosConexao& AParametros)
     LBloco->insertInt(&LStatus, isc_dpb_sql_dialect, DIALETO);
     LBloco->insertInt(&LStatus, isc_dpb_utf8_filename, 1);
     // A plain path is the embedded engine's alone: without this a missing file is looked for on a local server too,
-    // and its error is hidden behind the network's.
+    // and its error is hidden behind the network's. The engine is called so from version 4 on, and otherwise in 3; the
+    // client passes over the one that it hasn't.
     if (!AParametros.EhServidor())
-        LBloco->insertString(&LStatus, isc_dpb_config, "Providers=Engine12");
+        LBloco->insertString(&LStatus, isc_dpb_config, "Providers=Engine13,Engine12");
+    // Version 4 widens sums and has times with a zone; they come as the types that version 3 has, which knows nothing of
+    // it. What is beyond 64 bits is then an error of the engine's, never cut.
+    LBloco->insertString(&LStatus, DPB_SET_BIND, "INT128 TO LEGACY; DECFLOAT TO LEGACY; TIME ZONE TO LEGACY");
     LStatus.Verificar();
     return LBloco;
 }
@@ -315,7 +336,8 @@ bool EscreverTexto(const TValorLiteralSql& ALiteral, const TColunaDaMensagem& AP
 }
 
 /// Puts a literal into the message; false when this value doesn't fit the parameter, and has to run as it stands.
-bool EscreverParametro(const TValorLiteralSql& ALiteral, const TColunaDaMensagem& AParametro, std::vector<unsigned char>& AMensagem)
+bool EscreverParametro(const TValorLiteralSql& ALiteral, const TColunaDaMensagem& AParametro,
+                       std::vector<unsigned char>& AMensagem)
 {
     unsigned char* LOnde = AMensagem.data() + AParametro.Posicao;
     EscreverNaMensagem(AMensagem.data() + AParametro.PosicaoDoNulo, ISC_SHORT{0});
@@ -339,9 +361,10 @@ bool EscreverParametro(const TValorLiteralSql& ALiteral, const TColunaDaMensagem
 
 bool EhPerdaDeConexao(const EDatabaseError& AErro)
 {
-    static constexpr ISC_STATUS CODIGOS[] = {isc_network_error,   isc_net_read_err,    isc_net_write_err, isc_lost_db_connection,
-                                             isc_att_shutdown,    isc_bad_db_handle,   isc_shutdown,      isc_cancelled,
-                                             isc_att_handle_busy, isc_net_connect_err, isc_bad_trans_handle};
+    static constexpr ISC_STATUS CODIGOS[] = {isc_network_error,      isc_net_read_err,    isc_net_write_err,
+                                             isc_lost_db_connection, isc_att_shutdown,    isc_bad_db_handle,
+                                             isc_shutdown,           isc_cancelled,       isc_att_handle_busy,
+                                             isc_net_connect_err,    isc_bad_trans_handle};
     return std::find(std::begin(CODIGOS), std::end(CODIGOS), AErro.Codigo()) != std::end(CODIGOS);
 }
 
@@ -639,7 +662,8 @@ TConjuntoDeLinhas TOvraConnection::TImplementacao::Ler(TComando& AComando)
     Vigiar(TPassoSql::Executar);
     if (!AComando.TemCursor) {
         // A statement that returns its one row by itself, as INSERT ... RETURNING does, or none at all.
-        AComando.Comando->execute(&LStatus, TransacaoCorrente(), LEntrada, LParametros, AComando.Saida.get(), LMensagem);
+        AComando.Comando->execute(&LStatus, TransacaoCorrente(), LEntrada, LParametros, AComando.Saida.get(),
+                                  LMensagem);
         LStatus.Verificar();
         if (!AComando.Descricao.Mensagem.empty())
             LerLinha(LLinhas, AComando.Descricao, LMensagem);

@@ -1,5 +1,7 @@
 #include <rapidjson/document.h>
 
+#include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -378,6 +380,35 @@ TEST(TTestePrograma, SenhaErradaFalhaComOTextoDoServidor)
 }
 
 /// The engine itself ends the connection in the middle of a load.
+// The program has an engine of its own only for a file.
+TEST(TTestePrograma, SemMotorOuDeOutraVersaoOErroDizOQueFazer)
+{
+    if (std::getenv("TESTES_LIGACAO") != nullptr)
+        GTEST_SKIP() << "TESTES_LIGACAO";
+    // A Firebird of which nothing is installed but the client.
+    const auto LSemMotor = ParametrosDoBanco("sem-motor").BancoDeDados;
+    std::filesystem::create_directory(LSemMotor);
+    setenv("FIREBIRD", LSemMotor.c_str(), 1);
+    const auto LSaida = Rodar(S1000());
+    unsetenv("FIREBIRD");
+    EXPECT_EQ(LSaida.Codigo, 1);
+    EXPECT_EQ(LSaida.Padrao, "");
+    EXPECT_NE(LSaida.Erros.find("instale o pacote firebird"), std::string::npos) << LSaida.Erros;
+
+    // The version of the on-disk structure stands in the header page.
+    constexpr std::streamoff ONDE = 18;
+    const auto LOutraVersao = ParametrosDoBanco("outra-versao.fdb").BancoDeDados;
+    std::filesystem::copy_file(Banco(), LOutraVersao);
+    std::fstream LArquivo(LOutraVersao, std::ios::in | std::ios::out | std::ios::binary);
+    LArquivo.seekp(ONDE).put(99);
+    LArquivo.close();
+    const auto LRecusada =
+        Rodar({"carregar", "S-1000", "--banco", LOutraVersao, "--AIDEmpresa", "1", "--AData", "2021-03-01"});
+    EXPECT_EQ(LRecusada.Codigo, 1);
+    EXPECT_NE(LRecusada.Erros.find("gbak -b"), std::string::npos) << LRecusada.Erros;
+    EXPECT_NE(LRecusada.Erros.find("unsupported on-disk structure"), std::string::npos) << LRecusada.Erros;
+}
+
 TEST(TTesteConexaoPerdida, CargaFalhaComOTextoDoMotorEOProcessoSegue)
 {
     const auto LParametros = CriarBancoDeTeste("perdida.fdb", true);

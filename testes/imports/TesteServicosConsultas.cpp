@@ -127,7 +127,8 @@ TEST_F(ServicosConsultas, DatasetNaConexaoDada)
         LDono->Open();
         EXPECT_EQ(LDono->FieldByName("X").AsString(), "a:b");
     }
-    EXPECT_EQ(BuscarInstanciaOvraUtilsDbManager().GetInformacoesBancoDeDados().VersaoMaior, "3");
+    EXPECT_TRUE(Consultar("SELECT RDB$GET_CONTEXT('SYSTEM', 'ENGINE_VERSION') FROM RDB$DATABASE")
+                    .starts_with(BuscarInstanciaOvraUtilsDbManager().GetInformacoesBancoDeDados().VersaoMaior + "."));
 }
 
 TEST_F(ServicosConsultas, CalculoPeloTipoDeQuebra)
