@@ -58,3 +58,9 @@ compilar() {
     cmake --preset "$1" >/dev/null
     cmake --build --preset "$1" -j "$(nproc)" ${2:+--target "${@:2}"}
 }
+
+# The same of the release with what bench/ adds to it.
+compilar_com_bancada() {
+    cmake --preset release -DTARVO_BANCADA=ON >/dev/null
+    cmake --build --preset release -j "$(nproc)" --target "$@"
+}

@@ -71,3 +71,9 @@ SQL
     echo "O servidor de testes não respondeu na porta $SERVIDOR_PORTA"
     return 1
 }
+
+# Every test of the release build against the server.
+testar_no_servidor() {
+    TESTES_LIGACAO="127.0.0.1/$SERVIDOR_PORTA:" ISC_USER=SYSDBA ISC_PASSWORD=tarvo timeout -k 10 900 \
+        build/release/testes/testes --gtest_brief=1
+}

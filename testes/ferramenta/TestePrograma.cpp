@@ -385,9 +385,14 @@ TEST(TTestePrograma, SemMotorOuDeOutraVersaoOErroDizOQueFazer)
 {
     if (std::getenv("TESTES_LIGACAO") != nullptr)
         GTEST_SKIP() << "TESTES_LIGACAO";
-    // A Firebird of which nothing is installed but the client.
+    // A Firebird whose engines are nowhere.
     const auto LSemMotor = ParametrosDoBanco("sem-motor").BancoDeDados;
     std::filesystem::create_directory(LSemMotor);
+    std::ofstream(LSemMotor + "/firebird.conf");
+    std::ofstream LPlugins(LSemMotor + "/plugins.conf");
+    for (const char* LMotor : {"Engine12", "Engine13"})
+        LPlugins << "Plugin = " << LMotor << " {\n  Module = " << LSemMotor << "/nenhum\n}\n";
+    LPlugins.close();
     setenv("FIREBIRD", LSemMotor.c_str(), 1);
     const auto LSaida = Rodar(S1000());
     unsetenv("FIREBIRD");
