@@ -76,8 +76,6 @@ TEventoConstruidoDe<pagamento::TTarvoESocialCamposS1210> EventoS1210(const TArgu
     return {std::move(LInfoBind), std::move(LEvento)};
 }
 
-bool EhDigito(char AChar) { return AChar >= '0' && AChar <= '9'; }
-
 /// AAAA-MM-DD; an unset date when the text is none.
 TDateTime LerDataIso(std::string_view ATexto)
 {

@@ -9,7 +9,7 @@ namespace tarvo::desligamento {
 
 namespace {
 
-constexpr std::string_view TIPO_CALC = "TIPO_CALC_S2299";
+constexpr std::string_view TIPO_DO_CALCULO_S2299 = "TIPO_CALC_S2299";
 
 /// What the branches give beside the dates and the kind: a column, or the literal that stands for it.
 std::string Colunas(std::string_view ASubTipo, std::string_view AAcordo, std::string_view ATipoComplementar,
@@ -95,7 +95,7 @@ std::string TTarvoESocialCamposverbasRescS2299::SqlDosDemonstrativos(const TdmDe
                LInicio, LFim)};
 
     const auto Ramo = [&](const TRamoDeDemonstrativo& ARamo) {
-        return SqlDoRamo(ARamo, TIPO_CALC, ADmDev.IDEmpregado);
+        return SqlDoRamo(ARamo, TIPO_DO_CALCULO_S2299, ADmDev.IDEmpregado);
     };
     static constexpr std::string_view SQL = R"(SELECT * FROM (
 %0:s
@@ -115,7 +115,7 @@ ORDER BY TIPO_CALC_S2299, DATA_INICIO, TIPO, SUBTIPO, IDDETCONVOCACAO)";
 void TTarvoESocialCamposverbasRescS2299::AlimentarDemonstrativo(TdmDevS2299IOP& ADmDev,
                                                                 const TOvraClientDataSet& ACds) const
 {
-    AlimentarDmDev(ADmDev, ACds, TIPO_CALC);
+    AlimentarDmDev(ADmDev, ACds, TIPO_DO_CALCULO_S2299);
     ADmDev.TipoCalcComplem = ACds.FieldByName("TIPO_CALC_COMPL").AsInteger();
     ADmDev.IdAcordoConvencaoDissidio = ACds.FieldByName("IDACORDO").AsLargeInt();
     ADmDev.IdDetConvocacaoTrabInterm = ACds.FieldByName("IDDETCONVOCACAO").AsLargeInt();

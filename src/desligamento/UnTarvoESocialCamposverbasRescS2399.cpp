@@ -7,7 +7,7 @@ namespace tarvo::desligamento {
 
 namespace {
 
-constexpr std::string_view TIPO_CALC = "TIPO_CALC_S2399";
+constexpr std::string_view TIPO_DO_CALCULO_S2399 = "TIPO_CALC_S2399";
 
 } // namespace
 
@@ -53,7 +53,7 @@ std::string TTarvoESocialCamposverbasRescS2399::SqlDosDemonstrativos(const TdmDe
     const auto LOutros = RamoOutrosTiposNaCompetencia(ADmDev, "0 AS SUBTIPO");
 
     const auto Ramo = [&](const TRamoDeDemonstrativo& ARamo) {
-        return SqlDoRamo(ARamo, TIPO_CALC, ADmDev.IDEmpregado);
+        return SqlDoRamo(ARamo, TIPO_DO_CALCULO_S2399, ADmDev.IDEmpregado);
     };
     static constexpr std::string_view SQL = R"(SELECT * FROM (
 %0:s
@@ -69,7 +69,7 @@ ORDER BY TIPO_CALC_S2399, DATA_INICIO, TIPO, SUBTIPO)";
 void TTarvoESocialCamposverbasRescS2399::AlimentarDemonstrativo(TdmDevS2399IOP& ADmDev,
                                                                 const TOvraClientDataSet& ACds) const
 {
-    AlimentarDmDev(ADmDev, ACds, TIPO_CALC);
+    AlimentarDmDev(ADmDev, ACds, TIPO_DO_CALCULO_S2399);
 }
 
 } // namespace tarvo::desligamento

@@ -15,8 +15,6 @@ namespace {
 
 constexpr std::string_view BRANCOS = " \t\r\n\v\f";
 
-bool EhDigito(char AChar) { return AChar >= '0' && AChar <= '9'; }
-
 char MinusculaAscii(char AChar) { return AChar >= 'A' && AChar <= 'Z' ? static_cast<char>(AChar + 32) : AChar; }
 char MaiusculaAscii(char AChar) { return AChar >= 'a' && AChar <= 'z' ? static_cast<char>(AChar - 32) : AChar; }
 

@@ -12,6 +12,8 @@ namespace tarvo {
 
 // One fixed locale, Brazil's, whatever the host's: decimal comma, no thousands separator, dates day first.
 
+/// A decimal digit of ASCII.
+constexpr bool EhDigito(char32_t ACodigo) { return ACodigo >= '0' && ACodigo <= '9'; }
 std::string_view Trim(std::string_view AValor);
 std::string_view TrimRight(std::string_view AValor);
 /// Case folding of ASCII letters only: names of columns, properties and options.

@@ -21,8 +21,6 @@ struct TToken {
     std::size_t Tamanho = 0;
 };
 
-constexpr bool EhDigito(char AChar) { return AChar >= '0' && AChar <= '9'; }
-
 /// Every byte of every statement passes here: a table, not comparisons.
 constexpr auto LETRAS = [] {
     std::array<bool, 256> LTabela{};

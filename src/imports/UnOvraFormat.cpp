@@ -11,8 +11,6 @@ namespace tarvo {
 
 namespace {
 
-bool EhDigito(char AChar) { return AChar >= '0' && AChar <= '9'; }
-
 std::string ComZeros(std::uint64_t AValor, std::size_t ALargura)
 {
     auto LTexto = std::to_string(AValor);

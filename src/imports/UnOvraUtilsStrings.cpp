@@ -15,14 +15,14 @@ struct TFaixa {
     char32_t Primeiro;
     char32_t Ultimo;
 };
-constexpr std::array<TFaixa, 8> LETRAS{{{0xAA, 0xAA},
-                                        {0xB5, 0xB5},
-                                        {0xBA, 0xBA},
-                                        {0xC0, 0xD6},
-                                        {0xD8, 0xF6},
-                                        {0xF8, 0x2AF},
-                                        {0x300, 0x36F},
-                                        {0x1E00, 0x1EFF}}};
+constexpr std::array<TFaixa, 8> LETRAS_ALEM_DO_ASCII{{{0xAA, 0xAA},
+                                                      {0xB5, 0xB5},
+                                                      {0xBA, 0xBA},
+                                                      {0xC0, 0xD6},
+                                                      {0xD8, 0xF6},
+                                                      {0xF8, 0x2AF},
+                                                      {0x300, 0x36F},
+                                                      {0x1E00, 0x1EFF}}};
 
 char32_t Codigo(std::string_view ACaractere)
 {
@@ -35,13 +35,11 @@ char32_t Codigo(std::string_view ACaractere)
     return LCodigo;
 }
 
-bool EhDigito(char32_t ACodigo) { return ACodigo >= '0' && ACodigo <= '9'; }
-
 bool EhLetra(char32_t ACodigo)
 {
     if (ACodigo < 0x80)
         return (ACodigo >= 'A' && ACodigo <= 'Z') || (ACodigo >= 'a' && ACodigo <= 'z');
-    return std::any_of(LETRAS.begin(), LETRAS.end(),
+    return std::any_of(LETRAS_ALEM_DO_ASCII.begin(), LETRAS_ALEM_DO_ASCII.end(),
                        [&](const TFaixa& AFaixa) { return ACodigo >= AFaixa.Primeiro && ACodigo <= AFaixa.Ultimo; });
 }
 

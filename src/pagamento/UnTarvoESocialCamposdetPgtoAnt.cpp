@@ -43,7 +43,7 @@ namespace {
 
 /// A branch: what it reads (%0), what it takes (%1) and of which codes of income tax (%2). The sign of a discount
 /// counts in the value and not in the test of the group: a code is dropped by its plain sum; meant.
-constexpr std::string_view RAMO = R"(  SELECT
+constexpr std::string_view RAMO_ANTERIOR = R"(  SELECT
     FP_ESOCIALTABELA.CODIGO TPBCIRRF,
     SUM(IIF(TAB_VERBAS.TIPO = '2' AND FP_ESOCIALTABELA.CODIGO IN ('15', '11'), - CALCULO.VALOR, CALCULO.VALOR)) VALOR
   %0:s
@@ -94,7 +94,7 @@ void TTarvoESocialCamposdetPgtoAnt::CarregarListaInfoPagtoAnt(const TListaCampos
     const auto LVigencia = FormatarDataDB(FInfoBind.DataInicioVigencia, true);
     const auto LAnterior = Format(COMPLEMENTAR_ANTERIOR, LVigencia);
     const auto Ramo = [&](std::string_view AOrigem, const std::string& AFiltro, std::string_view ACodigos) {
-        return Format(RAMO, AOrigem, AFiltro, ACodigos, LEmpregados, LPagto);
+        return Format(RAMO_ANTERIOR, AOrigem, AFiltro, ACodigos, LEmpregados, LPagto);
     };
     const auto LCds = TTarvoConsultasGeral::BuscarRegistrosSomenteLeitura(
         Format(SQL_PAGAMENTOS_ANTERIORES,

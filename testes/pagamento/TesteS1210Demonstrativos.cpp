@@ -267,13 +267,13 @@ TEST_F(TTesteDemonstrativos, CadaDemonstrativoTomaSoAsSuasLinhas)
     Calculo({.Verba = vLiquido});
     Calculo({.Verba = vIrrf, .Valor = 10});
     Verba(27, "99G");
-    const auto FEV1 = D(2021, 2, 1);
+    const auto INICIO_DE_FEVEREIRO = D(2021, 2, 1);
     const auto ABR5 = D(2021, 4, 5);
     for (const int LVerba : {int{vLiquido}, int{vIrrf}, 27}) {
         Calculo({.Verba = LVerba, .Valor = 1, .Empregado = 2});
         Calculo({.Verba = LVerba, .Valor = 2, .Tipo = "02"});
         Calculo({.Verba = LVerba, .Valor = 3, .Subtipo = 1});
-        Calculo({.Verba = LVerba, .Valor = 4, .Inicio = FEV1});
+        Calculo({.Verba = LVerba, .Valor = 4, .Inicio = INICIO_DE_FEVEREIRO});
         Calculo({.Verba = LVerba, .Valor = 5, .Pagto = ABR5});
     }
     const auto LPagamento = Carregar();

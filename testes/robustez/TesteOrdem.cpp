@@ -21,17 +21,20 @@ constexpr const char* COPIA = "ORDEM$";
 struct TTabela {
     std::string Nome;
     std::vector<std::string> Colunas;
+    bool ChaveNumerica = false;
 };
 
 /// The tables with their columns; the first of them is the key.
 std::vector<TTabela> LerTabelas()
 {
-    static constexpr std::string_view SQL = "SELECT TRIM(F.RDB$RELATION_NAME), TRIM(F.RDB$FIELD_NAME)\n"
-                                            "FROM RDB$RELATION_FIELDS F\n"
-                                            "JOIN RDB$RELATIONS R ON (R.RDB$RELATION_NAME = F.RDB$RELATION_NAME)\n"
-                                            "WHERE R.RDB$SYSTEM_FLAG = 0\n"
-                                            "  AND F.RDB$RELATION_NAME NOT STARTING 'ORDEM'\n"
-                                            "ORDER BY 1, F.RDB$FIELD_POSITION";
+    static constexpr std::string_view SQL =
+        R"(SELECT TRIM(F.RDB$RELATION_NAME), TRIM(F.RDB$FIELD_NAME), IIF(D.RDB$FIELD_TYPE IN (7, 8, 16), 1, 0)
+FROM RDB$RELATION_FIELDS F
+JOIN RDB$FIELDS D ON (D.RDB$FIELD_NAME = F.RDB$FIELD_SOURCE)
+JOIN RDB$RELATIONS R ON (R.RDB$RELATION_NAME = F.RDB$RELATION_NAME)
+WHERE R.RDB$SYSTEM_FLAG = 0
+  AND F.RDB$RELATION_NAME NOT STARTING 'ORDEM'
+ORDER BY 1, F.RDB$FIELD_POSITION)";
     std::vector<TTabela> LTabelas;
     const auto LLinhas = OvraConnection().Consultar(SQL);
     for (std::size_t i = 0; i < LLinhas.QuantidadeDeLinhas(); ++i) {

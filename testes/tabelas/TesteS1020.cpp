@@ -7,19 +7,19 @@ namespace {
 
 using namespace tabelas;
 
-const auto HOJE = D(2021, 3, 1);
+const auto DATA_DO_EVENTO = D(2021, 3, 1);
 constexpr TChaveDeConfiguracao FPAS_DO_ESTAB{90, 51, 2};
 constexpr TChaveDeConfiguracao FPAS_DO_DEPTO{90, 18, 2};
 constexpr TChaveDeConfiguracao CLASSIFICACAO{90, 38, 1};
 
 class TTesteS1020 : public TTesteComLugar {
 protected:
-    static std::string Dados(std::int64_t AEstab, std::int64_t ADepto, TDateTime AData = HOJE)
+    static std::string Dados(std::int64_t AEstab, std::int64_t ADepto, TDateTime AData = DATA_DO_EVENTO)
     {
         const auto LGrupo = Carregar<TTarvoESocialCamposDadosLotacao>(AEstab, ADepto, AData);
         return LGrupo->tpLotacao + "/" + LGrupo->tpInsc + "/" + LGrupo->nrInsc;
     }
-    static std::string Fpas(std::int64_t AEstab, std::int64_t ADepto, TDateTime AData = HOJE)
+    static std::string Fpas(std::int64_t AEstab, std::int64_t ADepto, TDateTime AData = DATA_DO_EVENTO)
     {
         const auto LGrupo = Carregar<TTarvoESocialCamposFPASLotacao>(AEstab, ADepto, AData);
         return LGrupo->Fpas + "/" + LGrupo->CodTercs + "/" + LGrupo->CodTercsSusp;
@@ -56,7 +56,7 @@ TEST_F(TTesteS1020, ODepartamentoVenceMasOsSuspensosSaoDoEstabelecimento)
     Executar("UPDATE SC00_DEPARTAMENTOCFG SET INFORMACAO3 = '3'");
     Executar("UPDATE FP_FPASPERCENTUAIS SET SENAI = 1, SESI = 1.5");
     const auto Resumo = [](std::int64_t AEstab, std::int64_t ADepto) {
-        const auto LEvento = Carregar<TTarvoESocialCamposS1020>(AEstab, ADepto, HOJE);
+        const auto LEvento = Carregar<TTarvoESocialCamposS1020>(AEstab, ADepto, DATA_DO_EVENTO);
         const auto& LLotacao = LEvento->InfoLotacao;
         std::string LTexto = LLotacao.IdeLotacao.codLotacao + " " + LLotacao.DadosLotacao.nrInsc + " " +
                              LLotacao.DadosLotacao.FpasLotacao.CodTercsSusp + ":";
@@ -225,11 +225,11 @@ TEST_F(TTesteS1020, SemProcessoNaoHaSuspensos)
 TEST_F(TTesteS1020, CodigoDeSuspensosQueNaoEhNumeroFalhaNaConstrucao)
 {
     Configurar(SC00_FILIALCFG, FPAS_DO_ESTAB, SEMPRE, nullptr, nullptr, nullptr, "doze", "3");
-    EXPECT_THROW(TTarvoESocialCamposS1020(1, 0, HOJE), EDatabaseError);
+    EXPECT_THROW(TTarvoESocialCamposS1020(1, 0, DATA_DO_EVENTO), EDatabaseError);
     Executar("UPDATE SC00_FILIALCFG SET INFORMACAO8 = '1', INFORMACAO9 = 'P3'");
-    EXPECT_THROW(TTarvoESocialCamposS1020(1, 0, HOJE), EConvertError);
+    EXPECT_THROW(TTarvoESocialCamposS1020(1, 0, DATA_DO_EVENTO), EConvertError);
     Executar("UPDATE SC00_FILIALCFG SET INFORMACAO8 = '0'");
-    EXPECT_NO_THROW(TTarvoESocialCamposS1020(1, 0, HOJE));
+    EXPECT_NO_THROW(TTarvoESocialCamposS1020(1, 0, DATA_DO_EVENTO));
 }
 
 TEST_F(TTesteS1020, EmpreitadaParcialSoDoDepartamento)

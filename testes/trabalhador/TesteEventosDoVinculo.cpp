@@ -13,8 +13,6 @@ namespace {
 
 using namespace trabalhador;
 
-const TListaCamposModificados NENHUM{"{nenhum}"};
-
 class TTesteAfastamentoTemporario : public TTesteComTrabalhador {
 protected:
     void SetUp() override

@@ -7,8 +7,6 @@ namespace {
 
 using namespace trabalhador;
 
-const TListaCamposModificados NENHUM{"{nenhum}"};
-
 class TTesteInfoContrato : public TTesteComTrabalhador {
 protected:
     void SetUp() override

@@ -7,8 +7,6 @@ namespace {
 
 using namespace trabalhador;
 
-const TListaCamposModificados NENHUM{"{nenhum}"};
-
 class TTesteVinculo : public TTesteComTrabalhador {
 protected:
     static std::string Regimes(TDateTime AData)

@@ -8,6 +8,9 @@
 
 namespace tarvo::testes {
 
+/// A list that leaves every group out.
+inline const TListaCamposModificados NENHUM{"{nenhum}"};
+
 /// One company, one establishment with three departments, one worker (7) admitted on 1 February 2021 into the first.
 class TTesteComTrabalhador : public TTesteComBanco {
 protected:
