@@ -38,6 +38,41 @@ constexpr std::string_view COLUNAS_DA_QUEBRA = R"(
   TAB_VERBAS.FORMULA,
   TAB_VERBAS.VLR_CALC)";
 
+// By place and rubric, then by the keys that tell two rows of one rubric apart.
+constexpr std::string_view ORDEM_DO_CALCULO =
+    "ORDER BY CALCULO.COD_FILIAL, CALCULO.COD_DEPTO, CALCULO.COD_VERBA, CALCULO.IDCALCULO, TAB_VERBAS.IDVERBA";
+
+/// Split rows where there are any, else the row of CALCULO. Of a rubric's rows the lowest key comes last: a merged item
+/// shows the quantity of its last row. ADaQuebra and ADoCalculo are the branches from their FROM on.
+std::string UnirQuebraECalculo(const std::string& ADaQuebra, const std::string& ADoCalculo)
+{
+    // Grouped by all its columns, with the key of its first row, a split row is there once, as by DISTINCT. The
+    // branches have no row in common.
+    static constexpr std::string_view SQL = R"(SELECT
+  IDCALCULO,
+  COD_VERBA,
+  BASE,
+  REFERENCIA,
+  VALOR,
+  DIASTRAB,
+  IDVERBA,
+  HORAS,
+  FORMULA,
+  VLR_CALC
+FROM (
+SELECT%0:s,
+  MIN(CALC_QUEBRA.IDCALCQUEBRA) AS IDCALCQUEBRA
+%2:s
+GROUP BY%0:s
+UNION
+SELECT DISTINCT%1:s,
+  0 AS IDCALCQUEBRA
+%3:s
+)
+ORDER BY COD_VERBA, IDCALCULO DESC, IDCALCQUEBRA DESC, IDVERBA DESC)";
+    return Format(SQL, COLUNAS_DA_QUEBRA, COLUNAS_DO_CALCULO, ADaQuebra, ADoCalculo);
+}
+
 // The short list lets '99H' through: the normal payroll adds its value to '7L' before the row goes.
 constexpr std::string_view LISTA_CURTA = "TAB_VERBAS.FORMULA NOT IN ('99F', '99G','99GA', '99HA','99I', '99K', '99M')";
 constexpr std::string_view LISTA_LONGA =
@@ -283,7 +318,7 @@ WHERE FP_ESOCIALTABELA.CODIGO NOT IN ('9203')
   AND RPAVALOR.VALOR > 0
   AND RPA.%2:S = %3:D
   AND RPA.%2:S = %3:D
-ORDER BY RPATPVALOR.SEQUENCIA )";
+ORDER BY RPATPVALOR.SEQUENCIA, RPAVALOR.IDRPAVALOR, FP_RUBRICARELACRPA.IDRUBRICARELACRPA)";
     return TTarvoConsultasGeral::BuscarRegistrosSomenteLeitura(Format(SQL, FInfoBind.IdEmpregado(),
                                                                       FInfoBind.NrReciboRpa, ColunaDaLotacao(),
                                                                       IdDaLotacao(), tabelas::ORIGEM_DA_RUBRICA_RPA));
@@ -297,39 +332,31 @@ TDataset TTarvoESocialCamposS1200DadosCalculo::BuscarPorTipoDeQuebra() const
 TDataset TTarvoESocialCamposS1200DadosCalculo::BuscarComplementar(const std::string& ACondicoes,
                                                                   std::string_view AJuncaoDoAcordo)
 {
-    // %1 and %3 join the break table and the agreement where the branch has them.
-    static constexpr std::string_view SQL = R"(SELECT DISTINCT%0:s
-FROM CALCCOMPL
+    // %0 and %2 join the break table and the agreement where the branch has them.
+    static constexpr std::string_view ORIGEM = R"(FROM CALCCOMPL
 JOIN CALCCOMPLPER ON (CALCCOMPL.IDCALCCOMPL=CALCCOMPLPER.IDCALCCOMPL)
 JOIN FP_CALCCOMPLEMPREG ON (FP_CALCCOMPLEMPREG.IDCALCCOMPL=CALCCOMPL.IDCALCCOMPL)
 JOIN CALCULO ON (CALCULO.DATA_INICIO>=CALCCOMPLPER.DATA_INICIO
              AND CALCULO.DATA_FIM<=CALCCOMPLPER.DATA_FIM
              AND CALCULO.DATA_PAGTO=CALCCOMPLPER.COMPET_PGTO
              AND CALCULO.IDEMPREGADO=FP_CALCCOMPLEMPREG.IDEMPREGADO)
-%1:sJOIN TAB_VERBAS ON (CALCULO.COD_VERBA = TAB_VERBAS.CODIGO)
-%3:sJOIN SC00_FILIAL ON (CALCULO.IDFILIAL = SC00_FILIAL.IDFILIAL)
+%0:sJOIN TAB_VERBAS ON (CALCULO.COD_VERBA = TAB_VERBAS.CODIGO)
+%2:sJOIN SC00_FILIAL ON (CALCULO.IDFILIAL = SC00_FILIAL.IDFILIAL)
 LEFT JOIN SC00_DEPTO ON (CALCULO.IDDEPARTAMENTO = SC00_DEPTO.IDDEPTO)
-WHERE %2:s)";
-    // No filter by establishment here; that is meant.
-    static constexpr std::string_view SQL_QUEBRA = R"(SELECT * FROM(
-%0:s
-  AND COALESCE(CALC_QUEBRA.IDDEPARTAMENTO, 0) = %2:d
-UNION
-%1:s
-  AND COALESCE(CALCULO.IDDEPARTAMENTO, 0) = %2:d
-  AND %3:s
-)
-ORDER BY COD_VERBA)";
+WHERE %1:s)";
     static constexpr std::string_view JUNCAO_DA_QUEBRA =
         "JOIN CALC_QUEBRA ON (CALC_QUEBRA.IDCALCULO = CALCULO.IDCALCULO)\n";
 
-    const auto LDoCalculo = Format(SQL, COLUNAS_DO_CALCULO, "", ACondicoes, AJuncaoDoAcordo);
-    FSqlCalc = LDoCalculo + CaudaDaLotacao();
+    const auto LDoCalculo = Format(ORIGEM, "", ACondicoes, AJuncaoDoAcordo);
+    FSqlCalc = Format("SELECT DISTINCT%0:s\n%1:s\n%2:s", COLUNAS_DO_CALCULO, LDoCalculo, CaudaDaLotacao());
     // A thirteenth salary is never split.
     if (FInfoBind.TipoFolha() == 3)
         return TTarvoConsultasGeral::BuscarRegistrosSomenteLeitura(FSqlCalc);
-    FSqlCalcQuebra = Format(SQL_QUEBRA, Format(SQL, COLUNAS_DA_QUEBRA, JUNCAO_DA_QUEBRA, ACondicoes, AJuncaoDoAcordo),
-                            LDoCalculo, FIdDepto, CALCULO_SEM_QUEBRA);
+    // No filter by establishment here; that is meant.
+    FSqlCalcQuebra = UnirQuebraECalculo(Format("%0:s\n  AND COALESCE(CALC_QUEBRA.IDDEPARTAMENTO, 0) = %1:d",
+                                               Format(ORIGEM, JUNCAO_DA_QUEBRA, ACondicoes, AJuncaoDoAcordo), FIdDepto),
+                                        Format("%0:s\n  AND COALESCE(CALCULO.IDDEPARTAMENTO, 0) = %1:d\n  AND %2:s",
+                                               LDoCalculo, FIdDepto, CALCULO_SEM_QUEBRA));
     return BuscarPorTipoDeQuebra();
 }
 
@@ -342,46 +369,36 @@ WHERE CALCULO.IDEMPREGADO = %0:D
   AND CALCULO.%1:S = %2:D
   AND CALCULO.TIPO = %3:S
   AND %4:s
-ORDER BY CALCULO.COD_FILIAL, CALCULO.COD_DEPTO, CALCULO.COD_VERBA)";
+%6:s)";
     return Format(SQL, FInfoBind.IdEmpregado(), ColunaDaLotacao(), IdDaLotacao(), TipoFolhaEntreAspas(), ACondicoes,
-                  COLUNAS_DO_CALCULO);
+                  COLUNAS_DO_CALCULO, ORDEM_DO_CALCULO);
 }
 
-// Split rows where there are any, else the row of CALCULO. By establishment only rows without a department count.
+// By establishment only rows without a department count.
 std::string TTarvoESocialCamposS1200DadosCalculo::SqlDaQuebra(const std::string& ACondicoes) const
 {
-    static constexpr std::string_view SQL = R"(SELECT * FROM(
-SELECT DISTINCT%6:s
-FROM CALC_QUEBRA
-JOIN CALCULO ON (CALCULO.IDCALCULO = CALC_QUEBRA.IDCALCULO)
+    static constexpr std::string_view ORIGEM_DA_QUEBRA = R"(FROM CALC_QUEBRA
+JOIN CALCULO ON (CALCULO.IDCALCULO = CALC_QUEBRA.IDCALCULO))";
+    static constexpr std::string_view RAMO = R"(%6:s
 JOIN TAB_VERBAS ON (CALCULO.COD_VERBA = TAB_VERBAS.CODIGO)
 WHERE CALCULO.IDEMPREGADO = %0:D
-  AND CALC_QUEBRA.%1:S = %2:D
-  AND COALESCE(CALC_QUEBRA.IDDEPARTAMENTO, 0) = %5:D
+  AND %7:s.%1:S = %2:D
+  AND COALESCE(%7:s.IDDEPARTAMENTO, 0) = %5:D
   AND CALCULO.TIPO = %3:S
-  AND %4:s
-UNION
-SELECT DISTINCT%7:s
-FROM CALCULO
-JOIN TAB_VERBAS ON (CALCULO.COD_VERBA = TAB_VERBAS.CODIGO)
-WHERE CALCULO.IDEMPREGADO = %0:D
-  AND CALCULO.%1:S = %2:D
-  AND COALESCE(CALCULO.IDDEPARTAMENTO, 0) = %5:D
-  AND CALCULO.TIPO = %3:S
-  AND %4:s
-  AND %8:s
-)
-ORDER BY COD_VERBA)";
-    return Format(SQL, FInfoBind.IdEmpregado(), ColunaDaLotacao(), IdDaLotacao(), TipoFolhaEntreAspas(), ACondicoes,
-                  FIdDepto, COLUNAS_DA_QUEBRA, COLUNAS_DO_CALCULO, CALCULO_SEM_QUEBRA);
+  AND %4:s)";
+    const auto Ramo = [&](std::string_view AOrigem, std::string_view ATabela) {
+        return Format(RAMO, FInfoBind.IdEmpregado(), ColunaDaLotacao(), IdDaLotacao(), TipoFolhaEntreAspas(),
+                      ACondicoes, FIdDepto, AOrigem, ATabela);
+    };
+    return UnirQuebraECalculo(Ramo(ORIGEM_DA_QUEBRA, "CALC_QUEBRA"),
+                              Format("%0:s\n  AND %1:s", Ramo("FROM CALCULO", "CALCULO"), CALCULO_SEM_QUEBRA));
 }
 
 std::string TTarvoESocialCamposS1200DadosCalculo::CaudaDaLotacao() const
 {
-    static constexpr std::string_view ORDEM = " ORDER BY CALCULO.COD_FILIAL, CALCULO.COD_DEPTO, CALCULO.COD_VERBA ";
-    return (FIdDepto != 0 ? Format(" AND SC00_DEPTO.IDDEPTO = %0:d", FIdDepto)
-                          : Format(" AND SC00_FILIAL.IDFILIAL = %0:d", FIdFilial)) +
-           std::string(ORDEM);
+    return (FIdDepto != 0 ? Format("  AND SC00_DEPTO.IDDEPTO = %0:d\n", FIdDepto)
+                          : Format("  AND SC00_FILIAL.IDFILIAL = %0:d\n", FIdFilial)) +
+           std::string(ORDEM_DO_CALCULO);
 }
 
 std::string TTarvoESocialCamposS1200DadosCalculo::TipoFolhaEntreAspas() const
