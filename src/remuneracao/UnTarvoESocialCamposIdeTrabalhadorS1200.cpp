@@ -26,24 +26,28 @@ const TPropriedades& TTarvoESocialCamposIdeTrabalhadorS1200::Tabela()
 
 std::string TTarvoESocialCamposIdeTrabalhadorS1200::BuscarSQLDados()
 {
-    // The third branch serves an event that is generated after the dismissal.
-    static constexpr std::string_view SQL = R"(SELECT * FROM (
-SELECT 1 AS ORDEM, EMPREGADOS.PIS AS NIS
+    // The third branch serves an event that is generated after the dismissal. Each NIS is there once a branch, as by
+    // DISTINCT, with the first contract or provider that has it; one that is empty comes after all the others.
+    static constexpr std::string_view SQL = R"(SELECT ORDEM, NIS FROM (
+SELECT 1 AS ORDEM, EMPREGADOS.PIS AS NIS, MIN(EMPREGADOS.IDEMPREGADO) AS ID
 FROM EMPREGADOS
 WHERE EMPREGADOS.CPF = '%0:S'
   AND EMPREGADOS.IDEMPRESA = %1:D
   AND (EMPREGADOS.DATA_DEMISSAO > %2:S OR EMPREGADOS.DATA_DEMISSAO IS NULL)
+GROUP BY EMPREGADOS.PIS
 UNION
-SELECT 2 AS ORDEM, PREST_SERVICO.INSCRICAO AS NIS
+SELECT 2 AS ORDEM, PREST_SERVICO.INSCRICAO AS NIS, MIN(PREST_SERVICO.IDPRESTSERVICO) AS ID
 FROM PREST_SERVICO
 WHERE PREST_SERVICO.CPF = TRIM(REPLACE(REPLACE('%0:S','-',''),'.',''))
+GROUP BY PREST_SERVICO.INSCRICAO
 UNION
-SELECT 3 AS ORDEM, EMPREGADOS.PIS AS NIS
+SELECT 3 AS ORDEM, EMPREGADOS.PIS AS NIS, MIN(EMPREGADOS.IDEMPREGADO) AS ID
 FROM EMPREGADOS
 WHERE EMPREGADOS.CPF = '%0:S'
   AND EMPREGADOS.IDEMPRESA = %1:D
+GROUP BY EMPREGADOS.PIS
 )
-ORDER BY ORDEM)";
+ORDER BY IIF(NIS <> '', 0, 1), ORDEM, ID)";
     return Format(SQL, FInfoBind.Cpf(), FInfoBind.IdEmpresa(), FormatarDataDB(FInfoBind.DataInicio(), true));
 }
 
