@@ -50,7 +50,8 @@ void TTarvoESocialCamposIdeEstabLotS1200::FiltrarTrabalhadoresPorLotacao()
 FROM RPA
 WHERE RPA.DATAPAGTO BETWEEN %1:s AND %2:s
   AND RPA.IDPRESTSERVICO IN (%0:s)
-  AND RPA.%4:s = %3:d)";
+  AND RPA.%4:s = %3:d
+ORDER BY RPA.IDPRESTSERVICO)";
     // In a department a calculation counts only when a date of it is the last day of the period. The difference to the
     // establishment is meant.
     const auto LInicio = IdDepto == 0 ? FInfoBind.DataInicio() : FInfoBind.DataFim();

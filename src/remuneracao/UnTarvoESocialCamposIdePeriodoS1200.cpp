@@ -66,7 +66,7 @@ void TTarvoESocialCamposIdePeriodoS1200::CarregarLotacoesDoEmpregado()
   COALESCE(SC00_DEPTO.TIPODEPTO, 0) TIPODEPTO)";
     const auto LCds = TTarvoConsultasGeral::BuscarRegistros(SqlCalculosPorLotacao(
         COLUNAS, FInfoBind.ListaIdsEmpregado(), PrimeiroDiaDoMes(FInfoBind.PerRef), UltimoDiaDoMes(FInfoBind.PerRef),
-        true, Format("SC00_EMPRESA.IDEMPRESA = %0:D", FInfoBind.IdEmpresa())));
+        true, Format("SC00_EMPRESA.IDEMPRESA = %0:D", FInfoBind.IdEmpresa()), "1, 2"));
     for (; !LCds->Eof(); LCds->Next()) {
         const auto LIdDepto = LCds->FieldByName("IDDEPTO").AsLargeInt();
         const auto LTipoDepto = LCds->FieldByName("TIPODEPTO").AsInteger();
@@ -91,7 +91,8 @@ WHERE CALCULO.TIPO = '05'
                                AND RESCISAOCOMPLEMENTAR.SUBTIPO = 2
                                %0:s
                                AND RESCISAOCOMPLEMENTAR.DATA_PAGTO = %1:s
-                             ORDER BY RESCISAOCOMPLEMENTAR.DATA_PAGTO DESC))";
+                             ORDER BY RESCISAOCOMPLEMENTAR.DATA_PAGTO DESC, RESCISAOCOMPLEMENTAR.IDCALCULO)
+ORDER BY CALCULO.DATA_INICIO)";
     return TTarvoConsultasGeral::BuscarData(Format(
         SQL,
         FormatarListaParaClausulaIN("RESCISAOCOMPLEMENTAR", "IDEMPREGADO",

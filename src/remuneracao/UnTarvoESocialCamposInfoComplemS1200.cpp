@@ -31,7 +31,8 @@ std::string TTarvoESocialCamposInfoComplemS1200::BuscarSQLDados()
   PREST_SERVICO.CBO,
   0 AS TIPOVINCULO
 FROM PREST_SERVICO
-WHERE PREST_SERVICO.CPF = '%0:S')";
+WHERE PREST_SERVICO.CPF = '%0:S'
+ORDER BY PREST_SERVICO.IDPRESTSERVICO)";
     return Format(SQL, TTarvoUtilsStrings::RemoverCaracteresEspeciais(FInfoBind.Cpf()));
 }
 

@@ -1,5 +1,6 @@
 #include "remuneracao/UnTarvoESocialCamposInfoMVS1200.h"
 
+#include "framework/UnTarvoESocialCamposSqlCalculo.h"
 #include "imports/UnOvraConversoes.h"
 #include "imports/UnOvraFormat.h"
 #include "imports/UnTarvoConsultasGeral.h"
@@ -137,7 +138,8 @@ WHERE FP_RPAOUTROSREND.DATAPAGTO BETWEEN %1:s AND %2:s
   GERAL.CODIGO,
   SUM(GERAL.VALOR) AS VALOR
 FROM ( %0:s ) AS GERAL
-GROUP BY GERAL.TPINSCRICAO, GERAL.INSCRICAO, GERAL.CODIGO)";
+GROUP BY GERAL.TPINSCRICAO, GERAL.INSCRICAO, GERAL.CODIGO
+ORDER BY GERAL.TPINSCRICAO, GERAL.INSCRICAO, GERAL.CODIGO)";
     const auto LIdEmpresa = FInfoBind.IdEmpresa();
     return Format(SQL_GERAL,
                   Format(SQL, FInfoBind.Cpf(), FormatarDataDB(FInfoBind.DataInicio(), true),
@@ -156,7 +158,8 @@ void TTarvoESocialCamposInfoMVS1200::CarregarDadosremunOutrEmpr()
         LRemuneracao->tpInsc = LCds->FieldByName("TPINSCRICAO").AsString();
         LRemuneracao->nrInsc = LCds->FieldByName("INSCRICAO").AsString();
         LRemuneracao->codCateg = LCds->FieldByName("CODIGO").AsInteger();
-        LRemuneracao->vlrRemunOE = LCds->FieldByName("VALOR").AsFloat();
+        // A binary sum would hang on the order of its rows.
+        LRemuneracao->vlrRemunOE = SomarQuantias(LCds->FieldByName("VALOR").AsFloat(), 0);
         remunOutrEmpr.push_back(std::move(LRemuneracao));
     }
 }

@@ -72,7 +72,8 @@ SELECT DISTINCT CALC_QUEBRA.IDFILIAL, COALESCE(CALC_QUEBRA.IDDEPARTAMENTO, 0) ID
 FROM CALCULO
 JOIN CALC_QUEBRA ON (CALCULO.IDCALCULO = CALC_QUEBRA.IDCALCULO)
 WHERE (CALCULO.DATA_INICIO BETWEEN %1:S AND %2:S OR CALCULO.DATA_FIM BETWEEN %1:S AND %2:S )
-  AND CALCULO.IDEMPREGADO IN (%0:S))";
+  AND CALCULO.IDEMPREGADO IN (%0:S)
+ORDER BY 1, 2)";
     CarregarLotacoes(Format(SQL, TTarvoUtilsGeral::ConverterTListParaMultisselecao(FInfoBind.ListaIdsEmpregado()),
                             FormatarDataDB(FInfoBind.DataInicio(), true), FormatarDataDB(FInfoBind.DataFim(), true)));
 }
@@ -84,7 +85,8 @@ FROM RPA
 JOIN SC00_FILIAL ON (RPA.IDFILIAL = SC00_FILIAL.IDFILIAL)
 WHERE RPA.IDPRESTSERVICO IN (%0:s)
   AND SC00_FILIAL.IDEMPRESA = %1:d
-  AND RPA.DATAPAGTO BETWEEN %2:s AND %3:s)";
+  AND RPA.DATAPAGTO BETWEEN %2:s AND %3:s
+ORDER BY 1, 2)";
     CarregarLotacoes(Format(SQL, TTarvoUtilsGeral::ConverterTListParaMultisselecao(FInfoBind.ListaIdsPrestServico()),
                             FInfoBind.IdEmpresa(), FormatarDataDB(FInfoBind.DataInicio(), true),
                             FormatarDataDB(FInfoBind.DataFim(), true)));

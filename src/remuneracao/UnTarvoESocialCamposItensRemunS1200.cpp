@@ -38,8 +38,10 @@ std::string TTarvoESocialCamposItensRemunS1200::BuscarSQLDados()
 {
     static constexpr std::string_view SQL = R"(SELECT FIRST 1 SC00_EMPRESACFG.INFORMACAO1 IDETABRUBR
 FROM SC00_EMPRESACFG
-WHERE %0:s)";
-    return Format(SQL, CondicaoDaChave(SC00_EMPRESACFG, FInfoBind.IdEmpresa(), {90, 38, 13}));
+WHERE %0:s
+ORDER BY IIF(%1:s, 0, 1), SC00_EMPRESACFG.DATAINICIO DESC, SC00_EMPRESACFG.IDEMPRESACFG)";
+    return Format(SQL, CondicaoDaChave(SC00_EMPRESACFG, FInfoBind.IdEmpresa(), {90, 38, 13}),
+                  CondicaoDaValidade(SC00_EMPRESACFG, FInfoBind.DataInicio()));
 }
 
 void TTarvoESocialCamposItensRemunS1200::CarregarDados(const TListaCamposModificados* AListaCamposModificados,

@@ -10,7 +10,8 @@
 namespace tarvo::remuneracao {
 
 std::string SqlCalculosPorLotacao(std::string_view AColunas, const std::vector<std::int64_t>& AIdsEmpregado,
-                                  TDateTime ADataInicio, TDateTime ADataFim, bool AComDepto, std::string_view ACondicao)
+                                  TDateTime ADataInicio, TDateTime ADataFim, bool AComDepto, std::string_view ACondicao,
+                                  std::string_view AOrdem)
 {
     static constexpr std::string_view RAMO = R"(SELECT DISTINCT %3:s
 FROM %4:s
@@ -29,7 +30,8 @@ WHERE (CALCULO.DATA_INICIO BETWEEN %1:S AND %2:S OR CALCULO.DATA_FIM BETWEEN %1:
                       ATabela, AComDepto ? Format(JUNCAO_DO_DEPTO, ATabela) : std::string(), ACondicao);
     };
     return Ramo("CALCULO", "CALCULO") + "\nUNION\n" +
-           Ramo("CALCULO\nJOIN CALC_QUEBRA ON (CALCULO.IDCALCULO = CALC_QUEBRA.IDCALCULO)", "CALC_QUEBRA");
+           Ramo("CALCULO\nJOIN CALC_QUEBRA ON (CALCULO.IDCALCULO = CALC_QUEBRA.IDCALCULO)", "CALC_QUEBRA") +
+           Format("\nORDER BY %0:s", AOrdem);
 }
 
 std::vector<std::int64_t> BuscarEmpregadosDaLotacao(const std::vector<std::int64_t>& AIdsEmpregado,
@@ -39,7 +41,7 @@ std::vector<std::int64_t> BuscarEmpregadosDaLotacao(const std::vector<std::int64
     const auto LCondicao = AIdDepto == 0 ? Format("SC00_FILIAL.IDFILIAL = %0:D", AIdFilial)
                                          : Format("SC00_DEPTO.IDDEPTO = %0:D", AIdDepto);
     return TTarvoConsultasGeral::BuscarListaDeIds(SqlCalculosPorLotacao(
-        "EMPREGADOS.IDEMPREGADO", AIdsEmpregado, ADataInicio, ADataFim, AIdDepto != 0, LCondicao));
+        "EMPREGADOS.IDEMPREGADO", AIdsEmpregado, ADataInicio, ADataFim, AIdDepto != 0, LCondicao, "1"));
 }
 
 void AdicionarSemRepetir(std::vector<std::int64_t>& ALista, std::int64_t AId)

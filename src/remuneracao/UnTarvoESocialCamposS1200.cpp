@@ -56,9 +56,12 @@ constexpr std::string_view DA_EMPRESA_NO_MES = R"(CALCULO.DATA_INICIO BETWEEN %1
 std::string SqlDasFolhas(tpIndApuracao AIndApuracao)
 {
     const auto NoMes = [](std::string_view ACondicao) { return std::string(DA_EMPRESA_NO_MES).append(ACondicao); };
+    // A run is told by its columns alone: their order is the whole order.
+    const std::string LOrdem = "\nORDER BY 1, 2, 3, 4, 5, 6, 7, 8, 9";
     if (AIndApuracao == tpIndApuracao::Anual)
         return SqlDoRamo({2, SEM_DATA, "CALCULO.SUBTIPO", "0", "0", "0", "CALCULO",
-                          NoMes("CALCULO.TIPO IN ('03')\n  AND CALCULO.SUBTIPO = 0")});
+                          NoMes("CALCULO.TIPO IN ('03')\n  AND CALCULO.SUBTIPO = 0")}) +
+               LOrdem;
 
     const auto LComplementar = "CALCULO\n" + std::string(JUNCAO_CALCULO_COMPLEMENTAR);
     const auto LPorAcordo = LComplementar + "\n" + std::string(JUNCAO_ACORDO);
@@ -91,7 +94,7 @@ std::string SqlDasFolhas(tpIndApuracao AIndApuracao)
     std::string LSql;
     for (const auto& LRamo : LRamos)
         LSql += (LSql.empty() ? "" : "\nUNION\n") + SqlDoRamo(LRamo);
-    return LSql;
+    return LSql + LOrdem;
 }
 
 } // namespace
@@ -129,11 +132,13 @@ void TTarvoESocialCamposS1200::BuscarCategoriasEmpregado()
 FROM EMPREGADOS
 JOIN FP_ESOCIALTABELA ON ( EMPREGADOS.IDCATEGORIAESOCIAL = FP_ESOCIALTABELA.IDESOCIALTABELA)
 WHERE EMPREGADOS.CPF = '%0:s'
-  AND EMPREGADOS.IDEMPRESA = %1:d;)";
+  AND EMPREGADOS.IDEMPRESA = %1:d
+ORDER BY FP_ESOCIALTABELA.CODIGO;)";
     static constexpr std::string_view SQL_PRESTADORES = R"(SELECT DISTINCT FP_ESOCIALTABELA.CODIGO
 FROM PREST_SERVICO
 JOIN FP_ESOCIALTABELA ON ( PREST_SERVICO.IDCATEGORIAESOCIAL=FP_ESOCIALTABELA.IDESOCIALTABELA)
-WHERE PREST_SERVICO.CPF = '%0:s';)";
+WHERE PREST_SERVICO.CPF = '%0:s'
+ORDER BY FP_ESOCIALTABELA.CODIGO;)";
     for (const auto& LSql :
          {Format(SQL_EMPREGADOS, FInfoBind.Cpf(), FInfoBind.IdEmpresa()),
           Format(SQL_PRESTADORES, TTarvoUtilsStrings::RemoverCaracteresEspeciais(FInfoBind.Cpf()))}) {
@@ -153,13 +158,15 @@ JOIN FP_ESOCIALTABELA ON ( EMPREGADOS.IDCATEGORIAESOCIAL=FP_ESOCIALTABELA.IDESOC
                        AND FP_ESOCIALTABELA.TABELA = 1)
 WHERE EMPREGADOS.CPF = '%0:s'
   AND FP_ESOCIALTABELA.CODIGO STARTING WITH '%1:D'
-  AND EMPREGADOS.IDEMPRESA = %2:d)";
+  AND EMPREGADOS.IDEMPRESA = %2:d
+ORDER BY EMPREGADOS.IDEMPREGADO)";
     static constexpr std::string_view SQL_PRESTADORES = R"(SELECT DISTINCT PREST_SERVICO.IDPRESTSERVICO
 FROM PREST_SERVICO
 JOIN FP_ESOCIALTABELA ON ( PREST_SERVICO.IDCATEGORIAESOCIAL=FP_ESOCIALTABELA.IDESOCIALTABELA
                        AND FP_ESOCIALTABELA.TABELA = 1)
 WHERE PREST_SERVICO.CPF = '%0:s'
-  AND FP_ESOCIALTABELA.CODIGO = '%1:D')";
+  AND FP_ESOCIALTABELA.CODIGO = '%1:D'
+ORDER BY PREST_SERVICO.IDPRESTSERVICO)";
     FInfoBind.SetListaIdsEmpregado(TTarvoConsultasGeral::BuscarListaDeIds(
         Format(SQL_EMPREGADOS, FInfoBind.Cpf(), ACategoria, FInfoBind.IdEmpresa())));
     FInfoBind.SetListaIdsPrestServico(TTarvoConsultasGeral::BuscarListaDeIds(
@@ -215,7 +222,8 @@ JOIN SC00_FILIAL ON (RPA.IDFILIAL = SC00_FILIAL.IDFILIAL)
 LEFT JOIN SC00_DEPTO ON (RPA.IDDEPARTAMENTO = SC00_DEPTO.IDDEPTO AND RPA.IDFILIAL = SC00_FILIAL.IDFILIAL)
 WHERE RPA.IDPRESTSERVICO IN (%0:S)
   AND RPA.DATAPAGTO BETWEEN %1:S AND %2:S
-  AND SC00_FILIAL.IDEMPRESA = %3:d)";
+  AND SC00_FILIAL.IDEMPRESA = %3:d
+ORDER BY RPA.NRRPA, RPA.DATAPAGTO)";
     const auto LCds = TTarvoConsultasGeral::BuscarRegistrosSomenteLeitura(
         Format(SQL, TTarvoUtilsGeral::ConverterTListParaMultisselecao(FInfoBind.ListaIdsPrestServico()),
                FormatarDataDB(FInfoBind.DataInicio(), true), FormatarDataDB(FInfoBind.DataFim(), true),

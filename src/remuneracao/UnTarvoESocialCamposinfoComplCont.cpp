@@ -30,7 +30,8 @@ std::string TTarvoESocialCamposinfoComplCont::BuscarSQLDados()
 {
     static constexpr std::string_view SQL = R"(SELECT PREST_SERVICO.CBO, PREST_SERVICO.NATATIVIDADE
 FROM PREST_SERVICO
-WHERE PREST_SERVICO.CPF = '%0:S')";
+WHERE PREST_SERVICO.CPF = '%0:S'
+ORDER BY PREST_SERVICO.IDPRESTSERVICO)";
     return Format(SQL, TTarvoUtilsStrings::RemoverCaracteresEspeciais(FInfoBind.Cpf()));
 }
 
@@ -47,7 +48,7 @@ bool TTarvoESocialCamposinfoComplCont::ValidouClassTrib() const
     static constexpr std::string_view SQL = R"(SELECT FIRST 1 SC00_EMPRESACFG.INFORMACAO1
 FROM SC00_EMPRESACFG
 WHERE %0:s
-ORDER BY SC00_EMPRESACFG.DATAINICIO DESC)";
+ORDER BY SC00_EMPRESACFG.DATAINICIO DESC, SC00_EMPRESACFG.IDEMPRESACFG)";
     static constexpr std::array<std::int64_t, 5> CLASSIFICACOES{6, 7, 8, 21, 22};
     const auto LClassTrib =
         StrToInt64Def(TTarvoConsultasGeral::BuscarTexto(
