@@ -208,13 +208,7 @@ std::vector<TTesteOrdemS1200::TCaso> TTesteOrdemS1200::Casos()
              ATeste.Prestador(5, "11122233396", 701);
              ATeste.Recibo(1, 1234, 5, D(2021, 3, 5), 100);
              Executar("DELETE FROM RPAVALOR");
-             Inserir("RPATPVALOR", {{"IDRPATPVALOR", 2}, {"SEQUENCIA", 1}, {"NOME", "VLRX"}});
-             Inserir("FP_RUBRICARELACRPA", {{"IDRPATPVALOR", 2},
-                                            {"IDESOCIALTABELA", 3501},
-                                            {"IDESOCIALTABELACP", 9997},
-                                            {"IDESOCIALTABELAIRRF", 9998},
-                                            {"IDESOCIALTABELAFGTS", 9996},
-                                            {"IDESOCIALTABELACS", 9995}});
+             ATeste.TipoDeValor(2, 1, 3501);
          }},
         {"the providers of a receipt's number",
          {[](TTesteOrdemS1200& ATeste) { ATeste.Recibo(1, 1234, 5, D(2021, 3, 5), 100); },

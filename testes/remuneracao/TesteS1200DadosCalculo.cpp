@@ -350,14 +350,8 @@ TEST_F(TTesteDadosCalculo, ReciboTemCodigoCompostoEValorPositivo)
 {
     Prestador(5, "11122233396", 701);
     Recibo(1, 1234, 5, D(2021, 3, 5), 2000.005, 1, 10);
-    Inserir("RPATPVALOR", {{"IDRPATPVALOR", 2}, {"SEQUENCIA", 9}, {"NOME", "VLRIRRF"}});
     Inserir("FP_ESOCIALTABELA", {{"IDESOCIALTABELA", 9203}, {"TABELA", 3}, {"CODIGO", "9203"}});
-    Inserir("FP_RUBRICARELACRPA", {{"IDRPATPVALOR", 2},
-                                   {"IDESOCIALTABELA", 9203},
-                                   {"IDESOCIALTABELACP", 9997},
-                                   {"IDESOCIALTABELAIRRF", 9998},
-                                   {"IDESOCIALTABELAFGTS", 9996},
-                                   {"IDESOCIALTABELACS", 9995}});
+    TipoDeValor(2, 9, 9203);
     Inserir("RPAVALOR", {{"IDRPA", 1}, {"IDRPATPVALOR", 2}, {"VALOR", 30}});
     Inserir("RPAVALOR", {{"IDRPA", 1}, {"IDRPATPVALOR", 1}, {"VALOR", 0}});
     Info.SetTipoEmpregado(TTipoTrabalhador::Prestador);

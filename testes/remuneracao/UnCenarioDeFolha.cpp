@@ -150,18 +150,23 @@ void TTesteDeFolha::Prestador(std::int64_t AId, const char* ACpf, int AIdCategor
                               {"DATANASCIMENTO", D(1980, 5, 6)}});
 }
 
+void TTesteDeFolha::TipoDeValor(int AId, int ASequencia, int AIdNatureza)
+{
+    Inserir("RPATPVALOR", {{"IDRPATPVALOR", AId}, {"SEQUENCIA", ASequencia}, {"NOME", "VLR" + std::to_string(AId)}});
+    Inserir("FP_RUBRICARELACRPA", {{"IDRPATPVALOR", AId},
+                                   {"IDESOCIALTABELA", AIdNatureza},
+                                   {"IDESOCIALTABELACP", 9997},
+                                   {"IDESOCIALTABELAIRRF", 9998},
+                                   {"IDESOCIALTABELAFGTS", 9996},
+                                   {"IDESOCIALTABELACS", 9995}});
+}
+
 void TTesteDeFolha::Recibo(std::int64_t AId, std::int64_t ANumero, std::int64_t AIdPrestador, TDateTime APagto,
                            double AValor, int AFilial, TValorSql ADepto)
 {
     if (Consultar("SELECT COUNT(*) FROM RPATPVALOR WHERE IDRPATPVALOR = 1") == "0") {
-        Inserir("RPATPVALOR", {{"IDRPATPVALOR", 1}, {"SEQUENCIA", 1}, {"NOME", "VLRBRUTO"}});
         Inserir("FP_ESOCIALTABELA", {{"IDESOCIALTABELA", 3501}, {"TABELA", 3}, {"CODIGO", "3501"}});
-        Inserir("FP_RUBRICARELACRPA", {{"IDRPATPVALOR", 1},
-                                       {"IDESOCIALTABELA", 3501},
-                                       {"IDESOCIALTABELACP", 9997},
-                                       {"IDESOCIALTABELAIRRF", 9998},
-                                       {"IDESOCIALTABELAFGTS", 9996},
-                                       {"IDESOCIALTABELACS", 9995}});
+        TipoDeValor(1, 1, 3501);
         for (const auto& [LTabela, LCodigo] : {std::pair{9997, "11"}, {9998, "12"}, {9996, "00"}, {9995, "1"}})
             Inserir("FP_ESOCIALTABELA", {{"IDESOCIALTABELA", LTabela}, {"TABELA", LTabela}, {"CODIGO", LCodigo}});
     }

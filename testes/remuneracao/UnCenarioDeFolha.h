@@ -43,6 +43,8 @@ protected:
                       TValorSql AAcordo = nullptr);
     void Acordo(int AId, TDateTime AOcorrencia);
     void Prestador(std::int64_t AId, const char* ACpf, int AIdCategoria);
+    /// A kind of value of a receipt, with its nature and the incidences that Recibo makes.
+    void TipoDeValor(int AId, int ASequencia, int AIdNatureza);
     /// A receipt with one value (kind 1).
     void Recibo(std::int64_t AId, std::int64_t ANumero, std::int64_t AIdPrestador, TDateTime APagto, double AValor,
                 int AFilial = 1, TValorSql ADepto = nullptr);
