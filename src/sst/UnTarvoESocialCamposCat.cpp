@@ -73,7 +73,8 @@ void TTarvoESocialCamposCat::CarregarDadosParteAtingida()
 {
     static constexpr std::string_view SQL = R"(SELECT FP_CATPARTEATINGIDA.IDCATPARTEATINGIDA
 FROM FP_CATPARTEATINGIDA
-WHERE FP_CATPARTEATINGIDA.IDTABCAT = %0:d)";
+WHERE FP_CATPARTEATINGIDA.IDTABCAT = %0:d
+ORDER BY FP_CATPARTEATINGIDA.IDTABCAT, FP_CATPARTEATINGIDA.IDCATPARTEATINGIDA)";
     parteAtingida.clear();
     AcrescentarUmPorLinha<&TField::AsInteger>(
         parteAtingida, TTarvoConsultasGeral::BuscarRegistrosSomenteLeitura(Format(SQL, FIdTabCat)),
@@ -85,7 +86,8 @@ void TTarvoESocialCamposCat::CarregarAgenteCausador()
     static constexpr std::string_view SQL = R"(SELECT FP_ESOCIALTABELA.CODIGO
 FROM FP_CATAGENTECAUSADOR
 JOIN FP_ESOCIALTABELA ON (FP_ESOCIALTABELA.IDESOCIALTABELA = FP_CATAGENTECAUSADOR.IDAGENTECAUSADOR AND FP_ESOCIALTABELA.TABELA IN (14,15))
-WHERE FP_CATAGENTECAUSADOR.IDTABCAT = %0:d)";
+WHERE FP_CATAGENTECAUSADOR.IDTABCAT = %0:d
+ORDER BY FP_CATAGENTECAUSADOR.IDTABCAT, FP_CATAGENTECAUSADOR.IDCATAGENTECAUSADOR)";
     // Not emptied first, unlike the parts of the body: a second load doubles it; meant.
     const auto LCds = TTarvoConsultasGeral::BuscarRegistrosSomenteLeitura(Format(SQL, FIdTabCat));
     for (; !LCds->Eof(); LCds->Next()) {

@@ -48,7 +48,8 @@ void TTarvoESocialCamposinfoComplemS2245::CarregarProfissionais(const TListaCamp
 {
     static constexpr std::string_view SQL = R"(SELECT FP_CURSOEMPREGADODET.IDCURSOEMPREGADODET
 FROM FP_CURSOEMPREGADODET
-WHERE FP_CURSOEMPREGADODET.IDCURSOEMPREGADO = %0:d)";
+WHERE FP_CURSOEMPREGADODET.IDCURSOEMPREGADO = %0:d
+ORDER BY FP_CURSOEMPREGADODET.IDCURSOEMPREGADO, FP_CURSOEMPREGADODET.IDCURSOEMPREGADODET)";
     // The list isn't emptied first: a second load doubles it; meant.
     AcrescentarUmPorLinha(ideProfResp,
                           TTarvoConsultasGeral::BuscarRegistrosSomenteLeitura(Format(SQL, FIdCursoEmpregado)),

@@ -8,8 +8,7 @@ namespace tarvo::trabalhador {
 TTarvoESocialCamposAfastamento::TTarvoESocialCamposAfastamento(std::int64_t AIDEmpregado, TDate ADataGeracao)
     : TTarvoESocialCamposGrupoBase("{1867A84F-8C56-46C0-878C-41D65DD3521B}"), FIDEmpregado(AIDEmpregado),
       FDataGeracao(ADataGeracao)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposAfastamento::Tabela()
 {
@@ -37,7 +36,7 @@ LEFT JOIN FP_ESOCIALTABELA ON (SITUACOES.IDESOCIALTABELA18 = FP_ESOCIALTABELA.ID
 WHERE SITUACOES.IDEMPREGADO = %0:D
   AND (SITUACOES.DATA < %1:S AND (SITUACOES.DATA_FIM >= %1:S or SITUACOES.DATA_FIM IS NULL ))
   AND SITUACOES.SITUACAO NOT IN ('01','02')
-ORDER BY SITUACOES.DATA DESC)";
+ORDER BY SITUACOES.DATA DESC, SITUACOES.IDSITUACAO)";
     return Format(SQL, FIDEmpregado, FormatarDataDB(FDataGeracao, true));
 }
 

@@ -32,8 +32,7 @@ void BuscarContatos(const std::string& ASql, const char* ACampo, std::string& AP
 
 TTarvoESocialCamposContato::TTarvoESocialCamposContato(std::int64_t AIDEmpregado)
     : TTarvoESocialCamposGrupoBase("{A8E43DBD-7104-4D97-8860-7DE8450A4E8F}"), FIDEmpregado(AIDEmpregado)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposContato::Tabela()
 {
@@ -67,8 +66,10 @@ void TTarvoESocialCamposContato::BuscarFones()
     static constexpr std::string_view SQL = R"(SELECT FP_EMPREGADOSCONTATO.CONTATO AS FONE
 FROM FP_EMPREGADOSCONTATO
 WHERE FP_EMPREGADOSCONTATO.IDEMPREGADO = %0:d
-  AND FP_EMPREGADOSCONTATO.TIPOCONTATO IN (1, 2))";
-    // A telephone of punctuation only doesn't count; one that counts keeps its punctuation.
+  AND FP_EMPREGADOSCONTATO.TIPOCONTATO IN (1, 2)
+ORDER BY FP_EMPREGADOSCONTATO.IDEMPREGADO, FP_EMPREGADOSCONTATO.IDEMPREGADOSCONTATO)";
+    // A telephone of punctuation only doesn't count; one that counts keeps its punctuation. In the order of their keys,
+    // with the worker before them: by the key alone the engine would walk the whole index of the keys.
     BuscarContatos(Format(SQL, FIDEmpregado), "FONE", FonePrincipal, FoneAlternativo, [](const std::string& AFone) {
         return !TTarvoUtilsStrings::RemoverCaracteresEspeciais(AFone, true).empty();
     });
@@ -79,7 +80,8 @@ void TTarvoESocialCamposContato::BuscarEmails()
     static constexpr std::string_view SQL = R"(SELECT FP_EMPREGADOSCONTATO.CONTATO AS EMAIL
 FROM FP_EMPREGADOSCONTATO
 WHERE FP_EMPREGADOSCONTATO.IDEMPREGADO = %0:d
-  AND FP_EMPREGADOSCONTATO.TIPOCONTATO = 4)";
+  AND FP_EMPREGADOSCONTATO.TIPOCONTATO = 4
+ORDER BY FP_EMPREGADOSCONTATO.IDEMPREGADO, FP_EMPREGADOSCONTATO.IDEMPREGADOSCONTATO)";
     BuscarContatos(Format(SQL, FIDEmpregado), "EMAIL", EmailPrincipal, EmailAlternativo,
                    [](const std::string& AEmail) { return !AEmail.empty(); });
 }

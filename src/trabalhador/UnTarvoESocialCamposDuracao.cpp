@@ -6,8 +6,7 @@ namespace tarvo::trabalhador {
 
 TTarvoESocialCamposDuracao::TTarvoESocialCamposDuracao(std::int64_t AIDEmpregado, TDate)
     : TTarvoESocialCamposGrupoBase("{AEF38A88-2193-474A-B55A-FBAA3B4DE942}"), FIDEmpregado(AIDEmpregado)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposDuracao::Tabela()
 {
@@ -42,7 +41,8 @@ std::string TTarvoESocialCamposDuracao::BuscarSQLDados()
 FROM EMPREGADOS
 LEFT JOIN FP_EMPREGADOSDET ON (FP_EMPREGADOSDET.IDEMPREGADO = EMPREGADOS.IDEMPREGADO
   AND FP_EMPREGADOSDET.ESPECIE = 5 AND FP_EMPREGADOSDET.TP = 1)
-WHERE EMPREGADOS.IDEMPREGADO = %0:d)";
+WHERE EMPREGADOS.IDEMPREGADO = %0:d
+ORDER BY FP_EMPREGADOSDET.IDEMPREGADOSDET)";
     return Format(SQL, FIDEmpregado);
 }
 

@@ -21,8 +21,7 @@ std::int32_t DiaDoLeiaute(TDiaSemana ADia) { return ADia == TDiaSemana::Domingo 
 TTarvoESocialCamposHorContratual::TTarvoESocialCamposHorContratual(std::int64_t AIDEmpregado, TDate ADataGeracao)
     : TTarvoESocialCamposGrupoBase("{ACE7860C-5687-4E74-ABB2-9868B79F4D71}"), FIDEmpregado(AIDEmpregado),
       FDataGeracao(ADataGeracao)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposHorContratual::Tabela()
 {
@@ -60,10 +59,11 @@ std::string TTarvoESocialCamposHorContratual::BuscarSQLDados()
    WHERE %1:s
      AND SC00_EMPREGADOCFG.INFORMACAO1 = 1
      AND %2:s
-   ORDER BY SC00_EMPREGADOCFG.DATAINICIO DESC) AS TMPPARC
+   ORDER BY SC00_EMPREGADOCFG.DATAINICIO DESC, SC00_EMPREGADOCFG.IDEMPREGADOCFG) AS TMPPARC
 FROM EMPREGADOS
 LEFT JOIN TAB_HORARIOS ON ( TAB_HORARIOS.CODIGO = EMPREGADOS.COD_HORARIO)
-WHERE EMPREGADOS.IDEMPREGADO = %0:d)";
+WHERE EMPREGADOS.IDEMPREGADO = %0:d
+ORDER BY TAB_HORARIOS.IDHORARIO)";
     return Format(SQL, FIDEmpregado, CondicaoDaChave(SC00_EMPREGADOCFG, FIDEmpregado, {90, 1, 1}),
                   CondicaoDaValidade(SC00_EMPREGADOCFG, FDataGeracao));
 }
@@ -96,7 +96,8 @@ void TTarvoESocialCamposHorContratual::CarregarTurnos()
 {
     static constexpr std::string_view SQL = R"(SELECT TAB_HORARIOSDET.CODIGOESOCIAL
 FROM TAB_HORARIOSDET
-WHERE TAB_HORARIOSDET.IDHORARIO = %0:D)";
+WHERE TAB_HORARIOSDET.IDHORARIO = %0:D
+ORDER BY TAB_HORARIOSDET.IDHORARIO, TAB_HORARIOSDET.IDHORARIODET)";
     for (const auto LCds = TTarvoConsultasGeral::BuscarRegistros(Format(SQL, IdHorario)); !LCds->Eof(); LCds->Next())
         AdicionarHorario(DIA_VARIAVEL, DIA_VARIAVEL, LCds->FieldByName("CODIGOESOCIAL").AsString());
 }

@@ -9,8 +9,7 @@ namespace tarvo::trabalhador {
 
 TTarvoESocialCamposIdeTomadorServ::TTarvoESocialCamposIdeTomadorServ(std::int64_t AIDEmpregado, TDate)
     : TTarvoESocialCamposGrupoBase("{75A5536C-A9D9-4DF9-8791-C6EE7F0BEE14}"), FIDEmpregado(AIDEmpregado)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposIdeTomadorServ::Tabela()
 {
@@ -24,7 +23,7 @@ const TPropriedades& TTarvoESocialCamposIdeTomadorServ::Tabela()
 
 std::string TTarvoESocialCamposIdeTomadorServ::BuscarSQLDados()
 {
-    // Colons name the block's variables here.
+    // Colons name the block's variables here. Of several service takers of the month one of the very date comes first.
     static constexpr std::string_view SQL = R"(EXECUTE BLOCK
 RETURNS (
   LTIPOINSCPRESTADOR VARCHAR(4),
@@ -44,7 +43,7 @@ BEGIN
   FROM MOV_TRANSF
   WHERE MOV_TRANSF.IDEMPREGADO = %0:d
     AND MOV_TRANSF.DATAINICIOMOV <= (SELECT SP_ULTIMODIAMES.LDATA FROM SP_ULTIMODIAMES(%1:S))
-  ORDER BY MOV_TRANSF.DATAINICIOMOV DESC
+  ORDER BY MOV_TRANSF.DATAINICIOMOV DESC, MOV_TRANSF.IDMOV_TRANSF
   INTO :LCODFILIAL, :LCODDEPTO, :LCODEMPRESA, :LDATAINICIOMOV
   DO
   BEGIN
@@ -62,6 +61,12 @@ BEGIN
       AND MOV_PRESTSERV.COD_FILIAL = :LCODFILIAL
       AND MOV_PRESTSERV.COD_DEPTO = :LCODDEPTO
       AND PREST_SERVICO.CATEGORIA LIKE '98%%'
+    ORDER BY
+      IIF(MOV_PRESTSERV.DATA_MOVIMENTO <= %1:S
+        AND (MOV_PRESTSERV.DATAFIMMOV >= %1:S OR MOV_PRESTSERV.DATAFIMMOV IS NULL), 0, 1),
+      MOV_PRESTSERV.DATA_MOVIMENTO DESC,
+      MOV_PRESTSERV.IDMOV_PRESTSERV,
+      PREST_SERVICO.IDPRESTSERVICO
     INTO :LCODPRESTADOR, :LTIPOINSCPRESTADOR, :LNUMINSCPRESTADOR
     DO
       SUSPEND;

@@ -18,8 +18,7 @@ constexpr TChaveDeConfiguracao REGIMES{90, 38, 7};
 TTarvoESocialCamposInfoCeletista::TTarvoESocialCamposInfoCeletista(std::int64_t AIDEmpregado, TDate ADataGeracao)
     : TTarvoESocialCamposGrupoBase("{3A3B4EF2-9FC0-460C-915A-5718BCA1C902}"), Fgts(AIDEmpregado),
       TrabTemporario(AIDEmpregado, ADataGeracao), FIDEmpregado(AIDEmpregado), FDataGeracao(ADataGeracao)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposInfoCeletista::Tabela()
 {
@@ -80,7 +79,7 @@ WHERE EMPREGADOS.IDEMPREGADO = %0:d)";
 
 void TTarvoESocialCamposInfoCeletista::BuscarDadosCfgEmpregado()
 {
-    // By the codes of the worker and without an order, unlike the statement of the group: with two rows in force the
+    // By the codes of the worker, unlike the statement of the group, which goes by the id: with two rows in force the
     // codes set here may be those of the other row; meant.
     static constexpr std::string_view SQL = R"(SELECT
   SC00_EMPREGADOCFG.INFORMACAO1,
@@ -101,7 +100,8 @@ FROM SC00_EMPREGADOCFG
 JOIN EMPREGADOS ON (EMPREGADOS.COD_EMPRESA = SC00_EMPREGADOCFG.COD_EMPRESA
   AND EMPREGADOS.COD_EMPREGADO = SC00_EMPREGADOCFG.COD_EMPREGADO)
 WHERE EMPREGADOS.IDEMPREGADO = %0:d
-  AND %1:s)";
+  AND %1:s
+ORDER BY SC00_EMPREGADOCFG.DATAINICIO DESC, SC00_EMPREGADOCFG.IDEMPREGADOCFG)";
     IndicativoAdmissao.clear();
     TipoRegimeJornada.clear();
     const auto LCds = TTarvoConsultasGeral::BuscarRegistros(

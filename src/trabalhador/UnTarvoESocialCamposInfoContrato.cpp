@@ -8,8 +8,7 @@ namespace tarvo::trabalhador {
 
 TTarvoESocialCamposInfoContrato::TTarvoESocialCamposInfoContrato(std::int64_t AIDEmpregado, TDate ADataGeracao)
     : TTarvoESocialCamposInfoContrato("{712789EA-2C22-4064-A4CD-89F4DA93E950}", AIDEmpregado, ADataGeracao)
-{
-}
+{}
 
 TTarvoESocialCamposInfoContrato::TTarvoESocialCamposInfoContrato(std::string_view AGuid, std::int64_t AIDEmpregado,
                                                                  TDate ADataGeracao)
@@ -17,8 +16,7 @@ TTarvoESocialCamposInfoContrato::TTarvoESocialCamposInfoContrato(std::string_vie
       LocalTrabalho(AIDEmpregado, ADataGeracao), Duracao(AIDEmpregado, ADataGeracao),
       HorContratual(AIDEmpregado, ADataGeracao), FiliacaoSindical(AIDEmpregado), AlvaraJudicial(AIDEmpregado),
       FIDEmpregado(AIDEmpregado), FDataGeracao(ADataGeracao)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposInfoContrato::Tabela()
 {
@@ -56,7 +54,8 @@ LEFT JOIN SP_BUSCARCARGOEMPREGADO(%1:s) AS CARGO ON (EMPREGADOS.IDEMPREGADO = CA
 LEFT JOIN FP_CARGOSDESCR ON (FP_CARGOSDESCR.IDCARGOSDESCR = CARGO.IDCARGOSDESCR)
 LEFT JOIN FP_CARGOSPUBLICO ON (FP_CARGOSPUBLICO.IDCARGOSDESCR = FP_CARGOSDESCR.IDCARGOSDESCR)
 LEFT JOIN FP_ESOCIALTABELA ON (EMPREGADOS.IDCATEGORIAESOCIAL = FP_ESOCIALTABELA.IDESOCIALTABELA)
-WHERE EMPREGADOS.IDEMPREGADO = %0:d;)";
+WHERE EMPREGADOS.IDEMPREGADO = %0:d
+ORDER BY FP_CARGOSPUBLICO.IDCARGOSPUBLICO;)";
     return Format(SQL, FIDEmpregado, FormatarDataDB(FDataGeracao, true));
 }
 
@@ -64,7 +63,8 @@ void TTarvoESocialCamposInfoContrato::CarregarDadosObservacoes()
 {
     static constexpr std::string_view SQL = R"(SELECT FP_EMPREGADOOBS.OBSERVACAO
 FROM FP_EMPREGADOOBS
-WHERE FP_EMPREGADOOBS.IDEMPREGADO = %0:D)";
+WHERE FP_EMPREGADOOBS.IDEMPREGADO = %0:D
+ORDER BY FP_EMPREGADOOBS.IDEMPREGADO, FP_EMPREGADOOBS.IDEMPREGADOOBS)";
     for (const auto LCds = TTarvoConsultasGeral::BuscarRegistros(Format(SQL, FIDEmpregado)); !LCds->Eof(); LCds->Next())
         Observacoes.push_back(
             std::make_unique<TTarvoESocialCamposObservacoes>(0, LCds->FieldByName("OBSERVACAO").AsString()));

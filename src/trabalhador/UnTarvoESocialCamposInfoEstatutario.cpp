@@ -8,8 +8,7 @@ namespace tarvo::trabalhador {
 TTarvoESocialCamposInfoEstatutario::TTarvoESocialCamposInfoEstatutario(std::int64_t AIDEmpregado, TDate ADataGeracao)
     : TTarvoESocialCamposGrupoBase("{193EA3E0-DD15-4C7B-A608-3415CE88CE6B}"), FIDEmpregado(AIDEmpregado),
       FDataGeracao(ADataGeracao)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposInfoEstatutario::Tabela()
 {
@@ -39,7 +38,8 @@ std::string TTarvoESocialCamposInfoEstatutario::BuscarSQLDados()
   SC00_EMPREGADOCFG.INFORMACAO7 AS TPPLANRP
 FROM SC00_EMPREGADOCFG
 WHERE %0:s
-  AND %1:s)";
+  AND %1:s
+ORDER BY SC00_EMPREGADOCFG.DATAINICIO DESC, SC00_EMPREGADOCFG.IDEMPREGADOCFG)";
     return Format(SQL, CondicaoDaChave(SC00_EMPREGADOCFG, FIDEmpregado, {90, 38, 10}),
                   CondicaoDaValidade(SC00_EMPREGADOCFG, FDataGeracao));
 }

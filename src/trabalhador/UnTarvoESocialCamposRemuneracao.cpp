@@ -1,15 +1,14 @@
 #include "trabalhador/UnTarvoESocialCamposRemuneracao.h"
 
 #include "imports/UnOvraFormat.h"
-#include "imports/UnTarvoUtilsDb.h"
+#include "trabalhador/UnTarvoESocialCamposSqlSalarios.h"
 
 namespace tarvo::trabalhador {
 
 TTarvoESocialCamposRemuneracao::TTarvoESocialCamposRemuneracao(std::int64_t AIDEmpregado, TDate ADataGeracao)
     : TTarvoESocialCamposGrupoBase("{7892E793-B7B0-4B8F-A338-DFAECDC2C1C0}"), FIDEmpregado(AIDEmpregado),
       FDataGeracao(ADataGeracao)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposRemuneracao::Tabela()
 {
@@ -32,9 +31,10 @@ std::string TTarvoESocialCamposRemuneracao::BuscarSQLDados()
   SALARIO.DESCRSALARIOVAR,
   FP_NIVEL.CODIGO AS CODIGONIVEL,
   FP_NIVEL.DESCRICAO AS DESCNIVEL
-FROM SP_BUSCARSALARIOEMPREGADO(%1:s, NULL, %0:d) SALARIO
-JOIN FP_NIVEL ON (FP_NIVEL.IDNIVEL = SALARIO.IDNIVEL))";
-    return Format(SQL, FIDEmpregado, FormatarDataDB(FDataGeracao, true));
+FROM %0:s SALARIO
+JOIN FP_NIVEL ON (FP_NIVEL.IDNIVEL = SALARIO.IDNIVEL)
+ORDER BY SALARIO.ORDEM)";
+    return Format(SQL, SqlSalarios(FIDEmpregado, FDataGeracao));
 }
 
 void TTarvoESocialCamposRemuneracao::AtribuirValoresManualmente()

@@ -6,8 +6,7 @@ namespace tarvo::trabalhador {
 
 TTarvoESocialCamposSucessaoVinc::TTarvoESocialCamposSucessaoVinc(std::int64_t AIDEmpregado)
     : TTarvoESocialCamposGrupoBase("{99EC257A-8F4D-405C-ACFA-3DEEC6A868A4}"), FIDEmpregado(AIDEmpregado)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposSucessaoVinc::Tabela()
 {
@@ -36,7 +35,8 @@ std::string TTarvoESocialCamposSucessaoVinc::BuscarSQLDados()
     FP_EMPREGADOSDET.INFORMACAO10 AS OBSERVACAO
   FROM FP_EMPREGADOSDET
   WHERE FP_EMPREGADOSDET.IDEMPREGADO = %0:D
-    AND FP_EMPREGADOSDET.ESPECIE = 1 AND FP_EMPREGADOSDET.TP = %1:D),
+    AND FP_EMPREGADOSDET.ESPECIE = 1 AND FP_EMPREGADOSDET.TP = %1:D
+  ORDER BY FP_EMPREGADOSDET.IDEMPREGADO, FP_EMPREGADOSDET.IDEMPREGADOSDET),
 SQL_EMPREGADOS AS (
   SELECT
     EMPREGADOS.DATA_ADMISSAO AS DATAADMISSAO_EMPREG,

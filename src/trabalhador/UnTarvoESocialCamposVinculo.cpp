@@ -10,8 +10,7 @@ TTarvoESocialCamposVinculo::TTarvoESocialCamposVinculo(std::int64_t AIDEmpregado
       InfoRegimeTrab(AIDEmpregado, ADataGeracao), InfoContrato(AIDEmpregado, ADataGeracao), SucessaoVinc(AIDEmpregado),
       Afastamento(AIDEmpregado, ADataGeracao), Desligamento(AIDEmpregado), transfDom(AIDEmpregado),
       FIDEmpregado(AIDEmpregado), FDataGeracao(ADataGeracao)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposVinculo::Tabela()
 {
@@ -54,7 +53,7 @@ LEFT JOIN SC00_EMPREGADOCFG ON (SC00_EMPREGADOCFG.COD_EMPRESA = EMPREGADOS.COD_E
   AND SC00_EMPREGADOCFG.COD_EMPREGADO = EMPREGADOS.COD_EMPREGADO
   AND %1:s)
 WHERE EMPREGADOS.IDEMPREGADO = %0:d
-ORDER BY SC00_EMPREGADOCFG.DATAINICIO DESC)";
+ORDER BY SC00_EMPREGADOCFG.DATAINICIO DESC, SC00_EMPREGADOCFG.IDEMPREGADOCFG)";
     return Format(SQL, FIDEmpregado, CondicaoVigente(SC00_EMPREGADOCFG, {90, 38, 7}, FDataGeracao));
 }
 

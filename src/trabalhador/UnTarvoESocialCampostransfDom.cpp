@@ -6,8 +6,7 @@ namespace tarvo::trabalhador {
 
 TTarvoESocialCampostransfDom::TTarvoESocialCampostransfDom(std::int64_t AIdEmpregado)
     : TTarvoESocialCamposGrupoBase("{1B1BE02D-3D4B-446B-AD73-9C8A4F6388D7}"), FIDEmpregado(AIdEmpregado)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCampostransfDom::Tabela()
 {
@@ -29,7 +28,8 @@ std::string TTarvoESocialCampostransfDom::BuscarSQLDados()
   FP_EMPREGADOSDET.INFORMACAO10
 FROM FP_EMPREGADOSDET
 WHERE FP_EMPREGADOSDET.IDEMPREGADO = %0:D
-  AND FP_EMPREGADOSDET.ESPECIE = 1 AND FP_EMPREGADOSDET.TP = 3)";
+  AND FP_EMPREGADOSDET.ESPECIE = 1 AND FP_EMPREGADOSDET.TP = 3
+ORDER BY FP_EMPREGADOSDET.IDEMPREGADO, FP_EMPREGADOSDET.IDEMPREGADOSDET)";
     return Format(SQL, FIDEmpregado);
 }
 

@@ -22,6 +22,7 @@ const TPropriedades& TTarvoESocialCamposinfoRetif::Tabela()
 std::string TTarvoESocialCamposinfoRetif::BuscarSQLDados()
 {
     // The id is compared as a text here, unlike that of the details of the situation; meant.
+    // The kind stands before the key: by the key alone the engine would walk the details of every worker.
     static constexpr std::string_view SQL = R"(SELECT
   FP_EMPREGADOSDET.INFORMACAO1,
   FP_EMPREGADOSDET.INFORMACAO2,
@@ -30,7 +31,8 @@ std::string TTarvoESocialCamposinfoRetif::BuscarSQLDados()
   ES02_SPPROC.NUMERO
 FROM FP_EMPREGADOSDET
 LEFT JOIN ES02_SPPROC ON (ES02_SPPROC.IDSPPROC = FP_EMPREGADOSDET.INFORMACAO4)
-WHERE FP_EMPREGADOSDET.ESPECIE = 5 AND FP_EMPREGADOSDET.TP = 1 AND FP_EMPREGADOSDET.INFORMACAO1 = '%0:d')";
+WHERE FP_EMPREGADOSDET.ESPECIE = 5 AND FP_EMPREGADOSDET.TP = 1 AND FP_EMPREGADOSDET.INFORMACAO1 = '%0:d'
+ORDER BY FP_EMPREGADOSDET.ESPECIE, FP_EMPREGADOSDET.IDEMPREGADOSDET)";
     return Format(SQL, FIDSituacao);
 }
 

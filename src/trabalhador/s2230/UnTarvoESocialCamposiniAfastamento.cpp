@@ -74,7 +74,8 @@ void TTarvoESocialCamposiniAfastamento::CarregarDadosInfoAtestado()
 {
     static constexpr std::string_view SQL = R"(SELECT FP_SITUACAOATESTADO.IDSITUACAOATESTADO
 FROM FP_SITUACAOATESTADO
-WHERE FP_SITUACAOATESTADO.IDSITUACAO = %0:d)";
+WHERE FP_SITUACAOATESTADO.IDSITUACAO = %0:d
+ORDER BY FP_SITUACAOATESTADO.IDSITUACAO, FP_SITUACAOATESTADO.IDSITUACAOATESTADO)";
     infoAtestado.clear();
     AcrescentarUmPorLinha(infoAtestado, TTarvoConsultasGeral::BuscarRegistros(Format(SQL, FIdSituacao)),
                           "IDSITUACAOATESTADO");

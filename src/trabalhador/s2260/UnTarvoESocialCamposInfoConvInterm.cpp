@@ -35,7 +35,7 @@ std::string TTarvoESocialCamposInfoConvInterm::BuscarSQLDados()
   FP_CONTRAINTERM.DATAPAGAMENTO
 FROM FP_CONTRAINTERM
 WHERE %0:s)";
-    return Format(SQL, CondicaoDaConvocacao(FIdEmpregado, FDataInicio));
+    return Format(SQL, CondicaoEOrdemDaConvocacao(FIdEmpregado, FDataInicio));
 }
 
 void TTarvoESocialCamposInfoConvInterm::CarregarDados(const TListaCamposModificados* AListaCamposModificados)

@@ -33,7 +33,7 @@ std::string TTarvoESocialCamposJornada::BuscarSQLDados()
 FROM FP_CONTRAINTERM
 LEFT JOIN TAB_HORARIOS ON ( FP_CONTRAINTERM.IDHORARIO = TAB_HORARIOS.IDHORARIO AND TAB_HORARIOS.TIPO <> 3 )
 WHERE %0:s)";
-    return Format(SQL, CondicaoDaConvocacao(FIdEmpregado, FDataInicio));
+    return Format(SQL, CondicaoEOrdemDaConvocacao(FIdEmpregado, FDataInicio));
 }
 
 } // namespace tarvo::trabalhador

@@ -25,7 +25,7 @@ std::string TTarvoESocialCamposLocalTrab::BuscarSQLDados()
     static constexpr std::string_view SQL = R"(SELECT FP_CONTRAINTERM.LOCALPRESTACAO
 FROM FP_CONTRAINTERM
 WHERE %0:s)";
-    return Format(SQL, CondicaoDaConvocacao(FIdEmpregado, FDataInicio));
+    return Format(SQL, CondicaoEOrdemDaConvocacao(FIdEmpregado, FDataInicio));
 }
 
 void TTarvoESocialCamposLocalTrab::CarregarDados(const TListaCamposModificados* AListaCamposModificados)

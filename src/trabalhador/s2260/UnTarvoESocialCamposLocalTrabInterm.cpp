@@ -41,7 +41,7 @@ FROM FP_CONTRAINTERM
 JOIN PREST_SERVICO ON ( FP_CONTRAINTERM.IDPRESTSERVICO = PREST_SERVICO.IDPRESTSERVICO )
 JOIN CA06_CODLOGRAD ON ( PREST_SERVICO.IDCODLOGRAD = CA06_CODLOGRAD.IDCODLOGRAD )
 WHERE %0:s)";
-    return Format(SQL, CondicaoDaConvocacao(FIdEmpregado, FDataInicio));
+    return Format(SQL, CondicaoEOrdemDaConvocacao(FIdEmpregado, FDataInicio));
 }
 
 } // namespace tarvo::trabalhador

@@ -5,10 +5,12 @@
 
 namespace tarvo::trabalhador {
 
-std::string CondicaoDaConvocacao(std::int64_t AIdEmpregado, TDateTime ADataConvocacao)
+std::string CondicaoEOrdemDaConvocacao(std::int64_t AIdEmpregado, TDateTime ADataConvocacao)
 {
-    return Format("FP_CONTRAINTERM.IDEMPREGADO = %0:d AND FP_CONTRAINTERM.DATACONVOCACAO = %1:s", AIdEmpregado,
-                  FormatarDataDB(ADataConvocacao, true));
+    static constexpr std::string_view SQL =
+        R"(FP_CONTRAINTERM.IDEMPREGADO = %0:d AND FP_CONTRAINTERM.DATACONVOCACAO = %1:s
+ORDER BY FP_CONTRAINTERM.IDEMPREGADO, FP_CONTRAINTERM.IDCONTRAINTERM)";
+    return Format(SQL, AIdEmpregado, FormatarDataDB(ADataConvocacao, true));
 }
 
 } // namespace tarvo::trabalhador

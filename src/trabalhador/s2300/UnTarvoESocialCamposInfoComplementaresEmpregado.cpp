@@ -6,7 +6,7 @@ TTarvoESocialCamposInfoComplementaresEmpregado::TTarvoESocialCamposInfoComplemen
     std::int64_t AIDEmpregado, TDate ADataGeracao)
     : TTarvoESocialCamposGrupoBase("{186A4AEC-53F8-410C-AB2C-0C8978525C15}"), CargoFuncao(AIDEmpregado, ADataGeracao),
       Remuneracao(AIDEmpregado, ADataGeracao), FGTS(AIDEmpregado), InfoDirSind(AIDEmpregado),
-      InfoTrabCedido(AIDEmpregado), InfoEstagiario(AIDEmpregado, ADataGeracao)
+      InfoTrabCedido(AIDEmpregado, ADataGeracao), InfoEstagiario(AIDEmpregado, ADataGeracao)
 {}
 
 const TPropriedades& TTarvoESocialCamposInfoComplementaresEmpregado::Tabela()

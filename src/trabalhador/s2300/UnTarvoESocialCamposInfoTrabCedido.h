@@ -5,10 +5,12 @@
 namespace tarvo::trabalhador {
 
 /// S-2300 infoTrabCedido: the employer of origin of a worker on loan, and the regimes. Source: FP_EMPREGADOSDET 1/2 of
-/// a worker of TIPOADMISSAO 4 and SC00_EMPREGADOCFG 90/38/7, whatever its validity; empty unless both exist.
+/// a worker of TIPOADMISSAO 4 and SC00_EMPREGADOCFG 90/38/7, whatever its validity, though a row in force at the date
+/// comes before the others; empty unless both exist.
 class TTarvoESocialCamposInfoTrabCedido : public TTarvoESocialCamposGrupoBase {
 public:
-    explicit TTarvoESocialCamposInfoTrabCedido(std::int64_t AIDEmpregado);
+    /// Without a date no row counts as in force, and the newest comes first.
+    explicit TTarvoESocialCamposInfoTrabCedido(std::int64_t AIDEmpregado, TDate ADataGeracao = TDate());
 
     /// For the caller; no load sets it.
     std::int32_t categOrig = 0;
@@ -27,6 +29,7 @@ protected:
 
 private:
     std::int64_t FIDEmpregado;
+    TDate FDataGeracao;
 };
 
 } // namespace tarvo::trabalhador

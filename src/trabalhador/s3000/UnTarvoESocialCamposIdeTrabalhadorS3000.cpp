@@ -1,5 +1,6 @@
 #include "trabalhador/s3000/UnTarvoESocialCamposIdeTrabalhadorS3000.h"
 
+#include "imports/UnOvraConversoes.h"
 #include "imports/UnOvraExcecoes.h"
 #include "imports/UnOvraFormat.h"
 #include "imports/UnOvraUtilsStrings.h"
@@ -58,18 +59,51 @@ WHERE EMPREGADOS.IDEMPREGADO = %0:d)";
 
 std::string TTarvoESocialCamposIdeTrabalhadorS3000::SqlPeloCpf() const
 {
-    // The provider's CPF is compared as stored, without the cleaning that the employee's gets; meant.
-    static constexpr std::string_view SQL = R"(SELECT FIRST 1 DADOS_EMPREGADO.*
+    // The provider's CPF is compared as stored, without the cleaning that the employee's gets; meant. Equal rows of the
+    // two are one.
+    static constexpr std::string_view SQL = R"(SELECT
+  TRABALHADOR.CPF,
+  TRABALHADOR.PIS
 FROM (
-  SELECT EMPREGADOS.CPF, EMPREGADOS.PIS
-  FROM EMPREGADOS
-  WHERE TRIM(REPLACE(REPLACE(EMPREGADOS.CPF,'-',''),'.','')) = '%0:S'
-  ORDER BY EMPREGADOS.DATA_ADMISSAO DESC) AS DADOS_EMPREGADO
-UNION
-SELECT PREST_SERVICO.CPF, PREST_SERVICO.INSCRICAO
-FROM PREST_SERVICO
-WHERE PREST_SERVICO.CPF = '%0:S')";
+  SELECT
+    1 AS RAMO,
+    DADOS_EMPREGADO.IDEMPREGADO AS CHAVE,
+    DADOS_EMPREGADO.CPF,
+    DADOS_EMPREGADO.PIS
+  FROM (
+    SELECT FIRST 1 EMPREGADOS.IDEMPREGADO, EMPREGADOS.CPF, EMPREGADOS.PIS
+    FROM EMPREGADOS
+    WHERE TRIM(REPLACE(REPLACE(EMPREGADOS.CPF,'-',''),'.','')) = '%0:S'
+    ORDER BY EMPREGADOS.DATA_ADMISSAO DESC, EMPREGADOS.IDEMPREGADO) AS DADOS_EMPREGADO
+  UNION ALL
+  SELECT
+    2 AS RAMO,
+    PREST_SERVICO.IDPRESTSERVICO AS CHAVE,
+    PREST_SERVICO.CPF,
+    PREST_SERVICO.INSCRICAO
+  FROM PREST_SERVICO
+  WHERE PREST_SERVICO.CPF = '%0:S') AS TRABALHADOR
+GROUP BY
+  TRABALHADOR.CPF,
+  TRABALHADOR.PIS
+ORDER BY
+  MIN(TRABALHADOR.RAMO),
+  MIN(TRABALHADOR.CHAVE))";
     return Format(SQL, FormatFloat("00000000000", FIdTabelaEvento));
+}
+
+void TTarvoESocialCamposIdeTrabalhadorS3000::AtribuirValoresManualmente()
+{
+    TTarvoESocialCamposGrupoBase::AtribuirValoresManualmente();
+    // A contract without a number of social integration doesn't hide the one that the worker has as a provider.
+    auto& LCds = CdsDados();
+    for (LCds.First(); !LCds.Eof(); LCds.Next()) {
+        const auto LPis = LCds.FieldByName("PIS").AsString();
+        if (const auto LNis = Trim(LPis); !LNis.empty()) {
+            nisTrab = LNis;
+            return;
+        }
+    }
 }
 
 } // namespace tarvo::trabalhador

@@ -13,6 +13,7 @@ public:
     explicit TTarvoESocialCamposIdeTrabalhadorS3000(std::int64_t AIdEvento);
 
     std::string cpfTrab;
+    /// The first that isn't empty, the contract's before the provider's.
     std::string nisTrab;
     /// 0 for the pay and the payments of a month, and for a category whose code is no whole number (723.1).
     std::int32_t CodCateg = 0;
@@ -22,6 +23,7 @@ public:
 protected:
     const TPropriedades& Propriedades() const override { return Tabela(); }
     std::string BuscarSQLDados() override;
+    void AtribuirValoresManualmente() override;
 
 private:
     void BuscarTipoEvento(std::int64_t AIdEvento);
