@@ -31,12 +31,14 @@ void TTarvoESocialCamposS1210::CarregarDados(const TListaCamposModificados* ALis
 static constexpr std::string_view SQL_EMPREGADOS_DO_CPF = R"(SELECT DISTINCT EMPREGADOS.IDEMPREGADO
 FROM EMPREGADOS
 WHERE TRIM(REPLACE(REPLACE(EMPREGADOS.CPF, '.',''),'-','')) = '%0:s'
-  AND EMPREGADOS.IDEMPRESA = %1:D)";
+  AND EMPREGADOS.IDEMPRESA = %1:D
+ORDER BY EMPREGADOS.IDEMPREGADO)";
 
 // Across all companies of the database: the company counts later, on the receipts.
 static constexpr std::string_view SQL_PRESTADORES_DO_CPF = R"(SELECT DISTINCT PREST_SERVICO.IDPRESTSERVICO
 FROM PREST_SERVICO
-WHERE TRIM(REPLACE(REPLACE(PREST_SERVICO.CPF, '.',''),'-','')) = '%0:s')";
+WHERE TRIM(REPLACE(REPLACE(PREST_SERVICO.CPF, '.',''),'-','')) = '%0:s'
+ORDER BY PREST_SERVICO.IDPRESTSERVICO)";
 
 void TTarvoESocialCamposS1210::BuscarListaIdTrabalhadorPeloCPF()
 {

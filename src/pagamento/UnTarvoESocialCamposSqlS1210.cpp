@@ -32,9 +32,12 @@ std::string FiltroDoRecibo(const TTarvoESocialCamposS1210IOP& AInfoBind, std::st
                   AInfoBind.NumeroRecibo, ACondicao);
 }
 
-long double BuscarValorDoSql(std::string_view ASql)
+long double BuscarSomaDoSql(std::string_view ASql)
 {
-    return TTarvoConsultasGeral::BuscarRegistrosSomenteLeitura(ASql)->FieldByName("VALOR").AsFloat();
+    static constexpr std::string_view SQL = R"(SELECT SUM(COALESCE(VALOR,0)) AS VALOR
+FROM (
+%0:s))";
+    return TTarvoConsultasGeral::BuscarRegistrosSomenteLeitura(Format(SQL, ASql))->FieldByName("VALOR").AsFloat();
 }
 
 } // namespace tarvo::pagamento

@@ -26,7 +26,8 @@ std::string FiltroDoDemonstrativo(const TTarvoESocialCamposS1210IOP& AInfoBind, 
 /// The values of one receipt (RPA, SC00_FILIAL) that fulfil a condition, as a WHERE clause.
 std::string FiltroDoRecibo(const TTarvoESocialCamposS1210IOP& AInfoBind, std::string_view ACondicao);
 
-/// VALOR of the first row of a statement; 0 without a row.
-long double BuscarValorDoSql(std::string_view ASql);
+/// Sum of VALOR over the rows of a statement; 0 without a row. The rows are added in the order of the statement: where
+/// a database holds amounts as binary floating numbers, their sum hangs on it in the last place.
+long double BuscarSomaDoSql(std::string_view ASql);
 
 } // namespace tarvo::pagamento

@@ -26,7 +26,8 @@ tabelas::TCodigosIncidenciaVerba BuscarCodigosDaVerbaRpa(std::int64_t AIdRpaTpVa
   FP_ESOCIALTABELAFGTS.CODIGO CODINCFGTS,
   FP_ESOCIALTABELACS.CODIGO CODINCCS
 %1:s
-WHERE FP_RUBRICARELACRPA.IDRPATPVALOR = %0:d)";
+WHERE FP_RUBRICARELACRPA.IDRPATPVALOR = %0:d
+ORDER BY FP_RUBRICARELACRPA.IDRUBRICARELACRPA)";
     const auto LCds =
         TTarvoConsultasGeral::BuscarRegistrosSomenteLeitura(Format(SQL, AIdRpaTpValor, tabelas::ORIGEM_DA_RUBRICA_RPA));
     const auto Codigo = [&](std::string_view AColuna) {
@@ -69,9 +70,14 @@ std::string TTarvoESocialCamposVerbaDoPagamento::BuscarIdeTabRubr() const
 {
     static constexpr std::string_view SQL = R"(SELECT SC00_EMPRESACFG.INFORMACAO1
 FROM SC00_EMPRESACFG
-WHERE %0:s)";
+WHERE %0:s
+ORDER BY
+  IIF(%1:s, 0, 1),
+  SC00_EMPRESACFG.DATAINICIO DESC,
+  SC00_EMPRESACFG.IDEMPRESACFG)";
     const auto LCds = TTarvoConsultasGeral::BuscarRegistros(
-        Format(SQL, CondicaoDaChave(SC00_EMPRESACFG, FInfoBind.IdEmpresa, {90, 38, 13})));
+        Format(SQL, CondicaoDaChave(SC00_EMPRESACFG, FInfoBind.IdEmpresa, {90, 38, 13}),
+               CondicaoDaValidade(SC00_EMPRESACFG, FInfoBind.DataInicio)));
     return LCds->IsEmpty() ? "0" : LCds->FieldByName("INFORMACAO1").AsString();
 }
 
@@ -83,7 +89,8 @@ JOIN TAB_VERBAS ON (CALCULO.COD_VERBA=TAB_VERBAS.CODIGO)
 WHERE (UPPER(TAB_VERBAS.HORAS) = 'SIM' OR TAB_VERBAS.FORMULA LIKE '4T%%')
   AND CALCULO.REFERENCIA > 0
   AND TAB_VERBAS.IDVERBA = %0:d
-  %1:s)";
+  %1:s
+ORDER BY CALCULO.IDCALCULO)";
     const auto LCds =
         TTarvoConsultasGeral::BuscarRegistrosSomenteLeitura(Format(SQL, IdVerba, FiltroDoDemonstrativo(FInfoBind)));
     return TTarvoUtilsMatematica::ConverterHorasEmDecimais(LCds->FieldByName("REFERENCIA").AsFloat());
@@ -91,40 +98,45 @@ WHERE (UPPER(TAB_VERBAS.HORAS) = 'SIM' OR TAB_VERBAS.FORMULA LIKE '4T%%')
 
 long double TTarvoESocialCamposVerbaDoPagamento::BuscarFatorRubr() const
 {
-    static constexpr std::string_view SQL = R"(SELECT COALESCE(CALCULO.REFERENCIA, 0) AS REFERENCIA
-FROM CALCULO
-JOIN TAB_VERBAS ON (CALCULO.COD_VERBA=TAB_VERBAS.CODIGO)
-WHERE TAB_VERBAS.FORMULA LIKE '9%%'
-  AND CALCULO.REFERENCIA > 0
-  AND TAB_VERBAS.IDVERBA = %0:d
-  %1:s
-UNION
-SELECT COALESCE(TAB_VERBAS.VLR_CALC, 0) AS REFERENCIA
-FROM TAB_VERBAS
-WHERE (TAB_VERBAS.FORMULA IN ('1Z', '3G', '3C') OR TAB_VERBAS.FORMULA LIKE '1C%%')
-  AND TAB_VERBAS.VLR_CALC > 0
-  AND TAB_VERBAS.IDVERBA = %0:d)";
+    static constexpr std::string_view SQL = R"(SELECT REFERENCIA
+FROM (
+  SELECT COALESCE(CALCULO.REFERENCIA, 0) AS REFERENCIA, CALCULO.IDCALCULO AS CHAVE
+  FROM CALCULO
+  JOIN TAB_VERBAS ON (CALCULO.COD_VERBA=TAB_VERBAS.CODIGO)
+  WHERE TAB_VERBAS.FORMULA LIKE '9%%'
+    AND CALCULO.REFERENCIA > 0
+    AND TAB_VERBAS.IDVERBA = %0:d
+    %1:s
+  UNION ALL
+  SELECT COALESCE(TAB_VERBAS.VLR_CALC, 0) AS REFERENCIA, TAB_VERBAS.IDVERBA AS CHAVE
+  FROM TAB_VERBAS
+  WHERE (TAB_VERBAS.FORMULA IN ('1Z', '3G', '3C') OR TAB_VERBAS.FORMULA LIKE '1C%%')
+    AND TAB_VERBAS.VLR_CALC > 0
+    AND TAB_VERBAS.IDVERBA = %0:d)
+GROUP BY REFERENCIA
+ORDER BY MIN(CHAVE))";
     return TTarvoConsultasGeral::BuscarRegistrosSomenteLeitura(Format(SQL, IdVerba, FiltroDoDemonstrativo(FInfoBind)))
         ->FieldByName("REFERENCIA")
         .AsFloat();
 }
 
 // Neither value is tied to an intermittent call, unlike the net of the demonstrative.
-static constexpr std::string_view SQL_VALOR = R"(SELECT SUM(COALESCE(CALCULO.VALOR,0)) AS VALOR
+static constexpr std::string_view SQL_VALOR = R"(SELECT CALCULO.VALOR
 FROM CALCULO
 JOIN TAB_VERBAS ON (TAB_VERBAS.CODIGO=CALCULO.COD_VERBA)
 WHERE %0:s
-  %1:s)";
+  %1:s
+ORDER BY CALCULO.IDCALCULO)";
 
 long double TTarvoESocialCamposVerbaDoPagamento::BuscarVrRubr() const
 {
-    return BuscarValorDoSql(
+    return BuscarSomaDoSql(
         Format(SQL_VALOR, Format("TAB_VERBAS.IDVERBA = %0:d", IdVerba), FiltroDoDemonstrativo(FInfoBind)));
 }
 
 long double TTarvoESocialCamposVerbaDoPagamento::BuscarValorTotalPensao() const
 {
-    return BuscarValorDoSql(Format(SQL_VALOR, "TAB_VERBAS.FORMULA LIKE '5E%'", FiltroDoDemonstrativo(FInfoBind)));
+    return BuscarSomaDoSql(Format(SQL_VALOR, "TAB_VERBAS.FORMULA LIKE '5E%'", FiltroDoDemonstrativo(FInfoBind)));
 }
 
 // One row a pensioner, who may be registered under several contracts. Of a pensioner without a CPF the block gives the
@@ -139,6 +151,7 @@ BEGIN
     WHERE DEPENDENTES.PENSIONISTA = 1
       %0:s
       AND DEPENDENTES.DATA_NASCIMENTO <= %1:S
+    ORDER BY 1
     INTO :LCPF
   DO BEGIN
     IF (LCPF <> '') THEN BEGIN

@@ -33,7 +33,8 @@ std::string TTarvoESocialCamposdetPgtoAnt::BuscarListaIdEmpregadosPorCategoria()
 FROM EMPREGADOS
 JOIN FP_ESOCIALTABELA ON ( FP_ESOCIALTABELA.IDESOCIALTABELA=EMPREGADOS.IDCATEGORIAESOCIAL AND FP_ESOCIALTABELA.TABELA = 1)
 WHERE FP_ESOCIALTABELA.CODIGO STARTING WITH '%0:d'
-  %1:s)";
+  %1:s
+ORDER BY EMPREGADOS.IDEMPREGADO)";
     const auto LCds = TTarvoConsultasGeral::BuscarRegistros(Format(
         SQL, codCateg, FormatarListaParaClausulaIN("EMPREGADOS", "IDEMPREGADO", FInfoBind.ListaIdsEmpregado, " AND ")));
     return LCds->IsEmpty() ? "0" : CriarListaDoClientDataset(*LCds, "IDEMPREGADO");
@@ -84,7 +85,8 @@ FROM (
 %2:s
   UNION
 %3:s)
-GROUP BY TPBCIRRF)";
+GROUP BY TPBCIRRF
+ORDER BY TPBCIRRF)";
 
 void TTarvoESocialCamposdetPgtoAnt::CarregarListaInfoPagtoAnt(const TListaCamposModificados* AListaCamposModificados)
 {

@@ -30,7 +30,8 @@ std::string TTarvoESocialCamposdetPgtoFer::BuscarSQLDados()
     static constexpr std::string_view SQL = R"(SELECT FIRST 1 FP_ESOCIALTABELA.CODIGO
 FROM EMPREGADOS
 JOIN FP_ESOCIALTABELA ON ( FP_ESOCIALTABELA.IDESOCIALTABELA=EMPREGADOS.IDCATEGORIAESOCIAL AND FP_ESOCIALTABELA.TABELA = 1)
-%0:s)";
+%0:s
+ORDER BY EMPREGADOS.IDEMPREGADO)";
     return Format(SQL,
                   FormatarListaParaClausulaIN("EMPREGADOS", "IDEMPREGADO", FInfoBind.ListaIdsEmpregado, " WHERE "));
 }
@@ -45,15 +46,16 @@ void TTarvoESocialCamposdetPgtoFer::CarregarDados(const TListaCamposModificados*
 
 long double TTarvoESocialCamposdetPgtoFer::BuscarValorLiquido() const
 {
-    static constexpr std::string_view SQL = R"(SELECT SUM(COALESCE(CALCULO.VALOR,0)) AS VALOR
+    static constexpr std::string_view SQL = R"(SELECT CALCULO.VALOR
 FROM CALCULO
 JOIN TAB_VERBAS ON (TAB_VERBAS.CODIGO=CALCULO.COD_VERBA)
 WHERE TAB_VERBAS.FORMULA LIKE '7L'
   AND CALCULO.TIPO = '04'
   %0:s
   AND CALCULO.DATA_PAGTO = %1:s
-  AND CALCULO.DATA_INICIO = %2:s)";
-    return BuscarValorDoSql(
+  AND CALCULO.DATA_INICIO = %2:s
+ORDER BY CALCULO.IDCALCULO)";
+    return BuscarSomaDoSql(
         Format(SQL, FormatarListaParaClausulaIN("CALCULO", "IDEMPREGADO", FInfoBind.ListaIdsEmpregado, " AND "),
                FormatarDataDB(FInfoBind.DataPagto, true), FormatarDataDB(FInfoBind.DataInicio, true)));
 }
@@ -79,7 +81,8 @@ JOIN FP_ESOCIALTABELA ON (FP_ESOCIALINCIDIRRF.IDESOCIALTABELA = FP_ESOCIALTABELA
   AND CALCULO.DATA_INICIO = %2:s
   AND CALCULO.VALOR > 0
   AND FP_ESOCIALTABELA.CODIGO IN ('00', '01', '09', '13', '33', '43', '46', '53', '63', '75', '93')
-  AND TAB_VERBAS.FORMULA <> '7L')";
+  AND TAB_VERBAS.FORMULA <> '7L'
+ORDER BY TAB_VERBAS.IDVERBA)";
     const auto LCds = TTarvoConsultasGeral::BuscarRegistros(
         Format(SQL, FormatarListaParaClausulaIN("CALCULO", "IDEMPREGADO", FInfoBind.ListaIdsEmpregado, " WHERE "),
                FormatarDataDB(FInfoBind.DataPagto, true), FormatarDataDB(FInfoBind.DataInicio, true)));

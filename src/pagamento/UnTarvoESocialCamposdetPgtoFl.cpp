@@ -119,31 +119,34 @@ std::string TTarvoESocialCamposdetPgtoFl::GerarIdeDmDev() const
     return remuneracao::FormarIdeDmDev(LDados);
 }
 
-static constexpr std::string_view SQL_LIQUIDO_DA_FOLHA = R"(SELECT SUM(COALESCE(CALCULO.VALOR,0)) AS VALOR
+static constexpr std::string_view SQL_LIQUIDO_DA_FOLHA = R"(SELECT CALCULO.VALOR
 FROM CALCULO
 JOIN TAB_VERBAS ON (CALCULO.COD_VERBA=TAB_VERBAS.CODIGO)
 WHERE TAB_VERBAS.FORMULA = '%0:s'
-  %1:s%2:s)";
+  %1:s%2:s
+ORDER BY CALCULO.IDCALCULO)";
 
-static constexpr std::string_view SQL_LIQUIDO_DO_RECIBO = R"(SELECT SUM(COALESCE(RPAVALOR.VALOR,0)) AS VALOR
+static constexpr std::string_view SQL_LIQUIDO_DO_RECIBO = R"(SELECT RPAVALOR.VALOR
 FROM RPAVALOR
 JOIN RPA ON (RPA.IDRPA=RPAVALOR.IDRPA)
 JOIN SC00_FILIAL ON (SC00_FILIAL.IDFILIAL=RPA.IDFILIAL)
 JOIN RPATPVALOR ON (RPATPVALOR.IDRPATPVALOR=RPAVALOR.IDRPATPVALOR)
-%0:s)";
+%0:s
+ORDER BY RPAVALOR.IDRPAVALOR)";
 
 long double TTarvoESocialCamposdetPgtoFl::BuscarValorTotal() const
 {
     if (FInfoBind.TipoFolha == TTiposFolha::Rpa)
-        return BuscarValorDoSql(
+        return BuscarSomaDoSql(
             Format(SQL_LIQUIDO_DO_RECIBO, FiltroDoRecibo(FInfoBind, "RPATPVALOR.NOME = 'VLRLIQUIDO'")));
-    return BuscarValorDoSql(Format(SQL_LIQUIDO_DA_FOLHA, FInfoBind.TipoFolha == TTiposFolha::Rescisao ? "8J" : "98A",
-                                   FiltroDoDemonstrativo(FInfoBind), FFiltroIntermitente));
+    return BuscarSomaDoSql(Format(SQL_LIQUIDO_DA_FOLHA, FInfoBind.TipoFolha == TTiposFolha::Rescisao ? "8J" : "98A",
+                                  FiltroDoDemonstrativo(FInfoBind), FFiltroIntermitente));
 }
 
 static constexpr std::string_view SQL_EMPREGADO_DO_DEMONSTRATIVO = R"(SELECT CALCULO.IDEMPREGADO
 FROM CALCULO
-%0:s)";
+%0:s
+ORDER BY CALCULO.IDCALCULO)";
 
 std::string TTarvoESocialCamposdetPgtoFl::BuscarNumeroRecibo() const
 {
@@ -200,7 +203,8 @@ JOIN CALCULO ON (CALCULO.COD_VERBA=TAB_VERBAS.CODIGO)
 WHERE (TAB_VERBAS.FORMULA LIKE '5E%%' OR TAB_VERBAS.FORMULA LIKE '99G%%' OR TAB_VERBAS.FORMULA LIKE '99H%%'
     OR TAB_VERBAS.FORMULA IN ('99F','99I','99K','99M'))
   AND CALCULO.VALOR > 0
-  %0:s%1:s)";
+  %0:s%1:s
+ORDER BY TAB_VERBAS.IDVERBA)";
 
 void TTarvoESocialCamposdetPgtoFl::BuscarListaretPgtoTotEmpregado()
 {
@@ -219,7 +223,8 @@ FROM RPATPVALOR
 JOIN RPAVALOR ON (RPAVALOR.IDRPATPVALOR=RPATPVALOR.IDRPATPVALOR)
 JOIN RPA ON (RPA.IDRPA=RPAVALOR.IDRPA)
 JOIN SC00_FILIAL ON (SC00_FILIAL.IDFILIAL=RPA.IDFILIAL)
-%0:s)";
+%0:s
+ORDER BY RPATPVALOR.IDRPATPVALOR)";
 
 void TTarvoESocialCamposdetPgtoFl::BuscarListaretPgtoTotPrestServico()
 {

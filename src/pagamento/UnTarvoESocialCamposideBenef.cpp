@@ -112,6 +112,8 @@ UNION
 } // namespace
 
 // The category class is 3 for the listed categories without a bond and 2 for all others, none included.
+// The lists of contracts are compared as texts, since an engine may tell two blobs of one text apart; each is in the
+// order of the ids, as LIST(DISTINCT ...) sorts what it takes. The kinds may stand in any order: an IN takes them.
 static constexpr std::string_view SQL_DATAS_DE_PAGAMENTO = R"(WITH SQL_CATEGORIA AS (
   SELECT
     IIF(FP_ESOCIALTABELA.CODIGO IN (%7:S),3,2) CATEG,
@@ -133,7 +135,8 @@ JOIN SC00_FILIAL ON (SC00_FILIAL.IDFILIAL=RPA.IDFILIAL)
 WHERE SC00_FILIAL.IDEMPRESA = %5:D
   AND ( RPA.IDPRESTSERVICO IN (%1:S))
   AND RPA.DATAPAGTO BETWEEN %2:S AND %3:S)
-GROUP BY DATA_PAGTO, TPPAGTO, LISTA)";
+GROUP BY DATA_PAGTO, TPPAGTO, CAST(LISTA AS VARCHAR(100))
+ORDER BY 1, 3, 4)";
 
 std::string TTarvoESocialCamposideBenef::BuscarSqlDatasDePagamento() const
 {

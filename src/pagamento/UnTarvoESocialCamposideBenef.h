@@ -15,7 +15,7 @@ public:
     /// As the caller gave it, punctuation included.
     std::string cpfBenef;
     TTarvoESocialCamposdeps deps;
-    /// In the order of the database.
+    /// By date, kind of payment and list of contracts.
     TListaDeGrupos<TTarvoESocialCamposinfoPgto> infoPgto;
 
     void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;

@@ -85,15 +85,17 @@ void TTarvoESocialCamposinfoPgto::CarregarListadetPgtoFl()
         CarregarListadetPgtoFlPrestServicos();
 }
 
-// One demonstrative per category.
+// One demonstrative per category. No contract comes twice; DISTINCT puts them in order, which an ordered derived table
+// below a GROUP BY doesn't.
 static constexpr std::string_view SQL_CATEGORIAS = R"(SELECT
-  LIST(CAST(EMPREGADOS.IDEMPREGADO AS NUMERIC)) AS LISTA_EMPREGADOS,
+  LIST(DISTINCT CAST(EMPREGADOS.IDEMPREGADO AS NUMERIC)) AS LISTA_EMPREGADOS,
   CAST(TRUNC(FP_ESOCIALTABELA.CODIGO) AS NUMERIC) AS COD_CATEG
 FROM EMPREGADOS
 INNER JOIN FP_ESOCIALTABELA ON (FP_ESOCIALTABELA.IDESOCIALTABELA = EMPREGADOS.IDCATEGORIAESOCIAL)
 WHERE EMPREGADOS.IDEMPRESA = %0:d
   %1:s
-GROUP BY COD_CATEG)";
+GROUP BY COD_CATEG
+ORDER BY 2)";
 
 // The calculations of the date, whatever the category: a calculation of another category finds no value in the
 // detail's own queries and is dropped there. The kinds stand bare, as numbers, and the engine converts the column; both
@@ -126,7 +128,8 @@ WHERE CALCULO.IDEMPREGADO IN (%0:S)
   AND CALCULO.TIPO = '05'
   AND CALCULO.DATA_PAGTO = %1:S
   AND CALCULO.SUBTIPO = 2
-  AND CALCULO.DATA_INICIO >= %3:s)";
+  AND CALCULO.DATA_INICIO >= %3:s
+ORDER BY 1, 2, 3, 4, 5, 6, 7)";
 
 static std::string ColunasDoCalculo(std::string_view ATipoCalcCompl, std::string_view ADataAcordo)
 {
@@ -185,7 +188,8 @@ JOIN SC00_FILIAL ON (SC00_FILIAL.IDFILIAL=RPA.IDFILIAL)
 WHERE SC00_FILIAL.IDEMPRESA = %0:D
   %1:S
   AND RPA.DATAPAGTO = %2:S
-  AND RPA.COMPETENCIA >= %3:S)";
+  AND RPA.COMPETENCIA >= %3:S
+ORDER BY RPA.COMPETENCIA, RPA.DATAPAGTO, RPA.NRRPA)";
 
 void TTarvoESocialCamposinfoPgto::CarregarListadetPgtoFlPrestServicos()
 {
@@ -234,7 +238,7 @@ FROM (
     AND CALCULO.TIPO = '04'
     AND CALCULO.DATA_INICIO >= %2:S )
 GROUP BY DATA_INICIO, IDEMPREGADO
-ORDER BY DATA_INICIO ASC)";
+ORDER BY DATA_INICIO ASC, IDEMPREGADO)";
 
 void TTarvoESocialCamposinfoPgto::CarregarListadetPgtoFer()
 {
@@ -289,7 +293,8 @@ FROM (
   %0:S
     AND CALCULO.TIPO = '05'
     AND CALCULO.DATA_PAGTO = %1:S
-    AND CALCULO.SUBTIPO = 2))";
+    AND CALCULO.SUBTIPO = 2)
+ORDER BY CODIGO)";
 
 void TTarvoESocialCamposinfoPgto::CarregarListadetPgtoAnt()
 {

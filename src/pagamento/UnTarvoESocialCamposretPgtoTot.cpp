@@ -53,12 +53,13 @@ std::string TTarvoESocialCamposretPgtoTot::BuscarCodRubrPrestador() const
 
 long double TTarvoESocialCamposretPgtoTot::BuscarVrRubrPrestador() const
 {
-    static constexpr std::string_view SQL = R"(SELECT SUM(COALESCE(RPAVALOR.VALOR,0)) AS VALOR
+    static constexpr std::string_view SQL = R"(SELECT RPAVALOR.VALOR
 FROM RPAVALOR
 JOIN RPA ON (RPA.IDRPA=RPAVALOR.IDRPA)
 JOIN SC00_FILIAL ON (SC00_FILIAL.IDFILIAL=RPA.IDFILIAL)
-%0:s)";
-    return BuscarValorDoSql(Format(SQL, FiltroDoRecibo(FInfoBind, Format("RPAVALOR.IDRPATPVALOR = %0:d", IdVerba))));
+%0:s
+ORDER BY RPAVALOR.IDRPAVALOR)";
+    return BuscarSomaDoSql(Format(SQL, FiltroDoRecibo(FInfoBind, Format("RPAVALOR.IDRPATPVALOR = %0:d", IdVerba))));
 }
 
 } // namespace tarvo::pagamento

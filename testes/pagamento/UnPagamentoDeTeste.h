@@ -19,6 +19,8 @@ struct TCalculoDeTeste {
     TDateTime Pagto = D(2021, 3, 31);
     double Referencia = 0;
     TValorSql Convocacao = nullptr;
+    /// Where the first row counts; else the next one.
+    int Id = 0;
 };
 
 /// An event that was loaded, with the parameter object that it refers to.
@@ -118,7 +120,9 @@ protected:
     }
     static void Calculo(const TCalculoDeTeste& A)
     {
-        Inserir("CALCULO", {{"IDEMPREGADO", A.Empregado},
+        static int LId = 1'000'000;
+        Inserir("CALCULO", {{"IDCALCULO", A.Id != 0 ? A.Id : ++LId},
+                            {"IDEMPREGADO", A.Empregado},
                             {"COD_EMPRESA", 1},
                             {"COD_EMPREGADO", 1000 + A.Empregado},
                             {"COD_VERBA", A.Verba},
