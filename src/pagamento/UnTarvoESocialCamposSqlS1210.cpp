@@ -32,12 +32,17 @@ std::string FiltroDoRecibo(const TTarvoESocialCamposS1210IOP& AInfoBind, std::st
                   AInfoBind.NumeroRecibo, ACondicao);
 }
 
-long double BuscarSomaDoSql(std::string_view ASql)
+std::string OrdemDaChave(std::string_view AChave) { return Format("ORDER BY %0:s + 0", AChave); }
+
+long double BuscarSomaDoSql(std::string_view ASql, std::string_view AChave)
 {
     static constexpr std::string_view SQL = R"(SELECT SUM(COALESCE(VALOR,0)) AS VALOR
 FROM (
-%0:s))";
-    return TTarvoConsultasGeral::BuscarRegistrosSomenteLeitura(Format(SQL, ASql))->FieldByName("VALOR").AsFloat();
+%0:s
+%1:s))";
+    return TTarvoConsultasGeral::BuscarRegistrosSomenteLeitura(Format(SQL, ASql, OrdemDaChave(AChave)))
+        ->FieldByName("VALOR")
+        .AsFloat();
 }
 
 } // namespace tarvo::pagamento

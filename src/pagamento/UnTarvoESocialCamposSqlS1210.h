@@ -26,8 +26,12 @@ std::string FiltroDoDemonstrativo(const TTarvoESocialCamposS1210IOP& AInfoBind, 
 /// The values of one receipt (RPA, SC00_FILIAL) that fulfil a condition, as a WHERE clause.
 std::string FiltroDoRecibo(const TTarvoESocialCamposS1210IOP& AInfoBind, std::string_view ACondicao);
 
-/// Sum of VALOR over the rows of a statement; 0 without a row. The rows are added in the order of the statement: where
-/// a database holds amounts as binary floating numbers, their sum hangs on it in the last place.
-long double BuscarSomaDoSql(std::string_view ASql);
+/// `ORDER BY key + 0`: the rows by their key. By the bare column the engine would walk the index of the whole table
+/// instead of sorting the few rows that a statement takes.
+std::string OrdemDaChave(std::string_view AChave);
+
+/// Sum of VALOR over the rows of a statement; 0 without a row. The rows are added in the order of their key: where a
+/// database holds amounts as binary floating numbers, the last place of a sum hangs on it.
+long double BuscarSomaDoSql(std::string_view ASql, std::string_view AChave);
 
 } // namespace tarvo::pagamento

@@ -90,9 +90,9 @@ WHERE (UPPER(TAB_VERBAS.HORAS) = 'SIM' OR TAB_VERBAS.FORMULA LIKE '4T%%')
   AND CALCULO.REFERENCIA > 0
   AND TAB_VERBAS.IDVERBA = %0:d
   %1:s
-ORDER BY CALCULO.IDCALCULO)";
-    const auto LCds =
-        TTarvoConsultasGeral::BuscarRegistrosSomenteLeitura(Format(SQL, IdVerba, FiltroDoDemonstrativo(FInfoBind)));
+%2:s)";
+    const auto LCds = TTarvoConsultasGeral::BuscarRegistrosSomenteLeitura(
+        Format(SQL, IdVerba, FiltroDoDemonstrativo(FInfoBind), OrdemDaChave("CALCULO.IDCALCULO")));
     return TTarvoUtilsMatematica::ConverterHorasEmDecimais(LCds->FieldByName("REFERENCIA").AsFloat());
 }
 
@@ -125,18 +125,19 @@ static constexpr std::string_view SQL_VALOR = R"(SELECT CALCULO.VALOR
 FROM CALCULO
 JOIN TAB_VERBAS ON (TAB_VERBAS.CODIGO=CALCULO.COD_VERBA)
 WHERE %0:s
-  %1:s
-ORDER BY CALCULO.IDCALCULO)";
+  %1:s)";
 
 long double TTarvoESocialCamposVerbaDoPagamento::BuscarVrRubr() const
 {
     return BuscarSomaDoSql(
-        Format(SQL_VALOR, Format("TAB_VERBAS.IDVERBA = %0:d", IdVerba), FiltroDoDemonstrativo(FInfoBind)));
+        Format(SQL_VALOR, Format("TAB_VERBAS.IDVERBA = %0:d", IdVerba), FiltroDoDemonstrativo(FInfoBind)),
+        "CALCULO.IDCALCULO");
 }
 
 long double TTarvoESocialCamposVerbaDoPagamento::BuscarValorTotalPensao() const
 {
-    return BuscarSomaDoSql(Format(SQL_VALOR, "TAB_VERBAS.FORMULA LIKE '5E%'", FiltroDoDemonstrativo(FInfoBind)));
+    return BuscarSomaDoSql(Format(SQL_VALOR, "TAB_VERBAS.FORMULA LIKE '5E%'", FiltroDoDemonstrativo(FInfoBind)),
+                           "CALCULO.IDCALCULO");
 }
 
 // One row a pensioner, who may be registered under several contracts. Of a pensioner without a CPF the block gives the

@@ -34,9 +34,10 @@ FROM EMPREGADOS
 JOIN FP_ESOCIALTABELA ON ( FP_ESOCIALTABELA.IDESOCIALTABELA=EMPREGADOS.IDCATEGORIAESOCIAL AND FP_ESOCIALTABELA.TABELA = 1)
 WHERE FP_ESOCIALTABELA.CODIGO STARTING WITH '%0:d'
   %1:s
-ORDER BY EMPREGADOS.IDEMPREGADO)";
+%2:s)";
     const auto LCds = TTarvoConsultasGeral::BuscarRegistros(Format(
-        SQL, codCateg, FormatarListaParaClausulaIN("EMPREGADOS", "IDEMPREGADO", FInfoBind.ListaIdsEmpregado, " AND ")));
+        SQL, codCateg, FormatarListaParaClausulaIN("EMPREGADOS", "IDEMPREGADO", FInfoBind.ListaIdsEmpregado, " AND "),
+        OrdemDaChave("EMPREGADOS.IDEMPREGADO")));
     return LCds->IsEmpty() ? "0" : CriarListaDoClientDataset(*LCds, "IDEMPREGADO");
 }
 

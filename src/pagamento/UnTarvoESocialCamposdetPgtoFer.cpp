@@ -31,9 +31,9 @@ std::string TTarvoESocialCamposdetPgtoFer::BuscarSQLDados()
 FROM EMPREGADOS
 JOIN FP_ESOCIALTABELA ON ( FP_ESOCIALTABELA.IDESOCIALTABELA=EMPREGADOS.IDCATEGORIAESOCIAL AND FP_ESOCIALTABELA.TABELA = 1)
 %0:s
-ORDER BY EMPREGADOS.IDEMPREGADO)";
-    return Format(SQL,
-                  FormatarListaParaClausulaIN("EMPREGADOS", "IDEMPREGADO", FInfoBind.ListaIdsEmpregado, " WHERE "));
+%1:s)";
+    return Format(SQL, FormatarListaParaClausulaIN("EMPREGADOS", "IDEMPREGADO", FInfoBind.ListaIdsEmpregado, " WHERE "),
+                  OrdemDaChave("EMPREGADOS.IDEMPREGADO"));
 }
 
 void TTarvoESocialCamposdetPgtoFer::CarregarDados(const TListaCamposModificados* AListaCamposModificados)
@@ -53,11 +53,11 @@ WHERE TAB_VERBAS.FORMULA LIKE '7L'
   AND CALCULO.TIPO = '04'
   %0:s
   AND CALCULO.DATA_PAGTO = %1:s
-  AND CALCULO.DATA_INICIO = %2:s
-ORDER BY CALCULO.IDCALCULO)";
+  AND CALCULO.DATA_INICIO = %2:s)";
     return BuscarSomaDoSql(
         Format(SQL, FormatarListaParaClausulaIN("CALCULO", "IDEMPREGADO", FInfoBind.ListaIdsEmpregado, " AND "),
-               FormatarDataDB(FInfoBind.DataPagto, true), FormatarDataDB(FInfoBind.DataInicio, true)));
+               FormatarDataDB(FInfoBind.DataPagto, true), FormatarDataDB(FInfoBind.DataInicio, true)),
+        "CALCULO.IDCALCULO");
 }
 
 std::string TTarvoESocialCamposdetPgtoFer::BuscarMatricula() const

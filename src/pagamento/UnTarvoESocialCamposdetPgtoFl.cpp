@@ -123,37 +123,37 @@ static constexpr std::string_view SQL_LIQUIDO_DA_FOLHA = R"(SELECT CALCULO.VALOR
 FROM CALCULO
 JOIN TAB_VERBAS ON (CALCULO.COD_VERBA=TAB_VERBAS.CODIGO)
 WHERE TAB_VERBAS.FORMULA = '%0:s'
-  %1:s%2:s
-ORDER BY CALCULO.IDCALCULO)";
+  %1:s%2:s)";
 
 static constexpr std::string_view SQL_LIQUIDO_DO_RECIBO = R"(SELECT RPAVALOR.VALOR
 FROM RPAVALOR
 JOIN RPA ON (RPA.IDRPA=RPAVALOR.IDRPA)
 JOIN SC00_FILIAL ON (SC00_FILIAL.IDFILIAL=RPA.IDFILIAL)
 JOIN RPATPVALOR ON (RPATPVALOR.IDRPATPVALOR=RPAVALOR.IDRPATPVALOR)
-%0:s
-ORDER BY RPAVALOR.IDRPAVALOR)";
+%0:s)";
 
 long double TTarvoESocialCamposdetPgtoFl::BuscarValorTotal() const
 {
     if (FInfoBind.TipoFolha == TTiposFolha::Rpa)
         return BuscarSomaDoSql(
-            Format(SQL_LIQUIDO_DO_RECIBO, FiltroDoRecibo(FInfoBind, "RPATPVALOR.NOME = 'VLRLIQUIDO'")));
+            Format(SQL_LIQUIDO_DO_RECIBO, FiltroDoRecibo(FInfoBind, "RPATPVALOR.NOME = 'VLRLIQUIDO'")),
+            "RPAVALOR.IDRPAVALOR");
     return BuscarSomaDoSql(Format(SQL_LIQUIDO_DA_FOLHA, FInfoBind.TipoFolha == TTiposFolha::Rescisao ? "8J" : "98A",
-                                  FiltroDoDemonstrativo(FInfoBind), FFiltroIntermitente));
+                                  FiltroDoDemonstrativo(FInfoBind), FFiltroIntermitente),
+                           "CALCULO.IDCALCULO");
 }
 
 static constexpr std::string_view SQL_EMPREGADO_DO_DEMONSTRATIVO = R"(SELECT CALCULO.IDEMPREGADO
 FROM CALCULO
 %0:s
-ORDER BY CALCULO.IDCALCULO)";
+%1:s)";
 
 std::string TTarvoESocialCamposdetPgtoFl::BuscarNumeroRecibo() const
 {
     if (FInfoBind.tpPgto != PAGAMENTO_DA_RESCISAO && FInfoBind.tpPgto != PAGAMENTO_DO_TERMINO)
         return {};
-    const auto LIdEmpregado = TTarvoConsultasGeral::BuscarInteiro(
-        Format(SQL_EMPREGADO_DO_DEMONSTRATIVO, FiltroDoDemonstrativo(FInfoBind, "WHERE")));
+    const auto LIdEmpregado = TTarvoConsultasGeral::BuscarInteiro(Format(
+        SQL_EMPREGADO_DO_DEMONSTRATIVO, FiltroDoDemonstrativo(FInfoBind, "WHERE"), OrdemDaChave("CALCULO.IDCALCULO")));
     return TTarvoConsultasESocial::BuscarNumeroDeRecibo(
         FInfoBind.IdEmpresa,
         FInfoBind.tpPgto == PAGAMENTO_DA_RESCISAO ? TTipoEventoFolha::tefS2299 : TTipoEventoFolha::tefS2399,

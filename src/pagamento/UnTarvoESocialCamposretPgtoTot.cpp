@@ -57,9 +57,9 @@ long double TTarvoESocialCamposretPgtoTot::BuscarVrRubrPrestador() const
 FROM RPAVALOR
 JOIN RPA ON (RPA.IDRPA=RPAVALOR.IDRPA)
 JOIN SC00_FILIAL ON (SC00_FILIAL.IDFILIAL=RPA.IDFILIAL)
-%0:s
-ORDER BY RPAVALOR.IDRPAVALOR)";
-    return BuscarSomaDoSql(Format(SQL, FiltroDoRecibo(FInfoBind, Format("RPAVALOR.IDRPATPVALOR = %0:d", IdVerba))));
+%0:s)";
+    return BuscarSomaDoSql(Format(SQL, FiltroDoRecibo(FInfoBind, Format("RPAVALOR.IDRPATPVALOR = %0:d", IdVerba))),
+                           "RPAVALOR.IDRPAVALOR");
 }
 
 } // namespace tarvo::pagamento

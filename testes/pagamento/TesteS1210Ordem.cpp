@@ -211,7 +211,7 @@ INSTANTIATE_TEST_SUITE_P(Casos, TTesteOrdemDosPagamentos,
                          });
 
 /// A database may hold its amounts as binary floating numbers.
-TEST_F(TTestePagamento, ASomaSegueAOrdemDoComando)
+TEST_F(TTestePagamento, ASomaSegueAOrdemDaChave)
 {
     static constexpr const char* VALORES = R"(SELECT VALOR
 FROM (
@@ -219,10 +219,9 @@ FROM (
   UNION ALL
   SELECT 0.1e0, 1 FROM RDB$DATABASE
   UNION ALL
-  SELECT 0.2e0, 2 FROM RDB$DATABASE)
-ORDER BY ID)";
-    EXPECT_EQ(0.1 + 0.2 + 0.3, static_cast<double>(pagamento::BuscarSomaDoSql(VALORES)));
-    EXPECT_EQ(0.3 + 0.2 + 0.1, static_cast<double>(pagamento::BuscarSomaDoSql(std::string(VALORES) + " DESC")));
+  SELECT 0.2e0, 2 FROM RDB$DATABASE))";
+    EXPECT_EQ(0.1 + 0.2 + 0.3, static_cast<double>(pagamento::BuscarSomaDoSql(VALORES, "ID")));
+    EXPECT_EQ(0.3 + 0.2 + 0.1, static_cast<double>(pagamento::BuscarSomaDoSql(VALORES, "-ID")));
 }
 
 } // namespace
