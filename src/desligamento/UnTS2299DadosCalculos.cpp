@@ -63,7 +63,8 @@ TDataset TS2299DadosCalculos::BuscarCalculoRescisao()
                             CondicaoDoPeriodo(FDados.GetPrimeiroDiaMesRescisao(), FDados.GetUltimoDiaMesRescisao());
     FSqlCalc = SqlDoCalculo(LCondicoes) + std::string(ORDEM_DO_CALCULO);
     FSqlCalcQuebra = SqlDaQuebra(LCondicoes) +
-                     "\nORDER BY CALCULO.COD_EMPRESA, CALC_QUEBRA.COD_FILIAL, CALC_QUEBRA.COD_DEPTO, TAB_VERBAS.CODIGO";
+                     "\nORDER BY CALCULO.COD_EMPRESA, CALC_QUEBRA.COD_FILIAL, CALC_QUEBRA.COD_DEPTO, TAB_VERBAS.CODIGO,"
+                     " CALCULO.IDCALCULO, CALC_QUEBRA.IDCALCQUEBRA, TAB_VERBAS.IDVERBA";
     return TTarvoConsultasGeral::BuscarCalculoEventoESocial(FDados.TipoQuebraEmpresa, FSqlCalc, FSqlCalcQuebra);
 }
 
@@ -79,7 +80,8 @@ TDataset TS2299DadosCalculos::BuscarCalculoComplementarPagoNaCompet() const
 
 TDataset TS2299DadosCalculos::BuscarCalculoIntermitente()
 {
-    // The kind stands without quotes in the break form, and there is no order; both are meant.
+    // The kind stands without quotes in the break form, and its rows come by their columns as they stand, the amounts
+    // before the rubric; both are meant.
     const auto Condicoes = [&](std::string_view AModelo) {
         return Format(AModelo, FDados.IdDetConvocacaoTrabInterm, FDados.TipoFolha,
                       CondicaoDoPeriodo(FDados.DataInicio, FDados.DataFim));
@@ -87,7 +89,8 @@ TDataset TS2299DadosCalculos::BuscarCalculoIntermitente()
     FSqlCalc = SqlDoCalculo(Condicoes("CALCULO.IDDETCONVOCACAO = %0:d\n  AND CALCULO.TIPO = '%1:s'\n  AND %2:s")) +
                std::string(ORDEM_DO_CALCULO);
     FSqlCalcQuebra =
-        SqlDaQuebraOuDoCalculo(Condicoes("CALCULO.IDDETCONVOCACAO = %0:d\n  AND CALCULO.TIPO = %1:s\n  AND %2:s"));
+        SqlDaQuebraOuDoCalculo(Condicoes("CALCULO.IDDETCONVOCACAO = %0:d\n  AND CALCULO.TIPO = %1:s\n  AND %2:s")) +
+        "\nORDER BY " + std::string(COLUNAS_DA_UNIAO);
     return TTarvoConsultasGeral::BuscarCalculoEventoESocial(FDados.TipoQuebraEmpresa, FSqlCalc, FSqlCalcQuebra);
 }
 

@@ -44,8 +44,9 @@ TDataset TS2399DadosCalculos::BuscarCalculoRescisao()
             CondicaoDoPeriodo(DadosDmDev().GetPrimeiroDiaMesRescisao(), DadosDmDev().GetUltimoDiaMesRescisao()));
     };
     FSqlCalc = SqlDoCalculo(Condicoes("'01'")) +
-               "\nORDER BY CALCULO.COD_EMPRESA, CALCULO.COD_FILIAL, CALCULO.COD_DEPTO, TAB_VERBAS.IDVERBA";
-    FSqlCalcQuebra = SqlDaQuebraOuDoCalculo(Condicoes("01")) + "\nORDER BY IDVERBA";
+               "\nORDER BY CALCULO.COD_EMPRESA, CALCULO.COD_FILIAL, CALCULO.COD_DEPTO, TAB_VERBAS.IDVERBA,"
+               " CALCULO.IDCALCULO";
+    FSqlCalcQuebra = SqlDaQuebraOuDoCalculo(Condicoes("01")) + "\nORDER BY IDVERBA, MIN(IDCALCULO), MIN(IDCALCQUEBRA)";
     return TTarvoConsultasGeral::BuscarCalculoEventoESocial(DadosDmDev().TipoQuebraEmpresa, FSqlCalc, FSqlCalcQuebra);
 }
 

@@ -30,7 +30,9 @@ constexpr std::string_view COLUNAS_DO_CALCULO_SEM_QUEBRA = R"(
   CALCULO.VALOR,
   TAB_VERBAS.IDVERBA,
   TAB_VERBAS.FORMULA,
-  0 AS DIASTRAB)";
+  0 AS DIASTRAB,
+  CALCULO.IDCALCULO,
+  NULL AS IDCALCQUEBRA)";
 
 constexpr std::string_view COLUNAS_DA_QUEBRA = R"(
   CALCULO.COD_EMPRESA,
@@ -42,6 +44,10 @@ constexpr std::string_view COLUNAS_DA_QUEBRA = R"(
   TAB_VERBAS.IDVERBA,
   TAB_VERBAS.FORMULA,
   CALC_QUEBRA.DIASTRAB)";
+
+constexpr std::string_view CHAVES_DA_QUEBRA = R"(,
+  CALCULO.IDCALCULO,
+  CALC_QUEBRA.IDCALCQUEBRA)";
 
 // A split row speaks for its calculation as a whole: a department that it leaves out isn't taken from CALCULO.
 constexpr std::string_view COLUNAS_DA_QUEBRA_SE_HOUVER = R"(
@@ -90,22 +96,26 @@ std::string TDadosCalculosDesligamento::SqlDoCalculo(std::string_view ACondicoes
     return SqlDoCalculo(ACondicoes, COLUNAS_DO_CALCULO);
 }
 
-std::string TDadosCalculosDesligamento::SqlDaQuebra(std::string_view ACondicoes) const
+std::string TDadosCalculosDesligamento::SqlDaQuebra(std::string_view ACondicoes, std::string_view AChaves) const
 {
-    return Format(SQL_CALCULO, FDadosDmDev.IDEmpregado, ACondicoes, FFormulasExcluidas, COLUNAS_DA_QUEBRA,
+    return Format(SQL_CALCULO, FDadosDmDev.IDEmpregado, ACondicoes, FFormulasExcluidas,
+                  std::string(COLUNAS_DA_QUEBRA) + std::string(AChaves),
                   "CALC_QUEBRA\nJOIN CALCULO ON (CALC_QUEBRA.IDCALCULO = CALCULO.IDCALCULO)");
 }
 
 std::string TDadosCalculosDesligamento::SqlDaQuebraOuDoCalculo(std::string_view ACondicoes) const
 {
-    static constexpr std::string_view SQL = R"(SELECT * FROM (
+    static constexpr std::string_view SQL = R"(SELECT
+  %3:s
+FROM (
 %0:s
-UNION
+UNION ALL
 %1:s
   AND %2:s
-))";
-    return Format(SQL, SqlDaQuebra(ACondicoes), SqlDoCalculo(ACondicoes, COLUNAS_DO_CALCULO_SEM_QUEBRA),
-                  CALCULO_SEM_QUEBRA);
+)
+GROUP BY %3:s)";
+    return Format(SQL, SqlDaQuebra(ACondicoes, CHAVES_DA_QUEBRA),
+                  SqlDoCalculo(ACondicoes, COLUNAS_DO_CALCULO_SEM_QUEBRA), CALCULO_SEM_QUEBRA, COLUNAS_DA_UNIAO);
 }
 
 TDataset TDadosCalculosDesligamento::BuscarCalculoRescisaoComplementar() const
@@ -124,7 +134,8 @@ TDataset TDadosCalculosDesligamento::BuscarCalculoOutrosTiposNaCompetencia() con
     return TTarvoConsultasGeral::BuscarRegistrosSomenteLeitura(
         SqlDoCalculo(LCondicoes, COLUNAS_DA_QUEBRA_SE_HOUVER,
                      "\nLEFT JOIN CALC_QUEBRA ON (CALC_QUEBRA.IDCALCULO = CALCULO.IDCALCULO)") +
-        std::string(ORDEM_DO_CALCULO));
+        "\nORDER BY COD_EMPRESA, COD_FILIAL, COD_DEPTO, TAB_VERBAS.CODIGO, CALCULO.IDCALCULO,"
+        " CALC_QUEBRA.IDCALCQUEBRA, TAB_VERBAS.IDVERBA");
 }
 
 void TDadosCalculosDesligamento::LimparListas()
@@ -189,7 +200,8 @@ FROM SC00_EMPRESA
 INNER JOIN SC00_FILIAL ON (SC00_EMPRESA.IDEMPRESA = SC00_FILIAL.IDEMPRESA)
 LEFT JOIN SC00_DEPTO ON (SC00_DEPTO.IDFILIAL = SC00_FILIAL.IDFILIAL AND SC00_DEPTO.DEPTO = %2:d)
 WHERE SC00_EMPRESA.EMPRESA = %0:d
-  AND SC00_FILIAL.FILIAL = %1:d)";
+  AND SC00_FILIAL.FILIAL = %1:d
+ORDER BY SC00_FILIAL.IDFILIAL, SC00_DEPTO.IDDEPTO)";
     const auto LCds =
         TTarvoConsultasGeral::BuscarRegistros(Format(SQL, ADados.CodEmpresa, ADados.CodFilial, ADados.CodDepto));
     if (LCds->IsEmpty())

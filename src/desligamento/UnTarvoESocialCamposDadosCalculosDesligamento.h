@@ -70,8 +70,9 @@ protected:
     /// With the columns that every statement has.
     std::string SqlDoCalculo(std::string_view ACondicoes) const;
     /// The rows of CALC_QUEBRA, without an order.
-    std::string SqlDaQuebra(std::string_view ACondicoes) const;
-    /// The rows of CALC_QUEBRA, and those of CALCULO that aren't split.
+    std::string SqlDaQuebra(std::string_view ACondicoes) const { return SqlDaQuebra(ACondicoes, {}); }
+    /// The rows of CALC_QUEBRA, and those of CALCULO that aren't split, alike ones once and without an order: the keys of
+    /// the first row of each can be had by MIN(IDCALCULO) and MIN(IDCALCQUEBRA).
     std::string SqlDaQuebraOuDoCalculo(std::string_view ACondicoes) const;
 
     /// The complementary terminations paid on the day of the demonstrative, whatever their period.
@@ -93,6 +94,8 @@ protected:
     std::string FSqlCalcQuebra;
 
 private:
+    /// AChaves follows the columns.
+    std::string SqlDaQuebra(std::string_view ACondicoes, std::string_view AChaves) const;
     TDadosLotacao BuscarDadosLotacao(const TDadosCalculo& ADados) const;
 
     TdmDevDesligamentoIOP& FDadosDmDev;
@@ -101,7 +104,12 @@ private:
 };
 
 /// Order of the statements that don't go through the break table.
-inline constexpr std::string_view ORDEM_DO_CALCULO = "\nORDER BY COD_EMPRESA, COD_FILIAL, COD_DEPTO, TAB_VERBAS.CODIGO";
+inline constexpr std::string_view ORDEM_DO_CALCULO =
+    "\nORDER BY COD_EMPRESA, COD_FILIAL, COD_DEPTO, TAB_VERBAS.CODIGO, CALCULO.IDCALCULO, TAB_VERBAS.IDVERBA";
+
+/// What SqlDaQuebraOuDoCalculo selects.
+inline constexpr std::string_view COLUNAS_DA_UNIAO =
+    "COD_EMPRESA, COD_FILIAL, COD_DEPTO, BASE, REFERENCIA, VALOR, IDVERBA, FORMULA, DIASTRAB";
 
 /// The period of a calculation, to the day: `CALCULO.DATA_INICIO = d AND CALCULO.DATA_FIM = d`.
 std::string CondicaoDoPeriodo(TDateTime AInicio, TDateTime AFim);

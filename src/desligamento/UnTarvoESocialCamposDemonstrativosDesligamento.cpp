@@ -30,20 +30,40 @@ TRamoDeDemonstrativo RamoOutrosTiposNaCompetencia(const TdmDevDesligamentoIOP& A
                    FormatarDataDB(ADmDev.GetUltimoDiaMesRescisao(), true))};
 }
 
+namespace {
+
 std::string SqlDoRamo(const TRamoDeDemonstrativo& ARamo, std::string_view AColunaDoTipo, std::int64_t AIdEmpregado)
 {
-    static constexpr std::string_view SQL = R"(SELECT DISTINCT
+    static constexpr std::string_view SQL = R"(SELECT
   %0:d AS %1:s,
   CALCULO.DATA_INICIO,
   CALCULO.DATA_FIM,
   CALCULO.DATA_PAGTO,
   CALCULO.TIPO,
-  %2:s
+  %2:s,
+  CALCULO.IDCALCULO
 FROM CALCULO%3:s
 WHERE CALCULO.IDEMPREGADO = %4:d
   AND %5:s)";
     return Format(SQL, static_cast<int>(ARamo.Tipo), AColunaDoTipo, ARamo.Colunas, ARamo.Juncoes, AIdEmpregado,
                   ARamo.Condicoes);
+}
+
+} // namespace
+
+std::string SqlDosRamos(std::initializer_list<TRamoDeDemonstrativo> ARamos, std::string_view AColunaDoTipo,
+                        std::string_view AOutras, std::int64_t AIdEmpregado)
+{
+    static constexpr std::string_view SQL = R"(SELECT
+  %0:s
+FROM (
+%1:s
+)
+GROUP BY %0:s)";
+    std::string LRamos;
+    for (const auto& LRamo : ARamos)
+        LRamos += (LRamos.empty() ? "" : "\nUNION ALL\n") + SqlDoRamo(LRamo, AColunaDoTipo, AIdEmpregado);
+    return Format(SQL, Format("%0:s, DATA_INICIO, DATA_FIM, DATA_PAGTO, TIPO, %1:s", AColunaDoTipo, AOutras), LRamos);
 }
 
 void AlimentarDmDev(TdmDevDesligamentoIOP& ADmDev, const TOvraClientDataSet& ACds, std::string_view AColunaDoTipo)

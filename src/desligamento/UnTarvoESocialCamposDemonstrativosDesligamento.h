@@ -1,5 +1,6 @@
 #pragma once
 
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -32,8 +33,11 @@ inline constexpr std::string_view SEM_BASE_DO_SALARIO_FAMILIA = "\n  AND TAB_VER
 TRamoDeDemonstrativo RamoRescisaoComplementar(const TdmDevDesligamentoIOP& ADmDev, std::string AColunas);
 /// Advances paid in the month of the termination.
 TRamoDeDemonstrativo RamoOutrosTiposNaCompetencia(const TdmDevDesligamentoIOP& ADmDev, std::string AColunas);
-/// A branch as a statement: AColunaDoTipo names the kind, `TIPO_CALC_S2299`.
-std::string SqlDoRamo(const TRamoDeDemonstrativo& ARamo, std::string_view AColunaDoTipo, std::int64_t AIdEmpregado);
+/// The demonstratives of the branches, each once, without an order: the key of its first row can be had by
+/// MIN(IDCALCULO). AColunaDoTipo names the kind, `TIPO_CALC_S2299`; AOutras follows DATA_PAGTO and TIPO, the names of
+/// the columns that the branches give.
+std::string SqlDosRamos(std::initializer_list<TRamoDeDemonstrativo> ARamos, std::string_view AColunaDoTipo,
+                        std::string_view AOutras, std::int64_t AIdEmpregado);
 /// The parameters that every branch gives.
 void AlimentarDmDev(TdmDevDesligamentoIOP& ADmDev, const TOvraClientDataSet& ACds, std::string_view AColunaDoTipo);
 

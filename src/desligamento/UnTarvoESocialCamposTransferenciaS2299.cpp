@@ -6,13 +6,14 @@ namespace tarvo::desligamento {
 
 namespace {
 
-/// The transfers of a worker to a company of the database (1) and to one outside it (3): MOTIVOESOCIAL, INSCRICAO and,
-/// where AComTipo, TPINSCRICAO.
+/// The transfers of a worker to a company of the database (1) and to one outside it (3), those of the lowest key first:
+/// MOTIVOESOCIAL, INSCRICAO and, where AComTipo, TPINSCRICAO.
 std::string SqlTransferencia(std::int64_t AIdEmpregado, bool AComTipo, std::string_view ACondicaoDoMotivo)
 {
     static constexpr std::string_view RAMO = R"(SELECT
   TRANSF_EMPREG.MOTIVOESOCIAL,
-  %1:s
+  %1:s,
+  TRANSF_EMPREG.IDTRANSF_EMPREG
 FROM TRANSF_EMPREG
 INNER JOIN TRANSF_EMPREGDET ON (TRANSF_EMPREGDET.IDTRANSF_EMPREG = TRANSF_EMPREG.IDTRANSF_EMPREG)
 INNER JOIN EMPREGADOS ON (EMPREGADOS.COD_EMPRESA = TRANSF_EMPREG.COD_EMPRESAORIGEM
@@ -20,15 +21,27 @@ INNER JOIN EMPREGADOS ON (EMPREGADOS.COD_EMPRESA = TRANSF_EMPREG.COD_EMPRESAORIG
 WHERE EMPREGADOS.IDEMPREGADO = %0:d
   AND TRANSF_EMPREG.MOTIVO = %3:d
   AND %4:s)";
-    return Format(RAMO, AIdEmpregado,
-                  AComTipo ? "SC00_EMPRESA.CNPJ AS INSCRICAO,\n  SC00_EMPRESA.TPINSCRICAO"
-                           : "SC00_EMPRESA.CNPJ AS INSCRICAO",
-                  "\nINNER JOIN SC00_EMPRESA ON (TRANSF_EMPREG.COD_EMPRESADESTINO = SC00_EMPRESA.EMPRESA)", 1,
-                  ACondicaoDoMotivo) +
-           "\nUNION\n" +
-           Format(RAMO, AIdEmpregado,
-                  AComTipo ? "TRANSF_EMPREG.INSCRICAO,\n  TRANSF_EMPREG.TPINSCRICAO" : "TRANSF_EMPREG.INSCRICAO", "", 3,
-                  ACondicaoDoMotivo);
+    static constexpr std::string_view SQL = R"(SELECT
+  %2:s
+FROM (
+%0:s
+UNION ALL
+%1:s
+)
+GROUP BY %2:s
+ORDER BY MIN(IDTRANSF_EMPREG), MIN(IDEMPRESA))";
+    return Format(SQL,
+                  Format(RAMO, AIdEmpregado,
+                         AComTipo
+                             ? "SC00_EMPRESA.CNPJ AS INSCRICAO,\n  SC00_EMPRESA.TPINSCRICAO,\n  SC00_EMPRESA.IDEMPRESA"
+                             : "SC00_EMPRESA.CNPJ AS INSCRICAO,\n  SC00_EMPRESA.IDEMPRESA",
+                         "\nINNER JOIN SC00_EMPRESA ON (TRANSF_EMPREG.COD_EMPRESADESTINO = SC00_EMPRESA.EMPRESA)", 1,
+                         ACondicaoDoMotivo),
+                  Format(RAMO, AIdEmpregado,
+                         AComTipo ? "TRANSF_EMPREG.INSCRICAO,\n  TRANSF_EMPREG.TPINSCRICAO,\n  NULL AS IDEMPRESA"
+                                  : "TRANSF_EMPREG.INSCRICAO,\n  NULL AS IDEMPRESA",
+                         "", 3, ACondicaoDoMotivo),
+                  AComTipo ? "MOTIVOESOCIAL, INSCRICAO, TPINSCRICAO" : "MOTIVOESOCIAL, INSCRICAO");
 }
 
 } // namespace

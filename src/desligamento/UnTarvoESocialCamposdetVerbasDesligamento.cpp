@@ -34,7 +34,7 @@ const TPropriedades& TTarvoESocialCamposdetVerbasDesligamento::Tabela()
 
 std::string TTarvoESocialCamposdetVerbasDesligamento::BuscarSQLDados()
 {
-    // The nature is taken without a test of its validity; that is meant.
+    // Neither the table nor the nature is tested for its validity, which only orders them; that is meant.
     static constexpr std::string_view SQL = R"(WITH
 SQL_DADOSVERBA AS (
   SELECT FIRST 1
@@ -49,12 +49,14 @@ SQL_IDETAB_RUBR AS (
   FROM SC00_EMPRESACFG
   JOIN EMPREGADOS ON (EMPREGADOS.IDEMPRESA = SC00_EMPRESACFG.IDEMPRESA)
   WHERE %2:s
-    AND EMPREGADOS.IDEMPREGADO = %1:d),
+    AND EMPREGADOS.IDEMPREGADO = %1:d
+  ORDER BY %3:s, SC00_EMPRESACFG.IDEMPRESACFG),
 SQL_COD_NAT_RUBRICA_RELAC AS (
   SELECT FIRST 1 FP_ESOCIALTABELA.CODIGO
   FROM FP_RUBRICARELAC
   JOIN FP_ESOCIALTABELA ON (FP_ESOCIALTABELA.IDESOCIALTABELA = FP_RUBRICARELAC.IDESOCIALTABELA)
-  WHERE FP_RUBRICARELAC.IDVERBA = %0:d)
+  WHERE FP_RUBRICARELAC.IDVERBA = %0:d
+  ORDER BY %4:s, FP_RUBRICARELAC.IDRUBRICARELAC)
 SELECT
   SQL_DADOSVERBA.QTDRUBR,
   SQL_DADOSVERBA.FATOR_CALCULO,
@@ -65,8 +67,9 @@ SELECT
 FROM SQL_DADOSVERBA
 FULL JOIN SQL_IDETAB_RUBR ON (1=1)
 FULL JOIN SQL_COD_NAT_RUBRICA_RELAC ON (1=1))";
-    return Format(SQL, FDadosCalculo.IDVerba, FDadosCalculo.IDEmpregado,
-                  CondicaoDaChave(SC00_EMPRESACFG, {90, 38, 13}));
+    return Format(SQL, FDadosCalculo.IDVerba, FDadosCalculo.IDEmpregado, CondicaoDaChave(SC00_EMPRESACFG, {90, 38, 13}),
+                  OrdemDaValidade(SC00_EMPRESACFG, FDataDemissao),
+                  OrdemDaValidade({"FP_RUBRICARELAC", "IDVERBA"}, FDataDemissao));
 }
 
 void TTarvoESocialCamposdetVerbasDesligamento::AtribuirValoresManualmente()

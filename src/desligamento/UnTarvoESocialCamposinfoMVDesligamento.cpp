@@ -47,7 +47,8 @@ WHERE EMPREGADOS.IDEMPREGADO = %0:d
   %3:S
   AND RENDIMENTOS.TIPOREND = 'INSS'
   %4:s
-GROUP BY RENDIMENTOS.TPINSCRICAO, RENDIMENTOS.INSCRICAO, FP_ESOCIALTABELA.CODIGO)";
+GROUP BY RENDIMENTOS.TPINSCRICAO, RENDIMENTOS.INSCRICAO, FP_ESOCIALTABELA.CODIGO
+ORDER BY RENDIMENTOS.TPINSCRICAO, RENDIMENTOS.INSCRICAO, FP_ESOCIALTABELA.CODIGO)";
     const auto LCondicaoDaOrdem =
         tabelas::CondicaoDaOrdemDeDesconto(TTarvoConsultasEmpregado::BuscarIDEmpresaDoEmpregado(AIdEmpregado),
                                            TTarvoConsultasEmpregado::BuscarCpfTrabalhador(AIdEmpregado));

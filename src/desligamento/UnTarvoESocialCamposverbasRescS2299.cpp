@@ -39,7 +39,8 @@ FROM ES02_SPPROC
 WHERE ES02_SPPROC.INDMATERIA IN (1,7)
   AND ES02_SPPROC.IDFILIAL = (SELECT ALOC.IDFILIAL FROM SP_BUSCARALOCACAOEMPREGADO(
     (SELECT FIRST 1 EMPREGADOS.DATA_DEMISSAO FROM EMPREGADOS WHERE EMPREGADOS.IDEMPREGADO = %0:d), NULL, %0:d) ALOC)
-  AND ES02_SPPROC.IDEMPREGADO IS NULL)";
+  AND ES02_SPPROC.IDEMPREGADO IS NULL
+ORDER BY ES02_SPPROC.IDSPPROC)";
     return Format(SQL, FIDEmpregado);
 }
 
@@ -94,22 +95,10 @@ std::string TTarvoESocialCamposverbasRescS2299::SqlDosDemonstrativos(const TdmDe
                "  AND CALCULO.DATA_FIM BETWEEN %0:s AND %1:s",
                LInicio, LFim)};
 
-    const auto Ramo = [&](const TRamoDeDemonstrativo& ARamo) {
-        return SqlDoRamo(ARamo, TIPO_DO_CALCULO_S2299, ADmDev.IDEmpregado);
-    };
-    static constexpr std::string_view SQL = R"(SELECT * FROM (
-%0:s
-UNION
-%1:s
-UNION
-%2:s
-UNION
-%3:s
-UNION
-%4:s
-)
-ORDER BY TIPO_CALC_S2299, DATA_INICIO, TIPO, SUBTIPO, IDDETCONVOCACAO)";
-    return Format(SQL, Ramo(LRescisao), Ramo(LComplementar), Ramo(LOutros), Ramo(LAcordo), Ramo(LIntermitente));
+    // A calculation may belong to several agreements.
+    return SqlDosRamos({LRescisao, LComplementar, LOutros, LAcordo, LIntermitente}, TIPO_DO_CALCULO_S2299,
+                       "SUBTIPO, IDACORDO, TIPO_CALC_COMPL, IDDETCONVOCACAO", ADmDev.IDEmpregado) +
+           "\nORDER BY TIPO_CALC_S2299, DATA_INICIO, TIPO, SUBTIPO, IDDETCONVOCACAO, MIN(IDCALCULO), IDACORDO";
 }
 
 void TTarvoESocialCamposverbasRescS2299::AlimentarDemonstrativo(TdmDevS2299IOP& ADmDev,

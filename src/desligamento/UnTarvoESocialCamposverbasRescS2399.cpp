@@ -52,18 +52,8 @@ std::string TTarvoESocialCamposverbasRescS2399::SqlDosDemonstrativos(const TdmDe
     LComplementar.Condicoes += std::string(SEM_INFORMATIVAS) + "\n  AND TAB_VERBAS.FORMULA <> '8J'";
     const auto LOutros = RamoOutrosTiposNaCompetencia(ADmDev, "0 AS SUBTIPO");
 
-    const auto Ramo = [&](const TRamoDeDemonstrativo& ARamo) {
-        return SqlDoRamo(ARamo, TIPO_DO_CALCULO_S2399, ADmDev.IDEmpregado);
-    };
-    static constexpr std::string_view SQL = R"(SELECT * FROM (
-%0:s
-UNION
-%1:s
-UNION
-%2:s
-)
-ORDER BY TIPO_CALC_S2399, DATA_INICIO, TIPO, SUBTIPO)";
-    return Format(SQL, Ramo(LRescisao), Ramo(LComplementar), Ramo(LOutros));
+    return SqlDosRamos({LRescisao, LComplementar, LOutros}, TIPO_DO_CALCULO_S2399, "SUBTIPO", ADmDev.IDEmpregado) +
+           "\nORDER BY TIPO_CALC_S2399, DATA_INICIO, TIPO, SUBTIPO, MIN(IDCALCULO)";
 }
 
 void TTarvoESocialCamposverbasRescS2399::AlimentarDemonstrativo(TdmDevS2399IOP& ADmDev,

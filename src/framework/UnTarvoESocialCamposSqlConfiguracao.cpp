@@ -29,6 +29,11 @@ std::string CondicaoVigente(TTabelaDeConfiguracao ATabela, TChaveDeConfiguracao 
     return CondicaoDaChave(ATabela, AChave) + " AND " + CondicaoDaValidade(ATabela, AData, AFim);
 }
 
+std::string OrdemDaValidade(TTabelaDeConfiguracao ATabela, TDateTime AData)
+{
+    return Format("IIF(%0:s, 0, 1), %1:s.DATAINICIO DESC", CondicaoDaValidade(ATabela, AData), ATabela.Nome);
+}
+
 std::string SqlConfiguracaoVigente(std::string_view AColunas, TTabelaDeConfiguracao ATabela, std::int64_t AIdDono,
                                    TChaveDeConfiguracao AChave, TDateTime AData, TFimDaValidade AFim)
 {

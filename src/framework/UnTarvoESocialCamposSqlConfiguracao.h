@@ -44,6 +44,9 @@ std::string CondicaoDaValidade(TTabelaDeConfiguracao ATabela, TDateTime AData,
 /// CondicaoDaChave without the owner AND CondicaoDaValidade: the conditions of a join to the rows in force.
 std::string CondicaoVigente(TTabelaDeConfiguracao ATabela, TChaveDeConfiguracao AChave, TDateTime AData,
                             TFimDaValidade AFim = TFimDaValidade::Inclusive);
+/// `IIF(validity, 0, 1), TABLE.DATAINICIO DESC`: for a statement that doesn't ask for the validity, the rows in force at
+/// the date before the others, the newest start first. The primary key follows it.
+std::string OrdemDaValidade(TTabelaDeConfiguracao ATabela, TDateTime AData);
 /// The row in force at a date, the newest start first: `SELECT FIRST 1 columns FROM TABLE WHERE ... ORDER BY
 /// TABLE.DATAINICIO DESC`. AColunas is the select list as it stands.
 std::string SqlConfiguracaoVigente(std::string_view AColunas, TTabelaDeConfiguracao ATabela, std::int64_t AIdDono,
