@@ -27,7 +27,8 @@ std::string TTarvoESocialCamposInfoSubstPatr::BuscarSQLDados()
 FROM FP_RECEITACPRB
 WHERE FP_RECEITACPRB.IDEMPRESA = %0:d
   AND FP_RECEITACPRB.COMPETENCIA = '%1:s'
-  AND FP_RECEITACPRB.VALORRECEITANB > 0)";
+  AND FP_RECEITACPRB.VALORRECEITANB > 0
+ORDER BY FP_RECEITACPRB.IDRECEITACPRB)";
     // Month and year in plain decimal: "3/2021".
     return Format(SQL, FIdEmpresa, FormatDateTime("m/yyyy", FCompt));
 }

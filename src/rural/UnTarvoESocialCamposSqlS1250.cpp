@@ -92,7 +92,8 @@ std::string SqlTpAquisBrenco(const TComprasRurais& ACompras)
   COALESCE(ES02_ENTRADA.PRODUCAOISENTA,2) AS PRODUCAOISENTA
 %0:s
 %1:s
-GROUP BY ES02_ENTRADA.PRODUCAOISENTA)";
+GROUP BY ES02_ENTRADA.PRODUCAOISENTA
+ORDER BY ES02_ENTRADA.PRODUCAOISENTA)";
     return Format(SQL, NOTAS, CondicaoDasNotas(ACompras));
 }
 
@@ -106,19 +107,21 @@ std::string SqlTotalBrenco(const TComprasRurais& ACompras, std::int32_t AProduca
 std::string SqlProdutoresBrenco(const TComprasRurais& ACompras, std::int32_t AProducaoIsenta)
 {
     static constexpr std::string_view SQL = R"(SELECT DISTINCT ES02_CLIFOR.CNPJ
-%0:s)";
+%0:s
+ORDER BY ES02_CLIFOR.CNPJ)";
     return Format(SQL, ComprasDoBrenco(ACompras, AProducaoIsenta));
 }
 
 std::string SqlProdutorBrenco(const TComprasRurais& ACompras, std::int32_t AProducaoIsenta, std::string_view AInscricao)
 {
-    static constexpr std::string_view SQL = R"(SELECT DISTINCT
+    static constexpr std::string_view SQL = R"(SELECT
   ES02_CLIFOR.CNPJ,
   ES02_CLIFOR.INDOPCCP,
   SUM(ES02_ENTRADA.VLRCONTABIL) AS VLRBRUTO
 %0:s
   AND ES02_CLIFOR.CNPJ = %1:s
-GROUP BY ES02_CLIFOR.CNPJ, ES02_CLIFOR.INDOPCCP)";
+GROUP BY ES02_CLIFOR.CNPJ, ES02_CLIFOR.INDOPCCP
+ORDER BY MIN(ES02_CLIFOR.IDCLIFOR))";
     return Format(SQL, ComprasDoBrenco(ACompras, AProducaoIsenta), QuotedStr(AInscricao));
 }
 

@@ -24,7 +24,8 @@ std::string TTarvoESocialCamposideEstabAdquir::BuscarSqlTpAquis()
   SUM(MOV_PRESTSERV.VALOR) AS VALOR,
   COALESCE(MOV_PRESTSERV.PRODUCAOISENTA, 2) AS PRODUCAOISENTA
 %0:s
-GROUP BY PRODUCAOISENTA)";
+GROUP BY PRODUCAOISENTA
+ORDER BY PRODUCAOISENTA)";
     return TipoConexao() == TTipoConexao::Folha ? Format(SQL, ComprasDaFolha(Compras())) : SqlTpAquisBrenco(Compras());
 }
 

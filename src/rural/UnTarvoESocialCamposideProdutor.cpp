@@ -18,13 +18,14 @@ TTarvoESocialCamposideProdutor::TTarvoESocialCamposideProdutor(std::int64_t AIdF
 
 std::string TTarvoESocialCamposideProdutor::BuscarSQLDados()
 {
-    static constexpr std::string_view SQL = R"(SELECT DISTINCT
+    static constexpr std::string_view SQL = R"(SELECT
   PREST_SERVICO.CPF as CNPJ,
   PREST_SERVICO.INDOPCCP,
   SUM (COALESCE(MOV_PRESTSERV.VALOR, 0)) AS VLRBRUTO
 %0:s
   AND PREST_SERVICO.CPF = %1:s
-GROUP BY PREST_SERVICO.CPF, PREST_SERVICO.INDOPCCP)";
+GROUP BY PREST_SERVICO.CPF, PREST_SERVICO.INDOPCCP
+ORDER BY MIN(PREST_SERVICO.IDPRESTSERVICO))";
     return Format(SQL, ComprasDaFolha(Compras(), ProducaoIsenta()), QuotedStr(Cpf()));
 }
 
@@ -49,7 +50,8 @@ TDataset TTarvoESocialCamposideProdutor::BuscarProcessos() const
 FROM ES02_SPPROC
 JOIN PREST_SERVICO ON (PREST_SERVICO.IDPRESTSERVICO = ES02_SPPROC.IDPRESTSERVICO)
 WHERE PREST_SERVICO.CPF = %0:s
-  AND ES02_SPPROC.DATAABERTURA <= %1:s)";
+  AND ES02_SPPROC.DATAABERTURA <= %1:s
+ORDER BY ES02_SPPROC.IDSPPROC)";
     return TTarvoConsultasGeral::BuscarRegistros(Format(SQL, Cpf(), FormatarDataDB(Compras().DataFim, true)));
 }
 

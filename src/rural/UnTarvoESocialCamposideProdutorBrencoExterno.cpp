@@ -52,7 +52,8 @@ void TTarvoESocialCamposideProdutorBrencoExterno::CarregarInfoProcJud()
     static constexpr std::string_view SQL = R"(SELECT ES02_SPPROC.IDSPPROC
 FROM ES02_SPPROC
 WHERE ES02_SPPROC.IDPLANO = %0:d
-  AND ES02_SPPROC.DATAABERTURA <= %1:s)";
+  AND ES02_SPPROC.DATAABERTURA <= %1:s
+ORDER BY ES02_SPPROC.IDSPPROC)";
     LevarRetencaoAosProcessos(
         *TTarvoConsultasGeral::BuscarRegistros(Format(SQL, BuscarIDPlano(), FormatarDataDB(Compras().DataFim, true))));
 }
@@ -67,7 +68,8 @@ WHERE ES02_CLIFOR.PRODUTOR = 1
   AND ES02_CLIFOR.TPINSCRICAO = 2
   AND ES02_CLIFOR.CNPJ = %0:s
   AND ES02_ENTRADA.IDFILIAL = %1:d
-  AND ES02_ENTRADA.DATAENTRADA BETWEEN %2:s AND %3:s)";
+  AND ES02_ENTRADA.DATAENTRADA BETWEEN %2:s AND %3:s
+ORDER BY CO01_PLANO.IDPLANO)";
     const auto LPlano = BuscarRegistrosBrenco(Format(SQL, QuotedStr(Cpf()), Compras().IdFilial,
                                                      FormatarDataDB(Compras().DataInicio, true),
                                                      FormatarDataDB(Compras().DataFim, true)));

@@ -27,7 +27,8 @@ std::string TTarvoESocialCamposideRespInf::BuscarSQLDados()
   CA06_CFG.INFORMACAO5 EMAIL
 FROM CA06_CFG
 WHERE CA06_CFG.ORIGEM = 97
-  AND CA06_CFG.TP = 2)";
+  AND CA06_CFG.TP = 2
+ORDER BY CA06_CFG.IDCFG)";
 }
 
 } // namespace tarvo::rural

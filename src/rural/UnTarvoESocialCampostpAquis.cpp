@@ -21,7 +21,8 @@ std::string TTarvoESocialCampostpAquis::BuscarSQLDados()
 void TTarvoESocialCampostpAquis::CarregarDados(const TListaCamposModificados* AListaCamposModificados)
 {
     static constexpr std::string_view SQL = R"(SELECT DISTINCT PREST_SERVICO.CPF
-%0:s)";
+%0:s
+ORDER BY PREST_SERVICO.CPF)";
     TTarvoESocialCampostpAquisBase::CarregarDados(AListaCamposModificados);
     const auto LProdutores =
         TTarvoConsultasGeral::BuscarRegistros(Format(SQL, ComprasDaFolha(Compras(), ProducaoIsenta())));

@@ -50,7 +50,8 @@ void TTarvoESocialCampostpAquisBase::CarreagarProcessosAdquirente()
 FROM ES02_SPPROC
 WHERE ES02_SPPROC.IDFILIAL = %0:d
   AND ES02_SPPROC.TPIMPETRANTE = 5
-  AND ES02_SPPROC.DATAABERTURA <= %1:s)";
+  AND ES02_SPPROC.DATAABERTURA <= %1:s
+ORDER BY ES02_SPPROC.IDSPPROC)";
     AbrirProcessosAdquirente(Format(SQL, FCompras.IdFilial, FormatarDataDB(FCompras.DataFim, true)));
 }
 

@@ -16,19 +16,8 @@ using namespace tarvo::rural;
 constexpr int BRENCO = 2;
 constexpr int EXTERNO = 3;
 
-/// The sibling system's tables in the payroll database.
-class TTesteComprasDoBrenco : public TTesteCompras {
+class TTesteComprasDoBrenco : public TTesteComprasComBrenco {
 protected:
-    void SetUp() override
-    {
-        TTesteCompras::SetUp();
-        FBrenco.emplace(Conexao());
-    }
-    void TearDown() override
-    {
-        FBrenco.reset();
-        TTesteCompras::TearDown();
-    }
     /// By both families, which differ in nothing here.
     static std::string CarregarPorAmbas()
     {
@@ -36,8 +25,6 @@ protected:
         EXPECT_EQ(LResumo, Carregar(EXTERNO));
         return LResumo;
     }
-
-    std::optional<TBrencoLigado> FBrenco;
 };
 
 TEST_F(TTesteComprasDoBrenco, OsTiposContamOQueOsProdutoresDeixamFora)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "apoio/UnBancoDeTeste.h"
@@ -143,6 +144,24 @@ protected:
         LEvento.CarregarDados();
         return Resumo(*LEvento.ideEstabAdquir);
     }
+};
+
+/// With the sibling system's tables in the payroll database.
+class TTesteComprasComBrenco : public TTesteCompras {
+protected:
+    void SetUp() override
+    {
+        TTesteCompras::SetUp();
+        FBrenco.emplace(Conexao());
+    }
+    void TearDown() override
+    {
+        FBrenco.reset();
+        TTesteCompras::TearDown();
+    }
+
+private:
+    std::optional<TBrencoLigado> FBrenco;
 };
 
 } // namespace tarvo::testes
