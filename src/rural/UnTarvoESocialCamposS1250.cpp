@@ -17,7 +17,9 @@ namespace {
 bool BrencoNoBancoDaFolha()
 {
     const auto& LBrenco = BuscarInstanciaTarvoConexaoBrenco();
-    return BuscarInstanciaOvraUtilsDbManager().GetInformacoesBancoDeDados().VersaoMaior == "3" && LBrenco.Conectado() &&
+    return TTarvoESocialCamposS1250::VersaoLeTabelasDoBrenco(
+               BuscarInstanciaOvraUtilsDbManager().GetInformacoesBancoDeDados().VersaoMaior) &&
+           LBrenco.Conectado() &&
            LBrenco.OvraConnection().GetDataBaseLineFull() == OvraConnection().GetDataBaseLineFull();
 }
 
@@ -55,6 +57,11 @@ TTarvoESocialCamposS1250::TTarvoESocialCamposS1250(std::int64_t AIDEstabelecimen
                                                                              ATipoConexao);
     else
         ideEstabAdquir = CriarIdeEstabAdquirExterno(AIDEstabelecimento, ADataInicio, ADataFim, ATipoConexao);
+}
+
+bool TTarvoESocialCamposS1250::VersaoLeTabelasDoBrenco(std::string_view AVersaoMaior)
+{
+    return StrToInt64Def(AVersaoMaior, 0) >= 3;
 }
 
 const TPropriedades& TTarvoESocialCamposS1250::Tabela()

@@ -237,6 +237,12 @@ TEST_F(TTesteComprasDoBrencoExterno, AFamiliaSegueALigacao)
     EXPECT_EQ("folha folha nenhuma nenhuma nenhuma", Familias());
 }
 
+TEST(TVersaoDoBrenco, DoFirebird3EmDiante)
+{
+    for (const auto& [LVersao, LLe] : {std::pair{"2", false}, {"3", true}, {"4", true}, {"10", true}, {"", false}})
+        EXPECT_EQ(LLe, TTarvoESocialCamposS1250::VersaoLeTabelasDoBrenco(LVersao)) << LVersao;
+}
+
 TEST_F(TTesteComprasDoBrencoExterno, AchaOEstabelecimentoPelaInscricao)
 {
     const auto Achou = [&](const std::string& AMudanca) {
