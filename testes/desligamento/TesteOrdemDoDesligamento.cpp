@@ -1,4 +1,4 @@
-#include "apoio/UnOrdemDeTeste.h"
+#include "apoio/UnCasosDeOrdem.h"
 #include "desligamento/UnTarvoESocialCamposS2299.h"
 #include "desligamento/UnTarvoESocialCamposS2399.h"
 #include "imports/UnOvraConversoes.h"
@@ -10,7 +10,7 @@ namespace {
 using namespace desligamento;
 
 /// A dismissal on 20 March 2021, of which only the rows of the cases tell more; rubrics 1 and 2 count hours.
-class TTesteOrdemDoDesligamento : public TTesteDeFolha, public ::testing::WithParamInterface<TParametroDeOrdem> {
+class TTesteOrdemDoDesligamento : public TTesteDeOrdem<TTesteDeFolha> {
 protected:
     void SetUp() override
     {
@@ -122,14 +122,13 @@ std::vector<std::string> Com(std::vector<std::string> ALinhas, const std::vector
     return ALinhas;
 }
 
-template <class TPropriedade>
-auto DaVerbaDoS2299(TPropriedade APropriedade)
+/// "table of rubrics/nature" of the first item.
+std::string TabelaENatureza()
 {
-    return [APropriedade] {
-        const auto LEvento = Carregar<TTarvoESocialCamposS2299>();
-        const auto& LLotacao = *LEvento->infoDeslig.verbasResc.dmDev.at(0)->infoPerApur.ideEstabLot.at(0);
-        return APropriedade(*LLotacao.detVerbas.at(0));
-    };
+    const auto LEvento = Carregar<TTarvoESocialCamposS2299>();
+    const auto& LLotacao = *LEvento->infoDeslig.verbasResc.dmDev.at(0)->infoPerApur.ideEstabLot.at(0);
+    const auto& LVerba = *LLotacao.detVerbas.at(0);
+    return LVerba.ideTabRubr + "/" + IntToStr(LVerba.CodNaturezaRubricaRelac);
 }
 
 const std::vector<TCasoDeOrdem> CASOS{
@@ -191,8 +190,8 @@ const std::vector<TCasoDeOrdem> CASOS{
       "'01.01.2020', '20.03.2021')",
       "FP_RUBRICARELAC (IDRUBRICARELAC, IDVERBA, IDESOCIALTABELA, DATAINICIO, DATAFIM) VALUES (4, 1001, 9001, "
       "'01.04.2021', NULL)"},
-     DaVerbaDoS2299([](const auto& A) { return IntToStr(A.CodNaturezaRubricaRelac); }),
-     "1002"},
+     TabelaENatureza,
+     "0/1002"},
     {"TabelaDeRubricasVigente",
      Com(Configuracoes("SC00_EMPRESACFG", "IDEMPRESACFG", "IDEMPRESA", "38, 13",
                        {{"'01.01.2021'", "'28.02.2021'"},
@@ -201,7 +200,7 @@ const std::vector<TCasoDeOrdem> CASOS{
                         {"'01.01.2020'", "NULL"},
                         {"'01.04.2021'", "NULL"}}),
          {RESCISAO, Calculo(2)}),
-     DaVerbaDoS2299([](const auto& A) { return A.ideTabRubr; }), "3"},
+     TabelaENatureza, "3/0"},
     {"ReferenciaDaLinhaDeMenorChave", {RESCISAO, Calculo(2), Calculo(3), Calculo(4)}, ItensDoS2299, "F1: 9/20"},
     // The split rows of a rubric in a lotação become one item, whose quantity is that of the lowest key.
     {"ItensQuebradosPelasChavesDoCalculo",
@@ -265,10 +264,10 @@ const std::vector<TCasoDeOrdem> CASOS{
      "97=2 98=1"},
 };
 
-TEST_P(TTesteOrdemDoDesligamento, NaoDependeDeComoAsLinhasForamGravadas) { ConferirOrdem(GetParam()); }
+TEST_P(TTesteOrdemDoDesligamento, NaoDependeDeComoAsLinhasForamGravadas) { Conferir(); }
 
 INSTANTIATE_TEST_SUITE_P(Desligamento, TTesteOrdemDoDesligamento,
-                         ::testing::Combine(::testing::ValuesIn(CASOS), ::testing::Bool()), NomeDaOrdem);
+                         ::testing::Combine(::testing::ValuesIn(CASOS), ::testing::Bool()), NomeDoCasoDeOrdem);
 
 } // namespace
 } // namespace tarvo::testes

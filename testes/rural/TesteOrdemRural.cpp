@@ -1,4 +1,4 @@
-#include "apoio/UnOrdemDeTeste.h"
+#include "apoio/UnCasosDeOrdem.h"
 #include "rural/UnComprasDeTeste.h"
 #include "rural/UnTarvoESocialCamposS1280.h"
 #include "rural/UnTarvoESocialCamposS1299.h"
@@ -12,7 +12,7 @@ constexpr int FOLHA = 1;
 constexpr int BRENCO = 2;
 constexpr int EXTERNO = 3;
 
-class TTesteOrdemRural : public TTesteComprasComBrenco, public ::testing::WithParamInterface<TParametroDeOrdem> {
+class TTesteOrdemRural : public TTesteDeOrdem<TTesteComprasComBrenco> {
 public:
     /// The purchases as they are shown, with the first suspension of each process.
     static std::string Compras(int ATipoConexao)
@@ -167,10 +167,10 @@ const std::vector<TCasoDeOrdem> CASOS{
      "Rita 2020-01"},
 };
 
-TEST_P(TTesteOrdemRural, NaoDependeDeComoAsLinhasForamGravadas) { ConferirOrdem(GetParam()); }
+TEST_P(TTesteOrdemRural, NaoDependeDeComoAsLinhasForamGravadas) { Conferir(); }
 
 INSTANTIATE_TEST_SUITE_P(Rural, TTesteOrdemRural, ::testing::Combine(::testing::ValuesIn(CASOS), ::testing::Bool()),
-                         NomeDaOrdem);
+                         NomeDoCasoDeOrdem);
 
 } // namespace
 } // namespace tarvo::testes
