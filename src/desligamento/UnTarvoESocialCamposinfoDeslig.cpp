@@ -25,6 +25,7 @@ const TPropriedades& TTarvoESocialCamposConsigFGTS::Tabela()
 
 std::string TTarvoESocialCamposConsigFGTS::BuscarSQLDados()
 {
+    // By + 0 the few rows are sorted; by the bare key the engine would walk the whole table.
     static constexpr std::string_view SQL = R"(SELECT
   FP_EMPREGADOSDET.INFORMACAO5 AS INSCONSIG,
   FP_EMPREGADOSDET.INFORMACAO6 AS NRCONTR
@@ -32,7 +33,7 @@ FROM FP_EMPREGADOSDET
 WHERE FP_EMPREGADOSDET.ESPECIE = 4
   AND FP_EMPREGADOSDET.TP = 1
   AND FP_EMPREGADOSDET.IDEMPREGADO = %d
-ORDER BY FP_EMPREGADOSDET.IDEMPREGADOSDET)";
+ORDER BY FP_EMPREGADOSDET.IDEMPREGADOSDET + 0)";
     return Format(SQL, FIdEmpregado);
 }
 
@@ -153,13 +154,14 @@ void TTarvoESocialCamposinfoDeslig::CarregarDados(const TListaCamposModificados*
 
 void TTarvoESocialCamposinfoDeslig::AtribuirValoresManualmente()
 {
+    // By + 0 the few rows are sorted; by the bare key the engine would walk the whole table.
     static constexpr std::string_view SQL = R"(SELECT CALCULO.VALOR
 FROM CALCULO
 WHERE CALCULO.IDEMPREGADO = %0:d
   AND CALCULO.TIPO = '05'
   AND CALCULO.SUBTIPO = 0
   AND CALCULO.COD_VERBA = %1:d
-ORDER BY CALCULO.IDCALCULO)";
+ORDER BY CALCULO.IDCALCULO + 0)";
     TTarvoESocialCamposGrupoBase::AtribuirValoresManualmente();
     if (VerbaCfgPensao == 0)
         return;

@@ -34,13 +34,14 @@ const TPropriedades& TTarvoESocialCamposProcCSS2299::Tabela()
 
 std::string TTarvoESocialCamposProcCSS2299::BuscarSQLDados()
 {
+    // By + 0 the few rows are sorted; by the bare key the engine would walk the whole table.
     static constexpr std::string_view SQL = R"(SELECT ES02_SPPROC.*
 FROM ES02_SPPROC
 WHERE ES02_SPPROC.INDMATERIA IN (1,7)
   AND ES02_SPPROC.IDFILIAL = (SELECT ALOC.IDFILIAL FROM SP_BUSCARALOCACAOEMPREGADO(
     (SELECT FIRST 1 EMPREGADOS.DATA_DEMISSAO FROM EMPREGADOS WHERE EMPREGADOS.IDEMPREGADO = %0:d), NULL, %0:d) ALOC)
   AND ES02_SPPROC.IDEMPREGADO IS NULL
-ORDER BY ES02_SPPROC.IDSPPROC)";
+ORDER BY ES02_SPPROC.IDSPPROC + 0)";
     return Format(SQL, FIDEmpregado);
 }
 

@@ -21,6 +21,7 @@ const TPropriedades& TTarvoESocialCamposInfoSubstPatr::Tabela()
 std::string TTarvoESocialCamposInfoSubstPatr::BuscarSQLDados()
 {
     // The comma is what the binding's text-to-number step expects.
+    // By + 0 the few rows are sorted; by the bare key the engine would walk the whole table.
     static constexpr std::string_view SQL = R"(SELECT
   FP_RECEITACPRB.VALORRECEITANB,
   REPLACE(IIF (FP_RECEITACPRB.VALORRECEITANB <> 0, CAST(((100 - (FP_RECEITACPRB.VALORRECEITANB * 100) / FP_RECEITACPRB.VALORRECEITATOTAL))AS NUMERIC (3,2)) , 100),'.',',') AS EXPURGO
@@ -28,7 +29,7 @@ FROM FP_RECEITACPRB
 WHERE FP_RECEITACPRB.IDEMPRESA = %0:d
   AND FP_RECEITACPRB.COMPETENCIA = '%1:s'
   AND FP_RECEITACPRB.VALORRECEITANB > 0
-ORDER BY FP_RECEITACPRB.IDRECEITACPRB)";
+ORDER BY FP_RECEITACPRB.IDRECEITACPRB + 0)";
     // Month and year in plain decimal: "3/2021".
     return Format(SQL, FIdEmpresa, FormatDateTime("m/yyyy", FCompt));
 }

@@ -29,11 +29,12 @@ std::unique_ptr<TTarvoESocialCamposideEstabAdquirBase> CriarIdeEstabAdquirExtern
                                                                                   TDateTime ADataFim,
                                                                                   TTipoConexao ATipoConexao)
 {
+    // By + 0 the few rows are sorted; by the bare key the engine would walk the whole table.
     static constexpr std::string_view SQL = R"(SELECT SC00_FILIAL.IDFILIAL FROM SC00_FILIAL
 %0:s
  AND (SC00_FILIAL.ENCERRAMENTOATIV > %1:s
  OR SC00_FILIAL.ENCERRAMENTOATIV IS NULL)
-ORDER BY SC00_FILIAL.IDFILIAL)";
+ORDER BY SC00_FILIAL.IDFILIAL + 0)";
     static constexpr std::string_view POR_CNPJ = " WHERE SC00_FILIAL.CNPJ = %0:s";
     static constexpr std::string_view POR_CAEPF = " WHERE SC00_FILIAL.MATRICULACAEPF = %0:s";
     const tabelas::TTarvoESocialCamposTipoInscricao1005 LInscricao(AIDEstabelecimento, 0);

@@ -49,11 +49,12 @@ void TTarvoESocialCamposideProdutorBrencoExterno::CarregarValoresRetencao()
 
 void TTarvoESocialCamposideProdutorBrencoExterno::CarregarInfoProcJud()
 {
+    // By + 0 the few rows are sorted; by the bare key the engine would walk the whole table.
     static constexpr std::string_view SQL = R"(SELECT ES02_SPPROC.IDSPPROC
 FROM ES02_SPPROC
 WHERE ES02_SPPROC.IDPLANO = %0:d
   AND ES02_SPPROC.DATAABERTURA <= %1:s
-ORDER BY ES02_SPPROC.IDSPPROC)";
+ORDER BY ES02_SPPROC.IDSPPROC + 0)";
     LevarRetencaoAosProcessos(
         *TTarvoConsultasGeral::BuscarRegistros(Format(SQL, BuscarIDPlano(), FormatarDataDB(Compras().DataFim, true))));
 }

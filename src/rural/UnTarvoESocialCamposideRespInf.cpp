@@ -20,6 +20,7 @@ const TPropriedades& TTarvoESocialCamposideRespInf::Tabela()
 
 std::string TTarvoESocialCamposideRespInf::BuscarSQLDados()
 {
+    // By + 0 the few rows are sorted; by the bare key the engine would walk the whole table.
     return R"(SELECT
   CA06_CFG.INFORMACAO1 NOME,
   CA06_CFG.INFORMACAO2 CPF,
@@ -28,7 +29,7 @@ std::string TTarvoESocialCamposideRespInf::BuscarSQLDados()
 FROM CA06_CFG
 WHERE CA06_CFG.ORIGEM = 97
   AND CA06_CFG.TP = 2
-ORDER BY CA06_CFG.IDCFG)";
+ORDER BY CA06_CFG.IDCFG + 0)";
 }
 
 } // namespace tarvo::rural

@@ -46,12 +46,13 @@ void TTarvoESocialCampostpAquisBase::CarregarDados(const TListaCamposModificados
 
 void TTarvoESocialCampostpAquisBase::CarreagarProcessosAdquirente()
 {
+    // By + 0 the few rows are sorted; by the bare key the engine would walk the whole table.
     static constexpr std::string_view SQL = R"( SELECT ES02_SPPROC.IDSPPROC
 FROM ES02_SPPROC
 WHERE ES02_SPPROC.IDFILIAL = %0:d
   AND ES02_SPPROC.TPIMPETRANTE = 5
   AND ES02_SPPROC.DATAABERTURA <= %1:s
-ORDER BY ES02_SPPROC.IDSPPROC)";
+ORDER BY ES02_SPPROC.IDSPPROC + 0)";
     AbrirProcessosAdquirente(Format(SQL, FCompras.IdFilial, FormatarDataDB(FCompras.DataFim, true)));
 }
 
