@@ -8,7 +8,7 @@ install(TARGETS tarvo_esocial_campos_dinamica EXPORT TarvoESocialCampos
   LIBRARY COMPONENT biblioteca NAMELINK_COMPONENT desenvolvimento)
 install(TARGETS tarvo_esocial_campos EXPORT TarvoESocialCampos ARCHIVE COMPONENT desenvolvimento)
 install(DIRECTORY src/ DESTINATION ${PASTA_DOS_CABECALHOS} COMPONENT desenvolvimento
-  FILES_MATCHING PATTERN "*.h" PATTERN "c" EXCLUDE)
+  FILES_MATCHING PATTERN "*.h" PATTERN "c" EXCLUDE PATTERN "firebird" EXCLUDE)
 install(FILES src/c/tarvo_esocial.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT desenvolvimento)
 
 install(EXPORT TarvoESocialCampos NAMESPACE Tarvo:: DESTINATION ${PASTA_DO_PACOTE} COMPONENT desenvolvimento)

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <firebird/Interface.h>
+
+#include <string_view>
+
+#include "imports/UnOvraConnection.h"
+#include "imports/firebird/UnOvraFirebirdStatus.h"
+
+namespace tarvo::firebird {
+
+/// An attachment and its one transaction, which starts when the first statement needs it.
+class TSessao {
+public:
+    explicit TSessao(const TParametrosConexao& AParametros);
+    TSessao(const TSessao&) = delete;
+    TSessao& operator=(const TSessao&) = delete;
+    /// Undoes an open transaction. The statements of the session must be gone.
+    ~TSessao();
+
+    static void CriarBanco(const TParametrosConexao& AParametros);
+    void ApagarBanco();
+
+    Firebird::IAttachment& Anexo() { return *FAnexo; }
+    /// Starts one where there is none.
+    Firebird::ITransaction* TransacaoCorrente();
+    bool EmTransacao() const { return FTransacao != nullptr; }
+    void IniciarTransacao(TOvraConnection::TIsolamento AIsolamento);
+    void Confirmar();
+    void Desfazer();
+
+    TReferencia<Firebird::IStatement> Preparar(std::string_view ASql);
+
+    void DefinirVigia(TVigiaSql AVigia) { FVigia = std::move(AVigia); }
+    void Vigiar(TPassoSql APasso) const
+    {
+        if (FVigia)
+            FVigia(APasso);
+    }
+
+private:
+    TReferencia<Firebird::IAttachment> FAnexo;
+    TReferencia<Firebird::ITransaction> FTransacao;
+    TVigiaSql FVigia;
+};
+
+} // namespace tarvo::firebird
