@@ -93,12 +93,9 @@ std::int64_t TOvraConnection::TImplementacao::Executar(std::string_view ASql)
     // A kept statement holds its tables: none may stand in the way of a table's change, nor outlive it.
     if (LComando->getType(&LStatus) == isc_info_sql_stmt_ddl)
         Comandos.Esquecer();
-    LStatus.Verificar();
     Sessao.Vigiar(TPassoSql::Executar);
     LComando->execute(&LStatus, Sessao.TransacaoCorrente(), nullptr, nullptr, nullptr, nullptr);
-    LStatus.Verificar();
     const auto LAfetadas = LComando->getAffectedRecords(&LStatus);
-    LStatus.Verificar();
     return static_cast<std::int64_t>(LAfetadas);
 }
 

@@ -22,19 +22,16 @@ std::string LerBlob(TSessao& ASessao, ISC_QUAD AId, bool ATexto)
     TStatus LStatus;
     ASessao.Vigiar(TPassoSql::LerLinha);
     TReferencia<IBlob> LBlob(ASessao.Anexo().openBlob(&LStatus, ASessao.TransacaoCorrente(), &AId, 0, nullptr));
-    LStatus.Verificar();
     std::string LConteudo;
     std::array<char, 32'000> LBuffer{};
     for (;;) {
         unsigned LLidos = 0;
         const int LResultado = LBlob->getSegment(&LStatus, LBuffer.size(), LBuffer.data(), &LLidos);
-        LStatus.Verificar();
         LConteudo.append(LBuffer.data(), LLidos);
         if (LResultado == IStatus::RESULT_NO_DATA)
             break;
     }
     LBlob->close(&LStatus);
-    LStatus.Verificar();
     LBlob.release(); // a blob that closed well is freed by its close
     return ATexto ? ParaUtf8(LConteudo) : LConteudo;
 }
@@ -114,16 +111,12 @@ std::unique_ptr<TComando> PrepararComando(TSessao& ASessao, std::string_view ASq
     LComando->Comando = ASessao.Preparar(ASql);
     TStatus LStatus;
     LComando->Saida.reset(LComando->Comando->getOutputMetadata(&LStatus));
-    LStatus.Verificar();
     LComando->Entrada.reset(LComando->Comando->getInputMetadata(&LStatus));
-    LStatus.Verificar();
     LComando->TemCursor = (LComando->Comando->getFlags(&LStatus) & IStatement::FLAG_HAS_CURSOR) != 0;
-    LStatus.Verificar();
     LComando->Descricao = Descrever(*LComando->Saida);
     LComando->MensagemDeSaida.resize(LComando->Descricao.Tamanho);
     LComando->Parametros = DescreverMensagem(*LComando->Entrada);
     LComando->MensagemDeEntrada.resize(LComando->Entrada->getMessageLength(&LStatus));
-    LStatus.Verificar();
     return LComando;
 }
 
@@ -139,24 +132,20 @@ TConjuntoDeLinhas Ler(TSessao& ASessao, TComando& AComando)
         // A statement that returns its one row by itself, as INSERT ... RETURNING does, or none at all.
         AComando.Comando->execute(&LStatus, ASessao.TransacaoCorrente(), LEntrada, LParametros, AComando.Saida.get(),
                                   LMensagem);
-        LStatus.Verificar();
         if (!AComando.Descricao.Mensagem.empty())
             LerLinha(ASessao, LLinhas, AComando.Descricao, LMensagem);
         return LLinhas;
     }
     TReferencia<IResultSet> LCursor(AComando.Comando->openCursor(&LStatus, ASessao.TransacaoCorrente(), LEntrada,
                                                                  LParametros, AComando.Saida.get(), 0));
-    LStatus.Verificar();
     for (;;) {
         ASessao.Vigiar(TPassoSql::LerLinha);
         const int LResultado = LCursor->fetchNext(&LStatus, LMensagem);
-        LStatus.Verificar();
         if (LResultado != IStatus::RESULT_OK)
             break;
         LerLinha(ASessao, LLinhas, AComando.Descricao, LMensagem);
     }
     LCursor->close(&LStatus);
-    LStatus.Verificar();
     LCursor.release(); // a cursor that closed well is freed by its close
     return LLinhas;
 }

@@ -57,7 +57,6 @@ std::vector<TColunaDaMensagem> DescreverMensagem(IMessageMetadata& AMetadados)
         LNaMensagem.PosicaoDoNulo = AMetadados.getNullOffset(&LStatus, i);
         LNaMensagem.ConjuntoDeCaracteres = static_cast<int>(AMetadados.getCharSet(&LStatus, i));
     }
-    LStatus.Verificar();
     return LMensagem;
 }
 
@@ -74,7 +73,6 @@ TDescricao Descrever(IMessageMetadata& AMetadados)
         LColuna.Escala = LColuna.Tipo == TTipoColuna::Inteiro ? LDescricao.Mensagem[i].Escala : 0;
     }
     LDescricao.Tamanho = AMetadados.getMessageLength(&LStatus);
-    LStatus.Verificar();
     LDescricao.Colunas = std::move(LColunas);
     return LDescricao;
 }

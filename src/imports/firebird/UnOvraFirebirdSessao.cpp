@@ -28,7 +28,6 @@ TBlocoDeParametros ParametrosDeConexao(const TParametrosConexao& AParametros)
     // Version 4 widens sums and has times with a zone; they come as the types that version 3 has, which knows nothing of
     // it. What is beyond 64 bits is then an error of the engine's, never cut.
     LBloco->insertString(&LStatus, DPB_SET_BIND, "INT128 TO LEGACY; DECFLOAT TO LEGACY; TIME ZONE TO LEGACY");
-    LStatus.Verificar();
     return LBloco;
 }
 
@@ -40,10 +39,8 @@ TSessao::TSessao(const TParametrosConexao& AParametros)
     TStatus LStatus;
     const unsigned LTamanho = LBloco->getBufferLength(&LStatus);
     const unsigned char* LBuffer = LBloco->getBuffer(&LStatus);
-    LStatus.Verificar();
     const TReferencia<IProvider> LProvedor(Mestre()->getDispatcher());
     FAnexo.reset(LProvedor->attachDatabase(&LStatus, AParametros.BancoDeDados.c_str(), LTamanho, LBuffer));
-    LStatus.Verificar();
 }
 
 TSessao::~TSessao()
@@ -51,14 +48,16 @@ TSessao::~TSessao()
     // What fails here fails because the connection is gone already; the handles are released all the same.
     try {
         Desfazer();
-    } catch (const EDatabaseError&) {
+    } catch (...) {
     }
     if (!FAnexo)
         return; // its database was deleted
-    TStatus LStatus;
-    FAnexo->detach(&LStatus);
-    if (!LStatus.Falhou())
+    try {
+        TStatus LStatus;
+        FAnexo->detach(&LStatus);
         FAnexo.release(); // an attachment that detached well is freed by it
+    } catch (...) {
+    }
 }
 
 void TSessao::CriarBanco(const TParametrosConexao& AParametros)
@@ -67,16 +66,12 @@ void TSessao::CriarBanco(const TParametrosConexao& AParametros)
     TStatus LStatus;
     LBloco->insertString(&LStatus, isc_dpb_set_db_charset, "UTF8");
     LBloco->insertInt(&LStatus, isc_dpb_page_size, 8192);
-    LStatus.Verificar();
     const unsigned LTamanho = LBloco->getBufferLength(&LStatus);
     const unsigned char* LBuffer = LBloco->getBuffer(&LStatus);
-    LStatus.Verificar();
     const TReferencia<IProvider> LProvedor(Mestre()->getDispatcher());
     TReferencia<IAttachment> LAnexo(
         LProvedor->createDatabase(&LStatus, AParametros.BancoDeDados.c_str(), LTamanho, LBuffer));
-    LStatus.Verificar();
     LAnexo->detach(&LStatus);
-    LStatus.Verificar();
     LAnexo.release();
 }
 
@@ -84,7 +79,6 @@ void TSessao::ApagarBanco()
 {
     TStatus LStatus;
     FAnexo->dropDatabase(&LStatus);
-    LStatus.Verificar();
     FAnexo.release(); // as after a detach
 }
 
@@ -109,12 +103,9 @@ void TSessao::IniciarTransacao(TOvraConnection::TIsolamento AIsolamento)
     }
     LBloco->insertTag(&LStatus, isc_tpb_nowait);
     LBloco->insertTag(&LStatus, isc_tpb_write);
-    LStatus.Verificar();
     const unsigned LTamanho = LBloco->getBufferLength(&LStatus);
     const unsigned char* LBuffer = LBloco->getBuffer(&LStatus);
-    LStatus.Verificar();
     FTransacao.reset(FAnexo->startTransaction(&LStatus, LTamanho, LBuffer));
-    LStatus.Verificar();
 }
 
 void TSessao::Confirmar()
@@ -123,7 +114,6 @@ void TSessao::Confirmar()
         return;
     TStatus LStatus;
     FTransacao->commit(&LStatus);
-    LStatus.Verificar();
     FTransacao.release(); // a transaction that ended well is freed by its end
 }
 
@@ -135,7 +125,6 @@ void TSessao::Desfazer()
     TReferencia<ITransaction> LTransacao(std::move(FTransacao));
     TStatus LStatus;
     LTransacao->rollback(&LStatus);
-    LStatus.Verificar();
     LTransacao.release(); // as after a commit
 }
 
@@ -146,7 +135,6 @@ TReferencia<IStatement> TSessao::Preparar(std::string_view ASql)
     Vigiar(TPassoSql::Preparar);
     TReferencia<IStatement> LComando(FAnexo->prepare(&LStatus, LTransacao, static_cast<unsigned>(ASql.size()),
                                                      ASql.data(), DIALETO, IStatement::PREPARE_PREFETCH_METADATA));
-    LStatus.Verificar();
     return LComando;
 }
 

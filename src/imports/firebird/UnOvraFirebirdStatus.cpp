@@ -35,13 +35,11 @@ IMaster* Mestre()
     return LMestre;
 }
 
-void TStatus::Verificar()
+void TStatus::Lancar()
 {
-    if (!Falhou())
-        return;
-    const intptr_t* LErros = FStatus.getErrors();
+    const intptr_t* LErros = getErrors();
     std::array<char, 8192> LTexto{};
-    Mestre()->getUtilInterface()->formatStatus(LTexto.data(), LTexto.size(), &FStatus);
+    Mestre()->getUtilInterface()->formatStatus(LTexto.data(), LTexto.size(), this);
     std::array<char, 6> LSqlState{};
     fb_sqlstate(LSqlState.data(), LErros);
     throw EDatabaseError(ConselhoDoErro(LErros[1]) + ParaUtf8(LTexto.data()), LErros[1], LSqlState.data());
@@ -50,9 +48,7 @@ void TStatus::Verificar()
 TBlocoDeParametros CriarBloco(unsigned ATipo)
 {
     TStatus LStatus;
-    TBlocoDeParametros LBloco(Mestre()->getUtilInterface()->getXpbBuilder(&LStatus, ATipo, nullptr, 0));
-    LStatus.Verificar();
-    return LBloco;
+    return TBlocoDeParametros(Mestre()->getUtilInterface()->getXpbBuilder(&LStatus, ATipo, nullptr, 0));
 }
 
 bool EhPerdaDeConexao(const EDatabaseError& AErro)

@@ -19,20 +19,24 @@ using TReferencia = std::unique_ptr<T, TLiberador>;
 
 Firebird::IMaster* Mestre();
 
-/// The status of one call. Verificar raises what the call reported.
-class TStatus {
+/// The status that every call is given: what the call reports is raised right after it as an EDatabaseError with the
+/// engine's text, code and SQLSTATE. One status serves any number of calls, one after the other.
+class TStatus : public Firebird::BaseStatusWrapper<TStatus> {
 public:
-    TStatus() : FInterno(Mestre()->getStatus()), FStatus(FInterno.get()) {}
+    TStatus() : BaseStatusWrapper(Mestre()->getStatus()) {}
+    TStatus(const TStatus&) = delete;
+    TStatus& operator=(const TStatus&) = delete;
+    ~TStatus() override { status->dispose(); }
 
-    Firebird::CheckStatusWrapper* operator&() { return &FStatus; }
-
-    bool Falhou() const { return (FStatus.getState() & Firebird::IStatus::STATE_ERRORS) != 0; }
-
-    void Verificar();
+    /// Called by the client's interface after each call.
+    static void checkException(TStatus* AStatus)
+    {
+        if (AStatus->dirty && AStatus->hasData())
+            AStatus->Lancar();
+    }
 
 private:
-    std::unique_ptr<Firebird::IStatus, TDescartador> FInterno;
-    Firebird::CheckStatusWrapper FStatus;
+    [[noreturn]] void Lancar();
 };
 
 using TBlocoDeParametros = std::unique_ptr<Firebird::IXpbBuilder, TDescartador>;
