@@ -15,6 +15,7 @@
 
 #include "catalogo/UnTarvoESocialCamposCatalogo.h"
 #include "framework/UnTarvoESocialCamposAtributosProp.h"
+#include "imports/UnOvraConversoes.h"
 
 namespace tarvo {
 
@@ -189,13 +190,6 @@ void AcrescentarLinhas(std::vector<TLinha>& ALinhas, const TGrupoDaArvore& AGrup
         if (!LFilho.Repetido())
             AcrescentarLinhas(ALinhas, LFilho);
     }
-}
-
-/// Characters of a UTF-8 text.
-std::size_t Largura(std::string_view ATexto)
-{
-    return static_cast<std::size_t>(
-        std::count_if(ATexto.begin(), ATexto.end(), [](char AChar) { return (AChar & 0xC0) != 0x80; }));
 }
 
 // ---------------------------------------------------------------------------------------------------- Markdown
@@ -431,11 +425,11 @@ std::string ArvoreDoEvento(const TEventoDoCatalogo& AEvento)
     std::array<std::size_t, 4> LLarguras{};
     for (const auto& LLinha : LLinhas)
         for (std::size_t i = 0; i < LLinha.size(); ++i)
-            LLarguras[i] = std::max(LLarguras[i], Largura(LLinha[i]));
+            LLarguras[i] = std::max(LLarguras[i], QuantidadeDeCaracteresUtf8(LLinha[i]));
     std::string LTexto;
     for (const auto& LLinha : LLinhas) {
         for (std::size_t i = 0; i < LLinha.size(); ++i)
-            LTexto += LLinha[i] + std::string(LLarguras[i] - Largura(LLinha[i]) + 2, ' ');
+            LTexto += LLinha[i] + std::string(LLarguras[i] - QuantidadeDeCaracteresUtf8(LLinha[i]) + 2, ' ');
         LTexto.erase(LTexto.find_last_not_of(' ') + 1);
         LTexto += '\n';
     }

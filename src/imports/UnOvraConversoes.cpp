@@ -339,6 +339,12 @@ std::size_t TamanhoDoCaractereUtf8(std::string_view AValor)
     return LTamanho;
 }
 
+std::size_t QuantidadeDeCaracteresUtf8(std::string_view AValor)
+{
+    return static_cast<std::size_t>(
+        std::count_if(AValor.begin(), AValor.end(), [](char AChar) { return (AChar & 0xC0) != 0x80; }));
+}
+
 bool Utf8Valido(std::string_view AValor)
 {
     while (!AValor.empty()) {

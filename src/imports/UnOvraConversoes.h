@@ -54,6 +54,8 @@ std::string DecimalToStr(std::int64_t AValor, int AEscala, char ASeparador = ','
 
 /// Bytes of the well-formed UTF-8 character that starts the text; 0 when there is none.
 std::size_t TamanhoDoCaractereUtf8(std::string_view AValor);
+/// Characters of a well-formed UTF-8 text.
+std::size_t QuantidadeDeCaracteresUtf8(std::string_view AValor);
 /// True when the bytes are well-formed UTF-8.
 bool Utf8Valido(std::string_view AValor);
 /// The text itself when it is UTF-8; otherwise its bytes read as Windows-1252, as old databases without a

@@ -68,8 +68,7 @@ bool EscreverInteiro(const TValorLiteralSql& ALiteral, const TColunaDaMensagem& 
 bool EscreverTexto(const TValorLiteralSql& ALiteral, const TColunaDaMensagem& AParametro, unsigned char* AOnde)
 {
     const auto& LTexto = ALiteral.Texto;
-    const auto LCaracteres = static_cast<std::size_t>(
-        std::count_if(LTexto.begin(), LTexto.end(), [](char AChar) { return (AChar & 0xC0) != 0x80; }));
+    const auto LCaracteres = QuantidadeDeCaracteresUtf8(LTexto);
     const bool LUtf8 = AParametro.ConjuntoDeCaracteres == CHARSET_UTF8;
     // In another character set only plain ASCII is surely the same text.
     if (!LUtf8 && std::any_of(LTexto.begin(), LTexto.end(), [](char AChar) { return (AChar & 0x80) != 0; }))
