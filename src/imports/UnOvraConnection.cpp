@@ -52,6 +52,9 @@ struct TOvraConnection::TImplementacao {
 
     TConjuntoDeLinhas Consultar(std::string_view ASql);
     std::int64_t Executar(std::string_view ASql);
+    /// Undoes what ExecutouSQL did, on the way of an exception: never raises. What it failed by, to stand behind the
+    /// reason of the undoing; a lost connection undoes by itself.
+    std::string VoltarAoSavepoint();
 
     /// Runs an operation, and tells the observer of it when it ends well.
     template <class TOperacao, class TContagem>
@@ -99,6 +102,19 @@ std::int64_t TOvraConnection::TImplementacao::Executar(std::string_view ASql)
     return static_cast<std::int64_t>(LAfetadas);
 }
 
+std::string TOvraConnection::TImplementacao::VoltarAoSavepoint()
+{
+    try {
+        Executar("ROLLBACK TO SAVEPOINT OVRA_EXECUTOUSQL");
+    } catch (const std::exception& LErro) {
+        const auto* LDoMotor = dynamic_cast<const EDatabaseError*>(&LErro);
+        if (LDoMotor == nullptr || !EhPerdaDeConexao(*LDoMotor))
+            return std::string("\nO que já tinha sido feito não pôde ser desfeito: ") + LErro.what();
+    } catch (...) {
+    }
+    return {};
+}
+
 TOvraConnection::TOvraConnection(const TParametrosConexao& AParametros)
     : FImplementacao(std::make_unique<TImplementacao>(AParametros))
 {}
@@ -134,8 +150,10 @@ TResultStatus TOvraConnection::ExecutouSQL(const std::vector<std::string>& ASql,
             for (const auto& LSql : ASql)
                 Executar(LSql);
             FImplementacao->Executar("RELEASE SAVEPOINT OVRA_EXECUTOUSQL ONLY");
-        } catch (const EDatabaseError&) {
-            FImplementacao->Executar("ROLLBACK TO SAVEPOINT OVRA_EXECUTOUSQL");
+        } catch (const EDatabaseError& LErro) {
+            return {false, LErro.what() + FImplementacao->VoltarAoSavepoint()};
+        } catch (...) {
+            FImplementacao->VoltarAoSavepoint();
             throw;
         }
         if (ACommit)

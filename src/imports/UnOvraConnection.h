@@ -74,7 +74,8 @@ public:
     /// Runs any statement and tells how many rows it changed.
     std::int64_t Executar(std::string_view ASql);
     /// Runs the statements in order, all or nothing, and confirms the transaction when asked. Never raises for the
-    /// engine: the failure is told in the result, and the caller's earlier work stays.
+    /// engine: the first failure is told in the result, and the caller's earlier work stays. Should the undoing fail
+    /// too, the result tells of it after the first reason. Any other exception goes on to the caller, after the undoing.
     TResultStatus ExecutouSQL(const std::vector<std::string>& ASql, bool ACommit);
 
     /// Starts a transaction; does nothing inside one. A snapshot shows every statement the same moment.
