@@ -51,7 +51,9 @@ struct TResultStatus {
 };
 
 /// A connection to a Firebird database, character set UTF-8. Statements run in its one transaction, which starts
-/// with the first of them (read committed, waiting for no lock) or with IniciarTransacao. It belongs to one thread.
+/// with the first of them (read committed, waiting for no lock) or with IniciarTransacao; COMMIT, ROLLBACK and SET
+/// TRANSACTION are refused as statements (EDatabaseError), savepoints are not. So is a text with a parameter (`?`),
+/// for there is nothing to give it a value. It belongs to one thread.
 /// Every failure of the engine is an EDatabaseError with its text and code; a lost connection is one too, and the
 /// object stays safe to use and to free.
 class TOvraConnection {

@@ -434,6 +434,15 @@ std::string Substituir(std::string_view ASql, const std::vector<TLiteralSql>& AL
 
 } // namespace
 
+bool TemParametro(std::string_view ASql)
+{
+    TAnalisadorLexico LLexico(ASql);
+    for (auto LToken = LLexico.Proximo(); LToken.Tipo != TTipoToken::Fim; LToken = LLexico.Proximo())
+        if (ASql[LToken.Posicao] == '?')
+            return true;
+    return false;
+}
+
 TFormaSql LerFormaSql(std::string_view ASql)
 {
     TFormaSql LForma;

@@ -29,6 +29,9 @@ struct TValorLiteralSql {
     std::string Texto;
 };
 
+/// Whether a `?` stands in it outside of texts, quoted names and comments.
+bool TemParametro(std::string_view ASql);
+
 TFormaSql LerFormaSql(std::string_view ASql);
 TValorLiteralSql LerLiteralSql(std::string_view ASql, const TLiteralSql& ALiteral);
 

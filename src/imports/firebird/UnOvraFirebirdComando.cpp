@@ -105,10 +105,10 @@ void LerLinha(TSessao& ASessao, TConjuntoDeLinhas& ALinhas, const TDescricao& AD
 
 } // namespace
 
-std::unique_ptr<TComando> PrepararComando(TSessao& ASessao, std::string_view ASql)
+std::unique_ptr<TComando> PrepararComando(TSessao& ASessao, std::string_view ASql, std::size_t AParametros)
 {
     auto LComando = std::make_unique<TComando>();
-    LComando->Comando = ASessao.Preparar(ASql);
+    LComando->Comando = ASessao.Preparar(ASql, AParametros);
     TStatus LStatus;
     LComando->Saida.reset(LComando->Comando->getOutputMetadata(&LStatus));
     LComando->Entrada.reset(LComando->Comando->getInputMetadata(&LStatus));

@@ -1,5 +1,7 @@
 #include "imports/firebird/UnOvraFirebirdComandosGuardados.h"
 
+#include <algorithm>
+
 #include "imports/firebird/UnOvraFirebirdLiteral.h"
 
 namespace tarvo::firebird {
@@ -19,6 +21,14 @@ std::string LiteraisFixos(std::string_view ASql, const TFormaSql& AForma, const 
     return LFixos;
 }
 
+/// The statement with the chosen literals as its parameters, and no other.
+std::unique_ptr<TComando> PrepararComForma(TSessao& ASessao, std::string_view ASql, const TFormaSql& AForma,
+                                           const std::vector<bool>& ALevantar)
+{
+    return PrepararComando(ASessao, MontarSqlComParametros(ASql, AForma, ALevantar),
+                           static_cast<std::size_t>(std::count(ALevantar.begin(), ALevantar.end(), true)));
+}
+
 } // namespace
 
 TConjuntoDeLinhas TComandosPelaForma::Consultar(std::string_view ASql)
@@ -30,7 +40,7 @@ TConjuntoDeLinhas TComandosPelaForma::Consultar(std::string_view ASql)
     const auto LVariante = BuscarVariante(ASql, LForma, LConhecida);
     auto LComando = FGuardados.Retirar(LVariante);
     if (!LComando)
-        LComando = PrepararComando(FSessao, MontarSqlComParametros(ASql, LForma, LConhecida.Levantar));
+        LComando = PrepararComForma(FSessao, ASql, LForma, LConhecida.Levantar);
     std::size_t LParametro = 0;
     for (std::size_t i = 0; i < LForma.Literais.size(); ++i) {
         if (!LConhecida.Levantar[i])
@@ -77,18 +87,14 @@ std::optional<std::vector<bool>> TComandosPelaForma::CombinarTipos(std::string_v
                                                                    std::unique_ptr<TComando>& AComando)
 {
     try {
-        auto LComando = PrepararComando(FSessao, MontarSqlComParametros(ASql, AForma, ALevantar));
+        auto LComando = PrepararComForma(FSessao, ASql, AForma, ALevantar);
         auto LCombinam = ALevantar;
         std::size_t LParametro = 0;
         for (std::size_t i = 0; i < ALevantar.size(); ++i) {
             if (!ALevantar[i])
                 continue;
-            if (LParametro >= LComando->Parametros.size())
-                return std::nullopt;
             LCombinam[i] = TipoCombina(LerLiteralSql(ASql, AForma.Literais[i]), LComando->Parametros[LParametro++]);
         }
-        if (LParametro != LComando->Parametros.size())
-            return std::nullopt;
         if (LCombinam == ALevantar)
             AComando = std::move(LComando);
         return LCombinam;

@@ -1,5 +1,10 @@
 #include "imports/firebird/UnOvraFirebirdSessao.h"
 
+#include <string>
+
+#include "imports/UnOvraExcecoes.h"
+#include "imports/UnOvraFormaSql.h"
+
 namespace tarvo::firebird {
 
 using namespace Firebird;
@@ -9,6 +14,8 @@ namespace {
 constexpr unsigned DIALETO = 3;
 /// isc_dpb_set_bind, by its number: the header of version 3 lacks it.
 constexpr unsigned char DPB_SET_BIND = 93;
+constexpr const char* PARAMETRO_SEM_VALOR =
+    "O comando tem um parâmetro sem valor (?): o valor vai no próprio texto do comando";
 
 TBlocoDeParametros ParametrosDeConexao(const TParametrosConexao& AParametros)
 {
@@ -128,13 +135,38 @@ void TSessao::Desfazer()
     LTransacao.release(); // as after a commit
 }
 
-TReferencia<IStatement> TSessao::Preparar(std::string_view ASql)
+TReferencia<IStatement> TSessao::PrepararTexto(std::string_view ASql)
 {
     ITransaction* LTransacao = TransacaoCorrente();
     TStatus LStatus;
     Vigiar(TPassoSql::Preparar);
-    TReferencia<IStatement> LComando(FAnexo->prepare(&LStatus, LTransacao, static_cast<unsigned>(ASql.size()),
-                                                     ASql.data(), DIALETO, IStatement::PREPARE_PREFETCH_METADATA));
+    return TReferencia<IStatement>(FAnexo->prepare(&LStatus, LTransacao, static_cast<unsigned>(ASql.size()),
+                                                   ASql.data(), DIALETO, IStatement::PREPARE_PREFETCH_METADATA));
+}
+
+TReferencia<IStatement> TSessao::Preparar(std::string_view ASql, std::size_t AParametros)
+{
+    TReferencia<IStatement> LComando;
+    try {
+        LComando = PrepararTexto(ASql);
+    } catch (const EDatabaseError& LErro) {
+        // The engine finds no type for some of them, and its words for that help nobody.
+        if (AParametros == 0 && !EhPerdaDeConexao(LErro) && TemParametro(ASql))
+            throw EDatabaseError(std::string(PARAMETRO_SEM_VALOR) + "\n" + LErro.what(), LErro.Codigo(),
+                                 LErro.SqlState());
+        throw;
+    }
+    TStatus LStatus;
+    const auto LTipo = LComando->getType(&LStatus);
+    if (LTipo == isc_info_sql_stmt_start_trans || LTipo == isc_info_sql_stmt_commit ||
+        LTipo == isc_info_sql_stmt_rollback)
+        throw EDatabaseError("Uma transação não começa nem termina por um comando: use Confirmar, Desfazer ou "
+                             "IniciarTransacao",
+                             0, "");
+    // Run so, the engine would take zeros for the values.
+    const TReferencia<IMessageMetadata> LEntrada(LComando->getInputMetadata(&LStatus));
+    if (LEntrada->getCount(&LStatus) != AParametros)
+        throw EDatabaseError(PARAMETRO_SEM_VALOR, 0, "");
     return LComando;
 }
 

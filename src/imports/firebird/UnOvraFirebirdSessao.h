@@ -2,6 +2,7 @@
 
 #include <firebird/Interface.h>
 
+#include <cstddef>
 #include <string_view>
 
 #include "imports/UnOvraConnection.h"
@@ -29,7 +30,9 @@ public:
     void Confirmar();
     void Desfazer();
 
-    TReferencia<Firebird::IStatement> Preparar(std::string_view ASql);
+    /// Prepares a text that has so many parameters. EDatabaseError when it has others, and when it is a statement that
+    /// starts or ends a transaction, which the session does itself.
+    TReferencia<Firebird::IStatement> Preparar(std::string_view ASql, std::size_t AParametros = 0);
 
     void DefinirVigia(TVigiaSql AVigia) { FVigia = std::move(AVigia); }
     void Vigiar(TPassoSql APasso) const
@@ -39,6 +42,8 @@ public:
     }
 
 private:
+    TReferencia<Firebird::IStatement> PrepararTexto(std::string_view ASql);
+
     TReferencia<Firebird::IAttachment> FAnexo;
     TReferencia<Firebird::ITransaction> FTransacao;
     TVigiaSql FVigia;
