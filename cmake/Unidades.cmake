@@ -1,13 +1,20 @@
-# The sources of a folder compile as one unit: what they all include is read once, not once a source. A folder of one
-# source stays as it is, and so does a source that says SKIP_UNITY_BUILD_INCLUSION.
+# The sources of a subsystem compile as one unit: what they all include is read once, not once a source. Those of a
+# folder named after the target stay a unit by themselves. A unit of one source stays as it is, and so does a source
+# that says SKIP_UNITY_BUILD_INCLUSION.
 function(compilar_por_pasta ALVO)
   get_target_property(FONTES ${ALVO} SOURCES)
   foreach(FONTE ${FONTES})
-    cmake_path(GET FONTE PARENT_PATH PASTA)
-    cmake_path(RELATIVE_PATH PASTA BASE_DIRECTORY ${CMAKE_SOURCE_DIR})
-    string(MAKE_C_IDENTIFIER ${PASTA} GRUPO)
-    set_source_files_properties(${FONTE} PROPERTIES UNITY_GROUP ${GRUPO})
-    list(APPEND GRUPO_${GRUPO} ${FONTE})
+    cmake_path(RELATIVE_PATH FONTE BASE_DIRECTORY ${CMAKE_SOURCE_DIR})
+    string(REGEX MATCH "^[^/]+/[^/]+" GRUPO ${FONTE})
+    foreach(PASTA ${ARGN})
+      string(FIND ${FONTE} "${PASTA}/" ONDE)
+      if(ONDE EQUAL 0)
+        set(GRUPO ${PASTA})
+      endif()
+    endforeach()
+    string(MAKE_C_IDENTIFIER ${GRUPO} GRUPO)
+    set_source_files_properties(${CMAKE_SOURCE_DIR}/${FONTE} PROPERTIES UNITY_GROUP ${GRUPO})
+    list(APPEND GRUPO_${GRUPO} ${CMAKE_SOURCE_DIR}/${FONTE})
     list(APPEND GRUPOS ${GRUPO})
   endforeach()
   list(REMOVE_DUPLICATES GRUPOS)
