@@ -95,7 +95,7 @@ private:
 
 std::vector<TCasoDeOrdem> TTesteOrdemDosPagamentos::Casos()
 {
-    const auto MAR5 = D(2021, 3, 5);
+    const auto CINCO_DE_MARCO = D(2021, 3, 5);
     return {
         {"RubricasDaTabelaVigente",
          ContratoComImpostoRetido,
@@ -182,9 +182,9 @@ std::vector<TCasoDeOrdem> TTesteOrdemDosPagamentos::Casos()
           Calculado({.Verba = vLiquido, .Valor = 4, .Empregado = 10, .Tipo = "03"}),
           Calculado({.Verba = vLiquido, .Valor = 5, .Empregado = 2, .Tipo = "03"}),
           Calculado({.Verba = vLiquido, .Valor = 6, .Empregado = 3}),
-          Calculado({.Verba = vLiquido, .Valor = 7, .Empregado = 2, .Tipo = "02", .Pagto = MAR5}),
-          Calculado({.Verba = vLiquido, .Valor = 8, .Empregado = 2, .Inicio = D(2021, 2, 1), .Pagto = MAR5}),
-          Calculado({.Verba = vLiquido, .Valor = 9, .Empregado = 2, .Pagto = MAR5, .Convocacao = 7})},
+          Calculado({.Verba = vLiquido, .Valor = 7, .Empregado = 2, .Tipo = "02", .Pagto = CINCO_DE_MARCO}),
+          Calculado({.Verba = vLiquido, .Valor = 8, .Empregado = 2, .Inicio = D(2021, 2, 1), .Pagto = CINCO_DE_MARCO}),
+          Calculado({.Verba = vLiquido, .Valor = 9, .Empregado = 2, .Pagto = CINCO_DE_MARCO, .Convocacao = 7})},
          Identificadores,
          "[05/1 01_000_0_0=8 01_000_0_0=9 02_000_0_0=7][31/1 02_000_0_0=3][31/1 01_000_0_0=3 03_000_0_0=9]"
          "[31/2 01_000_0_0=6]"},

@@ -11,7 +11,6 @@ namespace {
 using namespace tarvo::rural;
 
 constexpr const char* RURAL = "99-Comercializacao de Producao Rural";
-constexpr int FOLHA = 1;
 
 class TTesteComprasDaFolha : public TTesteCompras {};
 

@@ -13,8 +13,6 @@ namespace {
 
 using namespace tarvo::rural;
 
-constexpr int BRENCO = 2;
-constexpr int EXTERNO = 3;
 
 class TTesteComprasDoBrenco : public TTesteComprasComBrenco {
 protected:

@@ -8,9 +8,6 @@ namespace {
 
 using namespace tarvo::rural;
 
-constexpr int FOLHA = 1;
-constexpr int BRENCO = 2;
-constexpr int EXTERNO = 3;
 
 class TTesteOrdemRural : public TTesteDeOrdem<TTesteComprasComBrenco> {
 public:

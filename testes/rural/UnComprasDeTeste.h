@@ -9,6 +9,11 @@
 
 namespace tarvo::testes {
 
+/// The sources of purchases, as ATipoConexao says them.
+inline constexpr int FOLHA = 1;
+inline constexpr int BRENCO = 2;
+inline constexpr int EXTERNO = 3;
+
 /// Establishment 10 of company 1, and rows of purchases of March 2021.
 class TTesteCompras : public TTesteComBanco {
 protected:
