@@ -110,12 +110,14 @@ BEGIN
               FROM SC00_EMPRESA E
               JOIN SC00_FILIAL F ON (F.IDEMPRESA = E.IDEMPRESA)
              WHERE E.EMPRESA = :COD_EMPRESA AND F.FILIAL = :COD_FILIAL
+             ORDER BY F.IDFILIAL
               INTO :IDFILIAL;
         -- A SELECT without a row leaves the variable alone: clear what the former worker left.
         IDDEPTO = NULL;
         SELECT FIRST 1 D.IDDEPTO
           FROM SC00_DEPTO D
          WHERE D.IDFILIAL = :IDFILIAL AND D.DEPTO = :COD_DEPTO
+         ORDER BY D.IDDEPTO
           INTO :IDDEPTO;
         SUSPEND;
     END

@@ -41,9 +41,9 @@ std::string SqlConfiguracaoVigente(std::string_view AColunas, TTabelaDeConfigura
 FROM %1:s
 WHERE %2:s
   AND %3:s
-ORDER BY %1:s.DATAINICIO DESC)";
+ORDER BY %1:s.DATAINICIO DESC, %1:s.%4:s)";
     return Format(SQL, AColunas, ATabela.Nome, CondicaoDaChave(ATabela, AIdDono, AChave),
-                  CondicaoDaValidade(ATabela, AData, AFim));
+                  CondicaoDaValidade(ATabela, AData, AFim), ATabela.ColunaDaChave);
 }
 
 } // namespace tarvo

@@ -15,16 +15,18 @@ struct TChaveDeConfiguracao {
     int Tp;
 };
 
-/// A configuration table and the column that says whose row it is.
+/// A configuration table, the column that says whose row it is, and its primary key.
 struct TTabelaDeConfiguracao {
     std::string_view Nome;
     std::string_view ColunaDoDono;
+    std::string_view ColunaDaChave = {};
 };
 
-inline constexpr TTabelaDeConfiguracao SC00_EMPRESACFG{"SC00_EMPRESACFG", "IDEMPRESA"};
-inline constexpr TTabelaDeConfiguracao SC00_FILIALCFG{"SC00_FILIALCFG", "IDFILIAL"};
-inline constexpr TTabelaDeConfiguracao SC00_DEPARTAMENTOCFG{"SC00_DEPARTAMENTOCFG", "IDDEPARTAMENTO"};
-inline constexpr TTabelaDeConfiguracao SC00_EMPREGADOCFG{"SC00_EMPREGADOCFG", "IDEMPREGADO"};
+inline constexpr TTabelaDeConfiguracao SC00_EMPRESACFG{"SC00_EMPRESACFG", "IDEMPRESA", "IDEMPRESACFG"};
+inline constexpr TTabelaDeConfiguracao SC00_FILIALCFG{"SC00_FILIALCFG", "IDFILIAL", "IDFILIALCFG"};
+inline constexpr TTabelaDeConfiguracao SC00_DEPARTAMENTOCFG{"SC00_DEPARTAMENTOCFG", "IDDEPARTAMENTO",
+                                                            "IDDEPARTAMENTOCFG"};
+inline constexpr TTabelaDeConfiguracao SC00_EMPREGADOCFG{"SC00_EMPREGADOCFG", "IDEMPREGADO", "IDEMPREGADOCFG"};
 
 /// How a row's end is compared with the date. The tables differ, and the difference is meant.
 enum class TFimDaValidade {
@@ -48,7 +50,7 @@ std::string CondicaoVigente(TTabelaDeConfiguracao ATabela, TChaveDeConfiguracao 
 /// the date before the others, the newest start first. The primary key follows it.
 std::string OrdemDaValidade(TTabelaDeConfiguracao ATabela, TDateTime AData);
 /// The row in force at a date, the newest start first: `SELECT FIRST 1 columns FROM TABLE WHERE ... ORDER BY
-/// TABLE.DATAINICIO DESC`. AColunas is the select list as it stands.
+/// TABLE.DATAINICIO DESC, TABLE.KEY`. AColunas is the select list as it stands.
 std::string SqlConfiguracaoVigente(std::string_view AColunas, TTabelaDeConfiguracao ATabela, std::int64_t AIdDono,
                                    TChaveDeConfiguracao AChave, TDateTime AData,
                                    TFimDaValidade AFim = TFimDaValidade::Inclusive);

@@ -14,7 +14,7 @@ WHERE SC00_EMPRESACFG.IDEMPRESA = %0:d
   AND SC00_EMPRESACFG.ORIGEM = 90
   AND SC00_EMPRESACFG.ESPECIE = 38
   AND SC00_EMPRESACFG.TP = 10
-ORDER BY SC00_EMPRESACFG.DATAINICIO DESC)";
+ORDER BY SC00_EMPRESACFG.DATAINICIO DESC, SC00_EMPRESACFG.IDEMPRESACFG)";
 
 TDatasInicioESocial TTarvoConsultasESocial::BuscarDataInicioEmpresaEsocial(std::int64_t AIDEmpresa)
 {
@@ -29,7 +29,7 @@ TDatasInicioESocial TTarvoConsultasESocial::BuscarDataInicioEmpresaEsocial(std::
 
 TDateTime TTarvoConsultasESocial::BuscarDataInicioAmbienteTeste() { return EncodeDate(2017, 8, 1); }
 
-// The owner of the row comes as text: an id, or the sub-select that finds it.
+// The owner of the row comes as text: an id, or the sub-select that finds it. %4:s is the primary key.
 static constexpr std::string_view SQL_IND_SIMPLES = R"(SELECT FIRST 1 %0:s.INFORMACAO1
 FROM %0:s
 WHERE %0:s.%1:s = %2:s
@@ -38,7 +38,7 @@ WHERE %0:s.%1:s = %2:s
   AND %0:s.TP = 1
   AND %0:s.DATAINICIO <= %3:s
   AND (%0:s.DATAFIM >= %3:s OR %0:s.DATAFIM IS NULL)
-ORDER BY %0:s.DATAINICIO DESC)";
+ORDER BY %0:s.DATAINICIO DESC, %0:s.%4:s)";
 
 std::int32_t TTarvoConsultasESocial::BuscarIndSimples(std::int64_t AIDEstab, std::int64_t AIDDepto, TDateTime AData)
 {
@@ -49,10 +49,10 @@ std::int32_t TTarvoConsultasESocial::BuscarIndSimples(std::int64_t AIDEstab, std
             ? IntToStr(AIDEstab)
             : Format("(SELECT SC00_DEPTO.IDFILIAL FROM SC00_DEPTO WHERE SC00_DEPTO.IDDEPTO = %0:d)", AIDDepto);
     auto LCds = TTarvoConsultasGeral::BuscarRegistros(
-        Format(SQL_IND_SIMPLES, "SC00_DEPARTAMENTOCFG", "IDDEPARTAMENTO", LDepto, LData));
+        Format(SQL_IND_SIMPLES, "SC00_DEPARTAMENTOCFG", "IDDEPARTAMENTO", LDepto, LData, "IDDEPARTAMENTOCFG"));
     if (LCds->IsEmpty())
-        LCds =
-            TTarvoConsultasGeral::BuscarRegistros(Format(SQL_IND_SIMPLES, "SC00_FILIALCFG", "IDFILIAL", LEstab, LData));
+        LCds = TTarvoConsultasGeral::BuscarRegistros(
+            Format(SQL_IND_SIMPLES, "SC00_FILIALCFG", "IDFILIAL", LEstab, LData, "IDFILIALCFG"));
     return static_cast<std::int32_t>(StrToInt64Def(LCds->FieldByName("INFORMACAO1").AsString(), 0));
 }
 
@@ -65,7 +65,9 @@ WHERE SC00_ESOCIALREINFXML.IDEMPRESA = %0:d
   AND SC00_ESOCIALREINFXML.TPAMB = %3:d
   AND SC00_ESOCIALREINFXML.STATUS IN (201, 202)
   AND SC00_ESOCIALREINFDET.STATUS IN (201, 202) %4:s
-ORDER BY SC00_ESOCIALREINFXML.DATA DESC, SC00_ESOCIALREINFXML.IDESOCIALREINFXML DESC)";
+ORDER BY SC00_ESOCIALREINFXML.DATA DESC,
+  SC00_ESOCIALREINFXML.IDESOCIALREINFXML DESC,
+  SC00_ESOCIALREINFDET.IDESOCIALREINFDET)";
 
 std::string TTarvoConsultasESocial::BuscarNumeroDeRecibo(std::int64_t AIDEmpresa, TTipoEventoFolha ATipo,
                                                          std::int64_t AIDTrabalhador, std::int64_t AIDEvento,

@@ -45,7 +45,7 @@ LEFT JOIN SQL_FAP ON (1=1))";
             ? Format(SQL_RAT_DEPTO,
                      SqlCfgDoDono("SC00_DEPARTAMENTOCFG.INFORMACAO1", SC00_DEPARTAMENTOCFG, FLugar.Id, RAT, FData),
                      SqlCfgDoEstab(VALOR, FLugar, RAT, FData))
-            : SqlCfgDoEstab("SC00_FILIALCFG.INFORMACAO1 ALIQRAT", FLugar, RAT, FData);
+            : SqlCfgDoEstab("FIRST 1 SC00_FILIALCFG.INFORMACAO1 ALIQRAT", FLugar, RAT, FData);
     return Format(SQL, LAliqRat, SqlCfgDoEstab(VALOR, FLugar, {90, 51, 1}, FData),
                   SqlCfgDaEmpresa("SC00_EMPRESACFG.INFORMACAO1", FLugar, {90, 18, 1}, FData));
 }

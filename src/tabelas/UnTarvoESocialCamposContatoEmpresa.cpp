@@ -29,7 +29,8 @@ std::string TTarvoESocialCamposContatoEmpresa::BuscarSQLDados()
   CA06_CFG.INFORMACAO5 EMAIL_CONTATO
 FROM CA06_CFG
 WHERE CA06_CFG.ORIGEM = 97
-  AND CA06_CFG.TP = 2)";
+  AND CA06_CFG.TP = 2
+ORDER BY CA06_CFG.IDCFG)";
 }
 
 void TTarvoESocialCamposContatoEmpresa::ReverterDados() { TTarvoESocialCamposGrupoBase::ReverterDados(); }

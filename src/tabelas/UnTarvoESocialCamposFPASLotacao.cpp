@@ -6,8 +6,9 @@ namespace tarvo::tabelas {
 
 TTarvoESocialCamposFPASLotacao::TTarvoESocialCamposFPASLotacao(std::int64_t AIDEstab, std::int64_t AIDDepto,
                                                                TDateTime ADataBase)
-    : TTarvoESocialCamposGrupoBase("{52228831-2345-4D33-A184-92A0DDC72412}"), InfoProcJudTerceiros(AIDEstab, AIDDepto),
-      FLugar(DepartamentoPrimeiro(AIDEstab, AIDDepto)), FDataBase(ADataBase)
+    : TTarvoESocialCamposGrupoBase("{52228831-2345-4D33-A184-92A0DDC72412}"),
+      InfoProcJudTerceiros(AIDEstab, AIDDepto, ADataBase), FLugar(DepartamentoPrimeiro(AIDEstab, AIDDepto)),
+      FDataBase(ADataBase)
 {}
 
 const TPropriedades& TTarvoESocialCamposFPASLotacao::Tabela()
@@ -57,7 +58,12 @@ JOIN SC00_FILIALCFG ON (SC00_FILIALCFG.IDFILIAL = SC00_DEPTO.IDFILIAL
 JOIN FP_FPASCODIGO ON (CAST(SC00_DEPARTAMENTOCFG.INFORMACAO1 AS NUMERIC(4,1)) = FP_FPASCODIGO.CODIGO)
 %2:s
 WHERE SC00_DEPARTAMENTOCFG.IDDEPARTAMENTO = %0:d
-  AND %4:s)";
+  AND %4:s
+ORDER BY %6:s, SC00_DEPARTAMENTOCFG.IDDEPARTAMENTOCFG,
+  %5:s, SC00_FILIALCFG.IDFILIALCFG,
+  FP_FPASCODIGO.IDFPASCODIGO,
+  FP_FPASPERCENTUAIS.IDFPASPERCENTUAIS,
+  SC00_EMPRESACFG.DATAINICIO DESC, SC00_EMPRESACFG.IDEMPRESACFG)";
     static constexpr std::string_view SQL_ESTAB = R"(SELECT
   FP_FPASCODIGO.CODIGO FPAS,
   %1:s,
@@ -66,10 +72,14 @@ FROM FP_FPASCODIGO
 JOIN SC00_FILIALCFG ON (SC00_FILIALCFG.INFORMACAO1 = FP_FPASCODIGO.IDFPASCODIGO)
 %2:s
 WHERE SC00_FILIALCFG.IDFILIAL = %0:d
-  AND %3:s)";
+  AND %3:s
+ORDER BY %5:s, SC00_FILIALCFG.IDFILIALCFG,
+  FP_FPASPERCENTUAIS.IDFPASPERCENTUAIS,
+  SC00_EMPRESACFG.DATAINICIO DESC, SC00_EMPRESACFG.IDEMPRESACFG)";
     return Format(FLugar.EhDepto ? SQL_DEPTO : SQL_ESTAB, FLugar.Id, SQL_CODTERCS,
                   Format(SQL_EMPRESA, CondicaoVigente(SC00_EMPRESACFG, {90, 38, 1}, FDataBase)),
-                  CondicaoDaChave(SC00_FILIALCFG, {90, 51, 2}), CondicaoDaChave(SC00_DEPARTAMENTOCFG, {90, 18, 2}));
+                  CondicaoDaChave(SC00_FILIALCFG, {90, 51, 2}), CondicaoDaChave(SC00_DEPARTAMENTOCFG, {90, 18, 2}),
+                  OrdemDaValidade(SC00_FILIALCFG, FDataBase), OrdemDaValidade(SC00_DEPARTAMENTOCFG, FDataBase));
 }
 
 void TTarvoESocialCamposFPASLotacao::CarregarDados(const TListaCamposModificados* AListaCamposModificados)

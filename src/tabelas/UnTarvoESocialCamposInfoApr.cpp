@@ -40,10 +40,11 @@ std::string TTarvoESocialCamposInfoApr::BuscarSQLDados()
 FROM %0:s
 LEFT JOIN ES02_SPPROC ON (%0:s.INFORMACAO2 = ES02_SPPROC.IDSPPROC)
 WHERE %1:s
-  AND %2:s)";
+  AND %2:s
+ORDER BY %0:s.DATAINICIO DESC, %0:s.%3:s)";
     const auto LCfg = FLugar.Cfg();
     return Format(SQL, LCfg.Nome, CondicaoDaChave(LCfg, FLugar.Id, APRENDIZES),
-                  CondicaoDaValidade(LCfg, FData, TFimDaValidade::Exclusive));
+                  CondicaoDaValidade(LCfg, FData, TFimDaValidade::Exclusive), LCfg.ColunaDaChave);
 }
 
 void TTarvoESocialCamposInfoApr::CarregarInfoEntEduc()
@@ -53,14 +54,15 @@ FROM FP_INFOGERALCFG
 WHERE FP_INFOGERALCFG.ORIGEM = 90
   AND FP_INFOGERALCFG.ESPECIE = 58
   AND FP_INFOGERALCFG.TP = 1
-  AND FP_INFOGERALCFG.%0:s = (%1:s))";
+  AND FP_INFOGERALCFG.%0:s = (%1:s)
+ORDER BY FP_INFOGERALCFG.IDINFOGERALCFG)";
     const auto LCfg = FLugar.Cfg();
-    const std::string_view LColuna = FLugar.EhDepto ? "IDDEPARTAMENTOCFG" : "IDFILIALCFG";
     // The row still counts on the day of its DATAFIM, unlike in the group's own statement; meant. On the day on which
     // one row follows another the newer one is taken.
     const auto LCds = TTarvoConsultasGeral::BuscarRegistros(
-        Format(SQL, LColuna,
-               SqlConfiguracaoVigente(Format("%0:s.%1:s", LCfg.Nome, LColuna), LCfg, FLugar.Id, APRENDIZES, FData)));
+        Format(SQL, LCfg.ColunaDaChave,
+               SqlConfiguracaoVigente(Format("%0:s.%1:s", LCfg.Nome, LCfg.ColunaDaChave), LCfg, FLugar.Id, APRENDIZES,
+                                      FData)));
     AcrescentarUmPorLinha(InfoEntEduc, LCds, "IDINFOGERALCFG");
 }
 

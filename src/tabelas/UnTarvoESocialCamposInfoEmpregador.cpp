@@ -4,7 +4,7 @@ namespace tarvo::tabelas {
 
 TTarvoESocialCamposInfoEmpregador::TTarvoESocialCamposInfoEmpregador(std::int64_t AIDEmpresa, TDateTime AData)
     : TTarvoESocialCamposGrupoBase("{B1FCA9A0-0ED5-40F9-9001-400AC2384702}"), infoCadastro(AIDEmpresa, AData),
-      idePeriodo(AIDEmpresa)
+      idePeriodo(AIDEmpresa, AData)
 {}
 
 const TPropriedades& TTarvoESocialCamposInfoEmpregador::Tabela()

@@ -17,12 +17,14 @@ struct TLinhaDoFpas {
     std::string_view CodSusp;
     std::string_view Processo;
 
-    std::string Sql(const std::string& AColunas) const
+    std::string Sql(const std::string& AColunas, TDateTime AData) const
     {
         static constexpr std::string_view SQL = R"(SELECT %0:s
 FROM %1:s
-WHERE %2:s)";
-        return Format(SQL, AColunas, Cfg.Nome, CondicaoDaChave(Cfg, IdDono, Chave));
+WHERE %2:s
+ORDER BY %3:s, %1:s.%4:s)";
+        return Format(SQL, AColunas, Cfg.Nome, CondicaoDaChave(Cfg, IdDono, Chave), OrdemDaValidade(Cfg, AData),
+                      Cfg.ColunaDaChave);
     }
 };
 
@@ -36,9 +38,9 @@ TLinhaDoFpas LinhaDoFpas(TLugar ALugar)
 } // namespace
 
 TTarvoESocialCamposInfoProcJudTerceiros::TTarvoESocialCamposInfoProcJudTerceiros(std::int64_t AIDEstab,
-                                                                                 std::int64_t AIDDepto)
+                                                                                 std::int64_t AIDDepto, TDateTime AData)
     : TTarvoESocialCamposGrupoBase("{23F156AF-B2D6-4939-9BAE-DCAFD49C19B3}"),
-      FLugar(EstabelecimentoPrimeiro(AIDEstab, AIDDepto))
+      FLugar(EstabelecimentoPrimeiro(AIDEstab, AIDDepto)), FData(AData)
 {
     CarregarDadosProcJudTerceiro();
 }
@@ -61,7 +63,7 @@ void TTarvoESocialCamposInfoProcJudTerceiros::BuscarCodigosDeTerceiros()
     for (const int LBit : BITS)
         LTermos += Format("%0:sBIN_AND(COALESCE(CAST(%1:s.%2:s AS INTEGER),0),%3:d)", LTermos.empty() ? "" : "||','||",
                           LLinha.Cfg.Nome, LLinha.CodSusp, LBit);
-    AtribuirCodigosNaLista(TTarvoConsultasGeral::BuscarTexto(LLinha.Sql(LTermos + " CODSUSP")));
+    AtribuirCodigosNaLista(TTarvoConsultasGeral::BuscarTexto(LLinha.Sql(LTermos + " CODSUSP", FData)));
 }
 
 void TTarvoESocialCamposInfoProcJudTerceiros::AtribuirCodigosNaLista(const std::string& ACodigos)
@@ -76,7 +78,7 @@ void TTarvoESocialCamposInfoProcJudTerceiros::CarregarDadosProcJudTerceiro()
     BuscarCodigosDeTerceiros();
     const auto LLinha = LinhaDoFpas(FLugar);
     const auto LCds = TTarvoConsultasGeral::BuscarRegistros(
-        LLinha.Sql(Format("%0:s.%1:s ID, %0:s.%2:s CODSUSP", LLinha.Cfg.Nome, LLinha.Processo, LLinha.CodSusp)));
+        LLinha.Sql(Format("%0:s.%1:s ID, %0:s.%2:s CODSUSP", LLinha.Cfg.Nome, LLinha.Processo, LLinha.CodSusp), FData));
     const auto LProcesso = LCds->FieldByName("ID");
     if (LProcesso.AsString().empty())
         return;

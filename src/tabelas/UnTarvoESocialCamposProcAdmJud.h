@@ -21,7 +21,8 @@ protected:
                                   TDateTime AData);
 
     const TPropriedades& Propriedades() const override { return Tabela(); }
-    /// The columns of the process whose id ASqlDoId selects, one row a suspension. APrefixo is `FIRST 1 ` or empty.
+    /// The columns of the process whose id ASqlDoId selects, one row a suspension, without an order. APrefixo stands
+    /// before the columns: `FIRST 1`, a further column with its comma, or nothing.
     static std::string SqlProcesso(std::string_view APrefixo, const std::string& ASqlDoId);
 
     TLugar FLugar;

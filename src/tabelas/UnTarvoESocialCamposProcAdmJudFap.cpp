@@ -12,7 +12,7 @@ std::string TTarvoESocialCamposProcAdmJudFap::BuscarSQLDados()
     // An empty text is no process.
     return SqlProcesso("FIRST 1", SqlCfgDoEstab("IIF(SC00_FILIALCFG.INFORMACAO2 <> '',SC00_FILIALCFG.INFORMACAO2,NULL)",
                                                 FLugar, {90, 51, 1}, FData)) +
-           "\nORDER BY ES02_SPPROCDET.DATA DESC";
+           "\nORDER BY ES02_SPPROCDET.DATA DESC, ES02_SPPROCDET.IDSPPROCDET";
 }
 
 } // namespace tarvo::tabelas

@@ -22,13 +22,15 @@ SELECT
   COALESCE(SQL_DEPTO.INDSUSPENSAO,SQL_FILIAL.INDSUSPENSAO) INDSUSPENSAO,
   COALESCE(SQL_DEPTO.IDSPPROC,SQL_FILIAL.IDSPPROC) IDSPPROC
 FROM SQL_FILIAL
-FULL JOIN SQL_DEPTO ON (1=1))";
-    const auto LDoEstab = SqlProcesso("", SqlCfgDoEstab("SC00_FILIALCFG.INFORMACAO2", FLugar, RAT, FData));
+FULL JOIN SQL_DEPTO ON (1=1)
+ORDER BY SQL_DEPTO.IDSPPROCDET, SQL_FILIAL.IDSPPROCDET)";
+    static constexpr std::string_view DETALHE = "ES02_SPPROCDET.IDSPPROCDET,";
+    const auto LDoEstab = SqlCfgDoEstab("SC00_FILIALCFG.INFORMACAO2", FLugar, RAT, FData);
     if (!FLugar.EhDepto)
-        return LDoEstab;
-    return Format(
-        SQL_DEPTO, LDoEstab,
-        SqlProcesso("", SqlCfgDoDono("SC00_DEPARTAMENTOCFG.INFORMACAO2", SC00_DEPARTAMENTOCFG, FLugar.Id, RAT, FData)));
+        return SqlProcesso("", LDoEstab) + "\nORDER BY ES02_SPPROCDET.IDSPPROCDET";
+    return Format(SQL_DEPTO, SqlProcesso(DETALHE, LDoEstab),
+                  SqlProcesso(DETALHE, SqlCfgDoDono("SC00_DEPARTAMENTOCFG.INFORMACAO2", SC00_DEPARTAMENTOCFG, FLugar.Id,
+                                                    RAT, FData)));
 }
 
 } // namespace tarvo::tabelas

@@ -28,8 +28,9 @@ constexpr TLugar DepartamentoPrimeiro(std::int64_t AIDEstab, std::int64_t AIDDep
     return AIDDepto != 0 ? TLugar{true, AIDDepto} : TLugar{false, AIDEstab};
 }
 
-// Configuration rows in force at a date, without an order: the rows of one setting mustn't overlap. A row doesn't count
-// on the day of its DATAFIM. AColunas is the select list as it stands.
+// Configuration rows in force at a date, the newest start first. Rows of one setting mustn't overlap where it stands as
+// a single value in a larger statement: the engine refuses two. A row doesn't count on the day of its DATAFIM. AColunas
+// is the select list as it stands.
 
 /// Of an owner: `SELECT columns FROM TABLE WHERE ...`.
 std::string SqlCfgDoDono(std::string_view AColunas, TTabelaDeConfiguracao ATabela, std::int64_t AIdDono,
