@@ -13,7 +13,6 @@ namespace {
 
 using namespace tarvo::rural;
 
-
 class TTesteComprasDoBrenco : public TTesteComprasComBrenco {
 protected:
     /// By both families, which differ in nothing here.

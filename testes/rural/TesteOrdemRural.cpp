@@ -8,7 +8,6 @@ namespace {
 
 using namespace tarvo::rural;
 
-
 class TTesteOrdemRural : public TTesteDeOrdem<TTesteComprasComBrenco> {
 public:
     /// The purchases as they are shown, with the first suspension of each process.
