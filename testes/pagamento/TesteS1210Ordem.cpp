@@ -10,19 +10,19 @@ namespace tarvo::testes {
 namespace {
 
 /// Rows of which one comes first, and what the load tells of them whatever the order in which they were stored.
-struct TCasoDeOrdem {
+struct TCasoDePagamento {
     const char* Nome;
     std::function<void()> Preparar;
     std::vector<std::function<void()>> Linhas;
     std::function<std::string()> Resultado;
     const char* Esperado;
 };
-void PrintTo(const TCasoDeOrdem& ACaso, std::ostream* ASaida) { *ASaida << ACaso.Nome; }
+void PrintTo(const TCasoDePagamento& ACaso, std::ostream* ASaida) { *ASaida << ACaso.Nome; }
 
 class TTesteOrdemDosPagamentos : public TTestePagamento,
-                                 public ::testing::WithParamInterface<std::tuple<TCasoDeOrdem, bool>> {
+                                 public ::testing::WithParamInterface<std::tuple<TCasoDePagamento, bool>> {
 public:
-    static std::vector<TCasoDeOrdem> Casos();
+    static std::vector<TCasoDePagamento> Casos();
 
 private:
     /// The one rubric of withheld tax of the one demonstrative.
@@ -93,7 +93,7 @@ private:
     }
 };
 
-std::vector<TCasoDeOrdem> TTesteOrdemDosPagamentos::Casos()
+std::vector<TCasoDePagamento> TTesteOrdemDosPagamentos::Casos()
 {
     const auto CINCO_DE_MARCO = D(2021, 3, 5);
     return {

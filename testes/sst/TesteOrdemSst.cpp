@@ -36,7 +36,7 @@ std::string Cbos()
     return LTexto;
 }
 
-const TCasoDeOrdem CASOS[] = {
+const TCasoDasLinhas CASOS[] = {
     {"partesAtingidas",
      "FP_CATPARTEATINGIDA (IDCATPARTEATINGIDA, IDTABCAT, IDPARTEATINGIDA, LATERALIDADE)",
      {"1, 1, 13, 3", "2, 1, 13, 1", "3, 1, 13, 2"},

@@ -21,7 +21,7 @@ namespace {
 
 using namespace tabelas;
 
-const auto HOJE = D(2021, 3, 1);
+const auto NO_DIA = D(2021, 3, 1);
 
 class TTesteOrdemDasTabelas : public TTesteDeOrdem<TTesteComLugar> {
 public:
@@ -85,7 +85,7 @@ std::string Ids(const std::string& ASql)
 /// What the FPAS of a place shows: codes, suspended entities and their process.
 std::string Fpas(std::int64_t AEstab, std::int64_t ADepto)
 {
-    const auto LGrupo = Carregar<TTarvoESocialCamposFPASLotacao>(AEstab, ADepto, HOJE);
+    const auto LGrupo = Carregar<TTarvoESocialCamposFPASLotacao>(AEstab, ADepto, NO_DIA);
     auto LTexto = LGrupo->Fpas + " " + LGrupo->CodTercs + " " + LGrupo->CodTercsSusp;
     for (const auto& LItem : LGrupo->InfoProcJudTerceiros.ProcJudTerceiro)
         LTexto += " " + LItem->codTerc + "," + LItem->nrProcJud + "," + std::to_string(LItem->codSusp);
@@ -122,7 +122,7 @@ INSTANTIATE_TEST_SUITE_P(
              "Ana 3"},
             {"SituacaoDaEmpresa", DoisNovosEUmVelho(SC00_EMPRESACFG, "90, 38, 8"),
              [] {
-                 const auto LGrupo = Carregar<TTarvoESocialCamposInfoComplementares>(1, HOJE);
+                 const auto LGrupo = Carregar<TTarvoESocialCamposInfoComplementares>(1, NO_DIA);
                  return LGrupo->situacaoPJ.indSitPJ + LGrupo->situacaoPF.indSitPF;
              },
              "77"},
@@ -134,7 +134,7 @@ INSTANTIATE_TEST_SUITE_P(
               Cfg(SC00_EMPRESACFG, 8, "90, 38, 10", "'01.01.2020'", "'01.03.2021'", "INFORMACAO1", "'08/08/2008'"),
               Cfg(SC00_EMPRESACFG, 1, "90, 38, 10", "'01.02.2021'", "'28.02.2021'", "INFORMACAO1", "'01/01/2001'")},
              [] {
-                 const auto LGrupo = Carregar<TTarvoESocialCamposInfoEmpregador>(1, HOJE);
+                 const auto LGrupo = Carregar<TTarvoESocialCamposInfoEmpregador>(1, NO_DIA);
                  return DateTimeToStr(LGrupo->idePeriodo.DataIniCfg) + " " +
                         DateTimeToStr(LGrupo->idePeriodo.iniValid);
              },
@@ -145,32 +145,32 @@ INSTANTIATE_TEST_SUITE_P(
               Cfg(SC00_FILIALCFG, 5, "1, 1, 2", "'01.01.2019'", "NULL", "INFORMACAO2", "'5'"),
               Cfg(SC00_FILIALCFG, 7, "1, 1, 2", "'01.01.2020'", "NULL", "INFORMACAO2", "'7'")},
              [] {
-                 return Estabelecimento(*Carregar<TTarvoESocialCamposS1005>(1, 0, HOJE)).CnaePrep +
-                        Estabelecimento(*Carregar<TTarvoESocialCamposS1005>(0, 10, HOJE)).CnaePrep;
+                 return Estabelecimento(*Carregar<TTarvoESocialCamposS1005>(1, 0, NO_DIA)).CnaePrep +
+                        Estabelecimento(*Carregar<TTarvoESocialCamposS1005>(0, 10, NO_DIA)).CnaePrep;
              },
              "75"},
             {"AliquotaDoEstabelecimento", DoisNovosEUmVelho(SC00_FILIALCFG, "90, 51, 3"),
              [] {
-                 TTarvoESocialCamposAliqGilRat LGrupo(1, 0, HOJE);
+                 TTarvoESocialCamposAliqGilRat LGrupo(1, 0, NO_DIA);
                  // The engine refuses two rows where the process of the RAT is sought.
                  const TListaCamposModificados LSoEle{std::string(LGrupo.GuidClasse())};
                  LGrupo.CarregarDados(&LSoEle);
                  return LGrupo.AliqRat;
              }, "7"},
             {"RegimeDePontoDoEstabelecimento", DoisNovosEUmVelho(SC00_FILIALCFG, "90, 7, 1"),
-             [] { return Carregar<TTarvoESocialCamposInfoTrab>(1, 0, HOJE)->RegPt; }, "7"},
+             [] { return Carregar<TTarvoESocialCamposInfoTrab>(1, 0, NO_DIA)->RegPt; }, "7"},
             {"RegimeDePontoDoDepartamento", DoisNovosEUmVelho(SC00_DEPARTAMENTOCFG, "90, 7, 1"),
-             [] { return Carregar<TTarvoESocialCamposInfoTrab>(0, 10, HOJE)->RegPt; }, "7"},
+             [] { return Carregar<TTarvoESocialCamposInfoTrab>(0, 10, NO_DIA)->RegPt; }, "7"},
             {"Obra", DoisNovosEUmVelho(SC00_DEPARTAMENTOCFG, "90, 40, 1"),
-             [] { return Carregar<TTarvoESocialCamposInfoObra>(0, 10, HOJE)->IndSubstPatrObra; }, "7"},
+             [] { return Carregar<TTarvoESocialCamposInfoObra>(0, 10, NO_DIA)->IndSubstPatrObra; }, "7"},
             {"Caepf", DoisNovosEUmVelho(SC00_EMPRESACFG, "1, 1, 1"),
              [] {
-                 return Carregar<TTarvoESocialCamposInfoCaepf>(1, 0, HOJE)->tpCaepf +
-                        Carregar<TTarvoESocialCamposInfoCaepf>(0, 10, HOJE)->tpCaepf;
+                 return Carregar<TTarvoESocialCamposInfoCaepf>(1, 0, NO_DIA)->tpCaepf +
+                        Carregar<TTarvoESocialCamposInfoCaepf>(0, 10, NO_DIA)->tpCaepf;
              },
              "77"},
             {"CotaDeDeficientes", DoisNovosEUmVelho(SC00_EMPRESACFG, "90, 38, 14"),
-             [] { return Carregar<TTarvoESocialCamposInfoPCD>(1, 0, HOJE)->ContPCD; }, "7"},
+             [] { return Carregar<TTarvoESocialCamposInfoPCD>(1, 0, NO_DIA)->ContPCD; }, "7"},
             {"Aprendizes",
              {Cfg(SC00_FILIALCFG, 8, "90, 58, 1", "'01.01.2020'", "NULL", "INFORMACAO1", "'8'"),
               "FP_INFOGERALCFG (IDINFOGERALCFG, IDFILIALCFG, ORIGEM, ESPECIE, TP, INFORMACAO1) "
@@ -183,7 +183,7 @@ INSTANTIATE_TEST_SUITE_P(
               "FP_INFOGERALCFG (IDINFOGERALCFG, IDFILIALCFG, ORIGEM, ESPECIE, TP, INFORMACAO1) "
               "VALUES (1, 8, 90, 58, 1, '1')"},
              [] {
-                 const auto LGrupo = Carregar<TTarvoESocialCamposInfoApr>(1, 0, HOJE);
+                 const auto LGrupo = Carregar<TTarvoESocialCamposInfoApr>(1, 0, NO_DIA);
                  auto LTexto = LGrupo->contApr;
                  for (const auto& LItem : LGrupo->InfoEntEduc)
                      LTexto += " " + LItem->nrInsc;
@@ -195,7 +195,7 @@ INSTANTIATE_TEST_SUITE_P(
              ComProcesso({Cfg(SC00_FILIALCFG, 7, "90, 51, 3", "'01.01.2020'", "NULL", "INFORMACAO2", "'3'"),
                           Cfg(SC00_FILIALCFG, 8, "90, 51, 1", "'01.01.2020'", "NULL", "INFORMACAO2", "'3'")}),
              [] {
-                 const auto LGrupo = Carregar<TTarvoESocialCamposAliqGilRat>(1, 0, HOJE);
+                 const auto LGrupo = Carregar<TTarvoESocialCamposAliqGilRat>(1, 0, NO_DIA);
                  return LGrupo->ProcAdmJudRat.CodSusp + " " + LGrupo->ProcAdmJudFap.CodSusp;
              },
              "31 32"},
@@ -206,10 +206,10 @@ INSTANTIATE_TEST_SUITE_P(
                           "ES02_SPPROCDET (IDSPPROCDET, IDSPPROC, INDSUSPENSAO) VALUES (42, 4, '42')",
                           "ES02_SPPROCDET (IDSPPROCDET, IDSPPROC, INDSUSPENSAO) VALUES (41, 4, '41')"}),
              [] {
-                 const auto LDoDepto = Carregar<TTarvoESocialCamposProcAdmJudRat>(0, 10, HOJE)->CodSusp;
+                 const auto LDoDepto = Carregar<TTarvoESocialCamposProcAdmJudRat>(0, 10, NO_DIA)->CodSusp;
                  // Without a suspension of its own the department shows that of the establishment's process.
                  Executar("UPDATE ES02_SPPROCDET SET INDSUSPENSAO = NULL WHERE IDSPPROC = 3");
-                 return LDoDepto + " " + Carregar<TTarvoESocialCamposProcAdmJudRat>(0, 10, HOJE)->CodSusp;
+                 return LDoDepto + " " + Carregar<TTarvoESocialCamposProcAdmJudRat>(0, 10, NO_DIA)->CodSusp;
              },
              "31 41"},
             {"TipoDaLotacao",
@@ -217,7 +217,7 @@ INSTANTIATE_TEST_SUITE_P(
               "FP_ESOCIALTABELA (IDESOCIALTABELA, TABELA, CODIGO) VALUES (8, 10, '08')",
               "FP_ESOCIALTABELA (IDESOCIALTABELA, TABELA, CODIGO) VALUES (7, 10, '77')",
               Cfg(SC00_FILIALCFG, 7, "90, 50, 1", "'01.01.2020'", "NULL", "INFORMACAO1", "'7'")},
-             [] { return Carregar<TTarvoESocialCamposDadosLotacao>(1, 0, HOJE)->tpLotacao; }, "77"},
+             [] { return Carregar<TTarvoESocialCamposDadosLotacao>(1, 0, NO_DIA)->tpLotacao; }, "77"},
             // The row in force before a newer one that hasn't begun and one that has ended; the suspended entities are
             // those of the same row.
             {"FpasDoEstabelecimento",
@@ -244,13 +244,13 @@ INSTANTIATE_TEST_SUITE_P(
               "FP_ESOCIALTABELA (IDESOCIALTABELA, TABELA, CODIGO) VALUES (1, 3, '1001')",
               "FP_ESOCIALTABELA (IDESOCIALTABELA, TABELA, CODIGO) VALUES (2, 3, '1002')",
               "FP_RUBRICARELAC (IDRUBRICARELAC, IDVERBA, IDESOCIALTABELA, DATAINICIO) VALUES (8, 5, 2, '01.01.2020')"},
-             [] { return Carregar<TTarvoESocialCamposDadosRubrica>(5, 1, HOJE, 0, nullptr)->natRubr; }, "1002"},
+             [] { return Carregar<TTarvoESocialCamposDadosRubrica>(5, 1, NO_DIA, 0, nullptr)->natRubr; }, "1002"},
             {"ProcessosDaRubrica",
              ComProcesso({"FP_VERBAPROCESSO (IDVERBAPROCESSO, IDVERBA, IDSPPROC, EXTENSAODECISAO) VALUES (2, 5, 3, 2)",
                           "FP_VERBAPROCESSO (IDVERBAPROCESSO, IDVERBA, IDSPPROC, EXTENSAODECISAO) VALUES (1, 5, 3, 1)"}),
              [] {
                  Executar("UPDATE ES02_SPPROC SET DATAABERTURA = '01.01.2020', INDMATERIATPTRIB = 15");
-                 const auto LGrupo = Carregar<TTarvoESocialCamposDadosRubrica>(5, 1, HOJE, 0, nullptr);
+                 const auto LGrupo = Carregar<TTarvoESocialCamposDadosRubrica>(5, 1, NO_DIA, 0, nullptr);
                  return LGrupo->IdeProcessoCP.CodSusp + " " + LGrupo->IdeProcessoCP.ExtDecisao + " " +
                         LGrupo->IdeProcessoIRRF.CodSusp;
              },
@@ -283,7 +283,7 @@ INSTANTIATE_TEST_SUITE_P(
               "FP_ESOCIALTABELA (IDESOCIALTABELA, TABELA, CODIGO) VALUES (1, 1, '101')",
               "CARGOS (IDCARGOS, IDEMPREGADO, DATA, OCORRENCIA) VALUES (2, 1, '01.01.2020', '2')",
               "CARGOS (IDCARGOS, IDEMPREGADO, DATA, OCORRENCIA) VALUES (1, 1, '01.01.2019', '0')"},
-             [] { return TTarvoConsultasGeral::BuscarTexto(SqlExposicao("CARGOS.OCORRENCIA", 1, HOJE)); }, "2"},
+             [] { return TTarvoConsultasGeral::BuscarTexto(SqlExposicao("CARGOS.OCORRENCIA", 1, NO_DIA)); }, "2"},
             {"OperadorasEPlanosDeSaude",
              {"TAB_VERBAS (IDVERBA) VALUES (5)", "PSAUDE_OPER (IDPSAUDE_OPER, CNPJ, TIPO) VALUES (2, '1', 1)",
               "PSAUDE_OPER (IDPSAUDE_OPER, CNPJ, TIPO) VALUES (1, '2', 1)",
@@ -298,7 +298,7 @@ INSTANTIATE_TEST_SUITE_P(
               "VALUES (7, 1, 1, '01.01.2020')"},
              [] {
                  return Ids(SqlOperadorasDaVerba(5, TOperadorasDaVerba::SemTipo2)) +
-                        Ids(SqlPlanosDosDependentes("= 1", HOJE, HOJE, 1));
+                        Ids(SqlPlanosDosDependentes("= 1", NO_DIA, NO_DIA, 1));
              },
              "1 2 7 8 9 "},
             {"FeriasComplementares",
@@ -311,7 +311,7 @@ INSTANTIATE_TEST_SUITE_P(
               "TAB_VERBAS (IDVERBA, CODIGO, FORMULA) VALUES (7, 2, '1A')",
               "CALCCOMPLDET (IDCALCCOMPLDET, IDCALCCOMPLPER, COD_EMPREGADO, COD_VERBA) VALUES (2, 1, 1, 1)",
               "CALCCOMPLDET (IDCALCCOMPLDET, IDCALCCOMPLPER, COD_EMPREGADO, COD_VERBA) VALUES (1, 1, 1, 2)"},
-             [] { return Ids(SqlFeriasComplementares(1, "01", HOJE, HOJE)); }, "7 5 6 "},
+             [] { return Ids(SqlFeriasComplementares(1, "01", NO_DIA, NO_DIA)); }, "7 5 6 "},
         }),
         ::testing::Bool()),
     NomeDoCasoDeOrdem);

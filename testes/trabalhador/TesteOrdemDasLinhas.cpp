@@ -81,7 +81,7 @@ std::string Excluido()
     return LInfo.nrRecEvt + "/" + LInfo.ideTrabalhador.cpfTrab + "/" + LInfo.ideTrabalhador.nisTrab;
 }
 
-const TCasoDeOrdem CASOS[] = {
+const TCasoDasLinhas CASOS[] = {
     {"fonesEEmails",
      "FP_EMPREGADOSCONTATO (IDEMPREGADOSCONTATO, IDEMPREGADO, TIPOCONTATO, CONTATO)",
      {"1, 7, 2, '11'", "2, 7, 4, 'a@a'", "3, 7, 1, '33'", "4, 7, 1, '44'", "5, 7, 4, 'b@b'"},

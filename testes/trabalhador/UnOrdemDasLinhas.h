@@ -11,7 +11,7 @@
 namespace tarvo::testes {
 
 /// Rows of which a result shows the first one or the order. They are inserted as they stand, and the other way round.
-struct TCasoDeOrdem {
+struct TCasoDasLinhas {
     const char* Rotulo;
     /// Table and columns, then the values of each row.
     const char* Tabela;
@@ -22,9 +22,9 @@ struct TCasoDeOrdem {
     std::vector<const char*> Base = {};
 };
 
-inline void PrintTo(const TCasoDeOrdem& ACaso, std::ostream* ASaida) { *ASaida << ACaso.Rotulo; }
+inline void PrintTo(const TCasoDasLinhas& ACaso, std::ostream* ASaida) { *ASaida << ACaso.Rotulo; }
 
-using TParametroDeOrdem = std::tuple<TCasoDeOrdem, bool>;
+using TParametroDeOrdem = std::tuple<TCasoDasLinhas, bool>;
 
 inline void ConferirOrdem(const TParametroDeOrdem& AParametro)
 {
