@@ -27,7 +27,7 @@ tabelas::TCodigosIncidenciaVerba BuscarCodigosDaVerbaRpa(std::int64_t AIdRpaTpVa
   FP_ESOCIALTABELACS.CODIGO CODINCCS
 %1:s
 WHERE FP_RUBRICARELACRPA.IDRPATPVALOR = %0:d
-ORDER BY FP_RUBRICARELACRPA.IDRUBRICARELACRPA)";
+ORDER BY FP_RUBRICARELACRPA.IDRUBRICARELACRPA + 0)";
     const auto LCds =
         TTarvoConsultasGeral::BuscarRegistrosSomenteLeitura(Format(SQL, AIdRpaTpValor, tabelas::ORIGEM_DA_RUBRICA_RPA));
     const auto Codigo = [&](std::string_view AColuna) {

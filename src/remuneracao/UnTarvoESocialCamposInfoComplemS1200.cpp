@@ -32,7 +32,7 @@ std::string TTarvoESocialCamposInfoComplemS1200::BuscarSQLDados()
   0 AS TIPOVINCULO
 FROM PREST_SERVICO
 WHERE PREST_SERVICO.CPF = '%0:S'
-ORDER BY PREST_SERVICO.IDPRESTSERVICO)";
+ORDER BY PREST_SERVICO.IDPRESTSERVICO + 0)";
     return Format(SQL, TTarvoUtilsStrings::RemoverCaracteresEspeciais(FInfoBind.Cpf()));
 }
 

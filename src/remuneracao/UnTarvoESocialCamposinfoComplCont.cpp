@@ -31,7 +31,7 @@ std::string TTarvoESocialCamposinfoComplCont::BuscarSQLDados()
     static constexpr std::string_view SQL = R"(SELECT PREST_SERVICO.CBO, PREST_SERVICO.NATATIVIDADE
 FROM PREST_SERVICO
 WHERE PREST_SERVICO.CPF = '%0:S'
-ORDER BY PREST_SERVICO.IDPRESTSERVICO)";
+ORDER BY PREST_SERVICO.IDPRESTSERVICO + 0)";
     return Format(SQL, TTarvoUtilsStrings::RemoverCaracteresEspeciais(FInfoBind.Cpf()));
 }
 

@@ -47,7 +47,7 @@ WHERE ES02_CLIFOR.PRODUTOR = 1
   AND ES02_CLIFOR.CNPJ = %0:s
   AND ES02_SPPROC.IDFILIAL = %1:d
   AND ES02_SPPROC.DATAABERTURA <= %2:s
-ORDER BY ES02_SPPROC.IDSPPROC)";
+ORDER BY ES02_SPPROC.IDSPPROC + 0)";
     LevarRetencaoAosProcessos(*TTarvoConsultasGeral::BuscarRegistros(
         Format(SQL, Cpf(), Compras().IdFilial, FormatarDataDB(Compras().DataFim, true))));
 }

@@ -70,7 +70,7 @@ WHERE ES02_CLIFOR.PRODUTOR = 1
   AND ES02_CLIFOR.CNPJ = %0:s
   AND ES02_ENTRADA.IDFILIAL = %1:d
   AND ES02_ENTRADA.DATAENTRADA BETWEEN %2:s AND %3:s
-ORDER BY CO01_PLANO.IDPLANO)";
+ORDER BY CO01_PLANO.IDPLANO + 0)";
     const auto LPlano = BuscarRegistrosBrenco(Format(SQL, QuotedStr(Cpf()), Compras().IdFilial,
                                                      FormatarDataDB(Compras().DataInicio, true),
                                                      FormatarDataDB(Compras().DataFim, true)));

@@ -37,7 +37,7 @@ JOIN SC00_FILIAL ON (SC00_FILIAL.IDFILIAL = ES02_SPPROC.IDFILIAL)
 WHERE SC00_FILIAL.CNPJ = %0:s
   AND ES02_SPPROC.TPIMPETRANTE = 5
   AND ES02_SPPROC.DATAABERTURA <= %1:s
-ORDER BY ES02_SPPROC.IDSPPROC)";
+ORDER BY ES02_SPPROC.IDSPPROC + 0)";
     if (const auto LFilial = BuscarRegistrosBrenco(Format(SQL_FILIAL, Compras().IdFilial)))
         AbrirProcessosAdquirente(
             Format(SQL, QuotedStr(LFilial->FieldByName("CNPJ").AsString()), FormatarDataDB(Compras().DataFim, true)));

@@ -409,7 +409,7 @@ void TTarvoESocialCamposBuscaIncidVerbas::AtualizarIncidVerba()
 void TTarvoESocialCamposBuscaIncidVerbas::EfetuarCargaInicial(const TAcompanhamento& AAcompanhamento)
 {
     const auto LCds = TTarvoConsultasGeral::BuscarRegistrosSomenteLeitura(
-        "SELECT TAB_VERBAS.IDVERBA FROM TAB_VERBAS ORDER BY TAB_VERBAS.IDVERBA");
+        "SELECT TAB_VERBAS.IDVERBA FROM TAB_VERBAS ORDER BY TAB_VERBAS.IDVERBA + 0");
     for (std::size_t LFeitas = 1; !LCds->Eof(); LCds->Next(), ++LFeitas) {
         // An instance of its own: its status is not this one's, which stays success; meant.
         TTarvoESocialCamposBuscaIncidVerbas LBusca(LCds->FieldByName("IDVERBA").AsLargeInt());

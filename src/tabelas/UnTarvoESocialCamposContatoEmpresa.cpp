@@ -30,7 +30,7 @@ std::string TTarvoESocialCamposContatoEmpresa::BuscarSQLDados()
 FROM CA06_CFG
 WHERE CA06_CFG.ORIGEM = 97
   AND CA06_CFG.TP = 2
-ORDER BY CA06_CFG.IDCFG)";
+ORDER BY CA06_CFG.IDCFG + 0)";
 }
 
 void TTarvoESocialCamposContatoEmpresa::ReverterDados() { TTarvoESocialCamposGrupoBase::ReverterDados(); }

@@ -47,7 +47,7 @@ void TTarvoESocialCamposDadosProc::CarregarInfoSusp(const TListaCamposModificado
     static constexpr std::string_view SQL = R"(SELECT ES02_SPPROCDET.IDSPPROCDET
 FROM ES02_SPPROCDET
 WHERE ES02_SPPROCDET.IDSPPROC = %0:D
-ORDER BY ES02_SPPROCDET.IDSPPROCDET)";
+ORDER BY ES02_SPPROCDET.IDSPPROCDET + 0)";
     AcrescentarUmPorLinha(InfoSusp, TTarvoConsultasGeral::BuscarRegistrosSomenteLeitura(Format(SQL, FIdProcesso)),
                           "IDSPPROCDET", AListaCamposModificados);
 }

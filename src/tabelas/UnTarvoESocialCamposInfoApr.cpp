@@ -55,7 +55,7 @@ WHERE FP_INFOGERALCFG.ORIGEM = 90
   AND FP_INFOGERALCFG.ESPECIE = 58
   AND FP_INFOGERALCFG.TP = 1
   AND FP_INFOGERALCFG.%0:s = (%1:s)
-ORDER BY FP_INFOGERALCFG.IDINFOGERALCFG)";
+ORDER BY FP_INFOGERALCFG.IDINFOGERALCFG + 0)";
     const auto LCfg = FLugar.Cfg();
     // The row still counts on the day of its DATAFIM, unlike in the group's own statement; meant. On the day on which
     // one row follows another the newer one is taken.

@@ -27,7 +27,7 @@ ORDER BY SQL_DEPTO.IDSPPROCDET, SQL_FILIAL.IDSPPROCDET)";
     static constexpr std::string_view DETALHE = "ES02_SPPROCDET.IDSPPROCDET,";
     const auto LDoEstab = SqlCfgDoEstab("SC00_FILIALCFG.INFORMACAO2", FLugar, RAT, FData);
     if (!FLugar.EhDepto)
-        return SqlProcesso("", LDoEstab) + "\nORDER BY ES02_SPPROCDET.IDSPPROCDET";
+        return SqlProcesso("", LDoEstab) + "\nORDER BY ES02_SPPROCDET.IDSPPROCDET + 0";
     return Format(SQL_DEPTO, SqlProcesso(DETALHE, LDoEstab),
                   SqlProcesso(DETALHE, SqlCfgDoDono("SC00_DEPARTAMENTOCFG.INFORMACAO2", SC00_DEPARTAMENTOCFG, FLugar.Id,
                                                     RAT, FData)));
