@@ -1,7 +1,5 @@
 #include "ferramenta/UnCarga.h"
 
-#include <CLI/CLI.hpp>
-
 #include <iostream>
 
 #include "ferramenta/UnLinhaDeComando.h"
@@ -11,18 +9,14 @@
 
 namespace tarvo::ferramenta {
 
-void AdicionarOpcoesDaCarga(CLI::App& AComando, TOpcoesDaCarga& AOpcoes)
+void AdicionarOpcoesDaCarga(TComando& AComando, TOpcoesDaCarga& AOpcoes)
 {
-    AComando.add_option("--grupos", AOpcoes.Grupos, "carrega só os grupos com estes GUIDs; vazio carrega todos")
-        ->ignore_case()
-        ->check(&ConferirTexto)
-        ->type_name("GUID[,GUID...]");
-    AComando
-        .add_option("--sem-grupo", AOpcoes.SemGrupo,
-                    "não carrega o grupo deste caminho (ex.: InfoEmpregador.infoCadastro); pode repetir")
-        ->ignore_case()
-        ->type_name("CAMINHO")
-        ->allow_extra_args(false);
+    AComando.Opcoes.insert(
+        AComando.Opcoes.end(),
+        {{"--grupos", &AOpcoes.Grupos, "carrega só os grupos com estes GUIDs; vazio carrega todos", "GUID[,GUID...]",
+          TTextoAceito::Texto},
+         {"--sem-grupo", &AOpcoes.SemGrupo,
+          "não carrega o grupo deste caminho (ex.: InfoEmpregador.infoCadastro); pode repetir", "CAMINHO"}});
 }
 
 TEventoConstruido Carregar(const std::string& AEvento, const std::map<std::string, std::string>& AArgumentos,

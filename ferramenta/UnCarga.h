@@ -5,11 +5,9 @@
 
 #include "catalogo/UnTarvoESocialCamposCatalogo.h"
 
-namespace CLI {
-class App;
-}
-
 namespace tarvo::ferramenta {
+
+struct TComando;
 
 /// The options that say what of an event is loaded.
 struct TOpcoesDaCarga {
@@ -19,7 +17,7 @@ struct TOpcoesDaCarga {
     std::vector<std::string> SemGrupo;
 };
 
-void AdicionarOpcoesDaCarga(CLI::App& AComando, TOpcoesDaCarga& AOpcoes);
+void AdicionarOpcoesDaCarga(TComando& AComando, TOpcoesDaCarga& AOpcoes);
 
 /// Constructs an event, switches its groups off and loads it. EArgumentoInvalido and ECaminhoInvalido for what the
 /// caller gave wrongly; every other failure is the load's.

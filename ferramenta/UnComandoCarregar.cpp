@@ -1,5 +1,3 @@
-#include <CLI/CLI.hpp>
-
 #include <memory>
 
 #include "ferramenta/UnCarga.h"
@@ -21,10 +19,10 @@ struct TOpcoes {
 
 int CarregarEMostrar(const TOpcoes& AOpcoes)
 {
-    const auto LCodigo = AOpcoes.Evento.Codigo();
-    const auto LArgumentos = AOpcoes.Evento.Argumentos();
+    const auto& LCodigo = AOpcoes.Evento.Codigo();
+    const auto& LArgumentos = AOpcoes.Evento.Argumentos;
     // A wrong argument is told before the database is asked for.
-    TArgumentosDeEvento(BuscarEventoDoCatalogo(LCodigo).Argumentos, LArgumentos);
+    static_cast<void>(TArgumentosDeEvento(BuscarEventoDoCatalogo(LCodigo).Argumentos, LArgumentos));
     TContexto LContexto(AOpcoes.Contexto);
     LContexto.IniciarInstantaneo();
     const auto LEvento = Carregar(LCodigo, LArgumentos, AOpcoes.Carga);
@@ -36,16 +34,17 @@ int CarregarEMostrar(const TOpcoes& AOpcoes)
 
 } // namespace
 
-void RegistrarCarregar(CLI::App& AApp, TComandos& AComandos)
+TComando ComandoCarregar()
 {
-    auto LOpcoes = std::make_shared<TOpcoes>();
-    auto& LApp = AdicionarComando(AApp, AComandos, "carregar", "carrega um evento e mostra o seu JSON",
-                                  "esocial-campos carregar EVENTO --banco LIGACAO --ARGUMENTO VALOR ...");
-    AdicionarOpcoesDoContexto(LApp, LOpcoes->Contexto);
-    AdicionarOpcoesDaCarga(LApp, LOpcoes->Carga);
-    AdicionarChave(LApp, "--compacto", LOpcoes->Compacto, "mostra o JSON em uma linha");
-    AdicionarEventos(LApp, LOpcoes->Evento);
-    AComandos.back().Executar = [LOpcoes] { return CarregarEMostrar(*LOpcoes); };
+    const auto LOpcoes = std::make_shared<TOpcoes>();
+    TComando LComando{"carregar", "carrega um evento e mostra o seu JSON",
+                      "esocial-campos carregar EVENTO --banco LIGACAO --ARGUMENTO VALOR ..."};
+    AdicionarOpcoesDoContexto(LComando, LOpcoes->Contexto);
+    AdicionarOpcoesDaCarga(LComando, LOpcoes->Carga);
+    LComando.Opcoes.push_back({"--compacto", &LOpcoes->Compacto, "mostra o JSON em uma linha"});
+    AdicionarEventos(LComando, LOpcoes->Evento);
+    LComando.Executar = [LOpcoes] { return CarregarEMostrar(*LOpcoes); };
+    return LComando;
 }
 
 } // namespace tarvo::ferramenta

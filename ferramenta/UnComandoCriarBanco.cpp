@@ -1,5 +1,3 @@
-#include <CLI/CLI.hpp>
-
 #include <iostream>
 #include <memory>
 
@@ -45,15 +43,15 @@ int CriarBanco(const TOpcoes& AOpcoes)
 
 } // namespace
 
-void RegistrarCriarBanco(CLI::App& AApp, TComandos& AComandos)
+TComando ComandoCriarBanco()
 {
-    auto LOpcoes = std::make_shared<TOpcoes>();
-    auto& LApp = AdicionarComando(AApp, AComandos, "criar-banco",
-                                  "cria um banco da folha novo, vazio ou com a empresa de exemplo",
-                                  "esocial-campos criar-banco --banco ARQUIVO [--exemplo]");
-    AdicionarOpcoesDeLigacao(LApp, LOpcoes->Ligacao);
-    AdicionarChave(LApp, "--exemplo", LOpcoes->Exemplo, "põe nele a empresa de exemplo");
-    AComandos.back().Executar = [LOpcoes] { return CriarBanco(*LOpcoes); };
+    const auto LOpcoes = std::make_shared<TOpcoes>();
+    TComando LComando{"criar-banco", "cria um banco da folha novo, vazio ou com a empresa de exemplo",
+                      "esocial-campos criar-banco --banco ARQUIVO [--exemplo]"};
+    AdicionarOpcoesDeLigacao(LComando, LOpcoes->Ligacao);
+    LComando.Opcoes.push_back({"--exemplo", &LOpcoes->Exemplo, "põe nele a empresa de exemplo"});
+    LComando.Executar = [LOpcoes] { return CriarBanco(*LOpcoes); };
+    return LComando;
 }
 
 } // namespace tarvo::ferramenta

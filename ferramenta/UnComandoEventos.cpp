@@ -1,5 +1,3 @@
-#include <CLI/CLI.hpp>
-
 #include <memory>
 
 #include "catalogo/UnTarvoESocialCamposReferencia.h"
@@ -60,18 +58,20 @@ std::string Mostrar(const TOpcoes& AOpcoes)
 
 } // namespace
 
-void RegistrarEventos(CLI::App& AApp, TComandos& AComandos)
+TComando ComandoEventos()
 {
-    auto LOpcoes = std::make_shared<TOpcoes>();
-    auto& LApp = AdicionarComando(AApp, AComandos, "eventos", "mostra os eventos, os seus argumentos e os seus campos",
-                                  "esocial-campos eventos [EVENTO] [--markdown|--esquema]");
-    LApp.add_option("EVENTO", LOpcoes->Evento, "um evento só, com cada argumento e cada campo")->type_name("");
-    AdicionarChave(LApp, "--markdown", LOpcoes->Markdown, "mostra a página do evento, ou o índice das páginas");
-    AdicionarChave(LApp, "--esquema", LOpcoes->Esquema, "mostra o esquema JSON (draft 4) do evento");
-    AComandos.back().Executar = [LOpcoes] {
+    const auto LOpcoes = std::make_shared<TOpcoes>();
+    TComando LComando{"eventos",
+                      "mostra os eventos, os seus argumentos e os seus campos",
+                      "esocial-campos eventos [EVENTO] [--markdown|--esquema]",
+                      {{"EVENTO", &LOpcoes->Evento, "um evento só, com cada argumento e cada campo"},
+                       {"--markdown", &LOpcoes->Markdown, "mostra a página do evento, ou o índice das páginas"},
+                       {"--esquema", &LOpcoes->Esquema, "mostra o esquema JSON (draft 4) do evento"}}};
+    LComando.Executar = [LOpcoes] {
         EscreverResultado(Mostrar(*LOpcoes));
         return SAIDA_FEITO;
     };
+    return LComando;
 }
 
 } // namespace tarvo::ferramenta

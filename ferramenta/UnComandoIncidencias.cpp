@@ -1,10 +1,10 @@
-#include <CLI/CLI.hpp>
 #include <rapidjson/stringbuffer.h>
 #include <rapidjson/writer.h>
 #include <unistd.h>
 
 #include <array>
 #include <memory>
+#include <optional>
 
 #include "ferramenta/UnBarraDeProgresso.h"
 #include "ferramenta/UnCarga.h"
@@ -28,9 +28,9 @@ constexpr std::array<const char*, 4> TRIBUTOS{"--inss", "--irrf", "--fgts", "--c
 
 struct TOpcoes {
     TOpcoesDoContexto Contexto;
-    std::string Verba;
-    std::array<std::string, 4> Tipos;
-    std::string Atualizar;
+    std::optional<std::string> Verba;
+    std::array<std::optional<std::string>, 4> Tipos;
+    std::optional<std::string> Atualizar;
     bool CargaInicial = false;
 };
 
@@ -94,33 +94,34 @@ int EfetuarCargaInicial()
 {
     int LSaida = SAIDA_FEITO;
     TBarraDeProgresso LBarra(STDERR_FILENO, "Incidências");
-    TTarvoESocialCamposBuscaIncidVerbas::EfetuarCargaInicialIncidencias(
+    // It always answers with success; what failed is told here.
+    static_cast<void>(TTarvoESocialCamposBuscaIncidVerbas::EfetuarCargaInicialIncidencias(
         [&](std::int64_t AIdVerba, const TResultStatus& AStatus, std::size_t AFeitas, std::size_t ATotal) {
             LBarra.Avancar(AFeitas, ATotal);
             if (AStatus.Sucesso)
                 return;
             LSaida = SAIDA_FALHA;
             LBarra.EscreverLinha("Verba " + std::to_string(AIdVerba) + ": " + AStatus.Mensagem);
-        });
+        }));
     return LSaida;
 }
 
-int Executar(const CLI::App& AApp, const TOpcoes& AOpcoes)
+int Executar(const TOpcoes& AOpcoes)
 {
-    const bool LMostrar = AApp.count("--verba") > 0;
-    const bool LAtualizar = AApp.count("--atualizar") > 0;
+    const bool LMostrar = AOpcoes.Verba.has_value();
+    const bool LAtualizar = AOpcoes.Atualizar.has_value();
     if (int{LMostrar} + int{LAtualizar} + int{AOpcoes.CargaInicial} != 1)
         throw EUsoErrado("Informe um de --verba, --atualizar e --carga-inicial");
     std::array<TTipoRetornoIncidVerbas, 4> LTipos{};
     for (std::size_t i = 0; i < TRIBUTOS.size(); ++i) {
-        if (AApp.count(TRIBUTOS[i]) == 0)
+        if (!AOpcoes.Tipos[i])
             continue;
         if (!LMostrar)
             throw EUsoErrado(std::string(TRIBUTOS[i]) + " só vai com --verba");
-        LTipos[i] = LerTipo(TRIBUTOS[i], AOpcoes.Tipos[i]);
+        LTipos[i] = LerTipo(TRIBUTOS[i], *AOpcoes.Tipos[i]);
     }
-    const auto LIdVerba = LMostrar     ? LerVerba("--verba", AOpcoes.Verba)
-                          : LAtualizar ? LerVerba("--atualizar", AOpcoes.Atualizar)
+    const auto LIdVerba = LMostrar     ? LerVerba("--verba", *AOpcoes.Verba)
+                          : LAtualizar ? LerVerba("--atualizar", *AOpcoes.Atualizar)
                                        : 0;
     TContexto LContexto(AOpcoes.Contexto);
     const int LSaida = LMostrar ? Mostrar(LIdVerba, LTipos) : LAtualizar ? Atualizar(LIdVerba) : EfetuarCargaInicial();
@@ -130,28 +131,24 @@ int Executar(const CLI::App& AApp, const TOpcoes& AOpcoes)
 
 } // namespace
 
-void RegistrarIncidencias(CLI::App& AApp, TComandos& AComandos)
+TComando ComandoIncidencias()
 {
-    auto LOpcoes = std::make_shared<TOpcoes>();
-    auto& LApp = AdicionarComando(
-        AApp, AComandos, "incidencias", "mostra as incidências de uma verba ou grava as de uma ou de todas",
-        "esocial-campos incidencias --banco LIGACAO --verba ID [--inss K] [--irrf K] [--fgts K] "
-        "[--cs K] | --atualizar ID | --carga-inicial");
-    AdicionarOpcoesDoContexto(LApp, LOpcoes->Contexto);
-    LApp.add_option("--verba", LOpcoes->Verba, "mostra os códigos de incidência desta verba")
-        ->ignore_case()
-        ->type_name("ID");
+    const auto LOpcoes = std::make_shared<TOpcoes>();
+    TComando LComando{"incidencias", "mostra as incidências de uma verba ou grava as de uma ou de todas",
+                      "esocial-campos incidencias --banco LIGACAO --verba ID [--inss K] [--irrf K] [--fgts K] "
+                      "[--cs K] | --atualizar ID | --carga-inicial"};
+    AdicionarOpcoesDoContexto(LComando, LOpcoes->Contexto);
+    LComando.Opcoes.push_back({"--verba", &LOpcoes->Verba, "mostra os códigos de incidência desta verba", "ID"});
     constexpr std::array DESCRICOES{"previdência social", "imposto de renda", "FGTS", "contribuição sindical"};
     for (std::size_t i = 0; i < TRIBUTOS.size(); ++i)
-        LApp.add_option(TRIBUTOS[i], LOpcoes->Tipos[i],
-                        std::string("códigos pedidos para ") + DESCRICOES[i] + ": 0 todos, 1 normal, 2 RRA, 3 processo")
-            ->ignore_case()
-            ->type_name("K");
-    LApp.add_option("--atualizar", LOpcoes->Atualizar, "grava de novo os códigos desta verba")
-        ->ignore_case()
-        ->type_name("ID");
-    AdicionarChave(LApp, "--carga-inicial", LOpcoes->CargaInicial, "grava de novo os códigos de todas as verbas");
-    AComandos.back().Executar = [LOpcoes, &LApp] { return Executar(LApp, *LOpcoes); };
+        LComando.Opcoes.push_back(
+            {TRIBUTOS[i], &LOpcoes->Tipos[i],
+             std::string("códigos pedidos para ") + DESCRICOES[i] + ": 0 todos, 1 normal, 2 RRA, 3 processo", "K"});
+    LComando.Opcoes.push_back({"--atualizar", &LOpcoes->Atualizar, "grava de novo os códigos desta verba", "ID"});
+    LComando.Opcoes.push_back(
+        {"--carga-inicial", &LOpcoes->CargaInicial, "grava de novo os códigos de todas as verbas"});
+    LComando.Executar = [LOpcoes] { return Executar(*LOpcoes); };
+    return LComando;
 }
 
 } // namespace tarvo::ferramenta

@@ -1,4 +1,3 @@
-#include <CLI/CLI.hpp>
 #include <unistd.h>
 
 #include <memory>
@@ -64,9 +63,10 @@ bool CarregarChave(TContexto& AContexto, const std::string& ACodigo, const TChav
 
 int CarregarLote(const TOpcoes& AOpcoes)
 {
-    const auto LCodigo = AOpcoes.Evento.Codigo();
-    const auto LArgumentos = AOpcoes.Evento.Argumentos();
-    TArgumentosDeEvento(BuscarEventoDoCatalogo(LCodigo).Lote->Argumentos, LArgumentos);
+    const auto& LCodigo = AOpcoes.Evento.Codigo();
+    const auto& LArgumentos = AOpcoes.Evento.Argumentos;
+    // A wrong argument is told before the database is asked for.
+    static_cast<void>(TArgumentosDeEvento(BuscarEventoDoCatalogo(LCodigo).Lote->Argumentos, LArgumentos));
     const auto LParte = AOpcoes.Parte.empty() ? TParte() : LerParte(AOpcoes.Parte);
     TContexto LContexto(AOpcoes.Contexto);
     const auto LChaves = BuscarChavesDoLote(LCodigo, LArgumentos);
@@ -92,24 +92,22 @@ int CarregarLote(const TOpcoes& AOpcoes)
 
 } // namespace
 
-void RegistrarLote(CLI::App& AApp, TComandos& AComandos)
+TComando ComandoLote()
 {
-    auto LOpcoes = std::make_shared<TOpcoes>();
-    auto& LApp = AdicionarComando(AApp, AComandos, "lote",
-                                  "carrega um evento para toda a empresa, uma linha JSON por trabalhador ou chave",
-                                  "esocial-campos lote EVENTO --banco LIGACAO --ARGUMENTO VALOR ... [--parte K/N]");
-    AdicionarOpcoesDoContexto(LApp, LOpcoes->Contexto);
-    AdicionarOpcoesDaCarga(LApp, LOpcoes->Carga);
-    LApp.add_option("--parte", LOpcoes->Parte, "carrega só cada N-ésima chave, a partir da K-ésima")
-        ->ignore_case()
-        ->check(&ConferirValor)
-        ->type_name("K/N");
+    const auto LOpcoes = std::make_shared<TOpcoes>();
+    TComando LComando{"lote", "carrega um evento para toda a empresa, uma linha JSON por trabalhador ou chave",
+                      "esocial-campos lote EVENTO --banco LIGACAO --ARGUMENTO VALOR ... [--parte K/N]"};
+    AdicionarOpcoesDoContexto(LComando, LOpcoes->Contexto);
+    AdicionarOpcoesDaCarga(LComando, LOpcoes->Carga);
+    LComando.Opcoes.push_back({"--parte", &LOpcoes->Parte, "carrega só cada N-ésima chave, a partir da K-ésima", "K/N",
+                               TTextoAceito::NaoVazio});
     AdicionarEventos(
-        LApp, LOpcoes->Evento, [](const TEventoDoCatalogo& AEvento) { return AEvento.Lote.has_value(); },
+        LComando, LOpcoes->Evento, [](const TEventoDoCatalogo& AEvento) { return AEvento.Lote.has_value(); },
         [](const TEventoDoCatalogo& AEvento) -> const std::vector<TArgumentoDeEvento>& {
             return AEvento.Lote->Argumentos;
         });
-    AComandos.back().Executar = [LOpcoes] { return CarregarLote(*LOpcoes); };
+    LComando.Executar = [LOpcoes] { return CarregarLote(*LOpcoes); };
+    return LComando;
 }
 
 } // namespace tarvo::ferramenta

@@ -1,5 +1,3 @@
-#include <CLI/CLI.hpp>
-
 #include <iostream>
 #include <memory>
 
@@ -50,9 +48,10 @@ int ExecutarComandos(TOvraConnection& AConexao, const std::vector<std::string>& 
 
 int Reverter(const TOpcoes& AOpcoes)
 {
-    const auto LCodigo = AOpcoes.Evento.Codigo();
-    const auto LArgumentos = AOpcoes.Evento.Argumentos();
-    TArgumentosDeEvento(BuscarEventoDoCatalogo(LCodigo).Argumentos, LArgumentos);
+    const auto& LCodigo = AOpcoes.Evento.Codigo();
+    const auto& LArgumentos = AOpcoes.Evento.Argumentos;
+    // A wrong argument is told before the database is asked for.
+    static_cast<void>(TArgumentosDeEvento(BuscarEventoDoCatalogo(LCodigo).Argumentos, LArgumentos));
     TContexto LContexto(AOpcoes.Contexto);
     LContexto.IniciarInstantaneo();
     const auto LEvento = Carregar(LCodigo, LArgumentos, AOpcoes.Carga);
@@ -72,23 +71,21 @@ int Reverter(const TOpcoes& AOpcoes)
 
 } // namespace
 
-void RegistrarReverter(CLI::App& AApp, TComandos& AComandos)
+TComando ComandoReverter()
 {
-    auto LOpcoes = std::make_shared<TOpcoes>();
-    auto& LApp = AdicionarComando(AApp, AComandos, "reverter",
-                                  "mostra os comandos que gravam no banco os valores corrigidos de um evento",
-                                  "esocial-campos reverter S-1000|S-1030 --banco LIGACAO --ARGUMENTO VALOR ... "
-                                  "[--definir CAMINHO=VALOR]... [--executar]");
-    AdicionarOpcoesDoContexto(LApp, LOpcoes->Contexto);
-    AdicionarOpcoesDaCarga(LApp, LOpcoes->Carga);
-    LApp.add_option("--definir", LOpcoes->Definir, "corrige uma propriedade depois da carga; pode repetir")
-        ->ignore_case()
-        ->type_name("CAMINHO=VALOR")
-        ->allow_extra_args(false);
-    AdicionarChave(LApp, "--executar", LOpcoes->Executar, "executa os comandos, todos ou nenhum");
-    AdicionarEventos(LApp, LOpcoes->Evento,
+    const auto LOpcoes = std::make_shared<TOpcoes>();
+    TComando LComando{"reverter", "mostra os comandos que gravam no banco os valores corrigidos de um evento",
+                      "esocial-campos reverter S-1000|S-1030 --banco LIGACAO --ARGUMENTO VALOR ... "
+                      "[--definir CAMINHO=VALOR]... [--executar]"};
+    AdicionarOpcoesDoContexto(LComando, LOpcoes->Contexto);
+    AdicionarOpcoesDaCarga(LComando, LOpcoes->Carga);
+    LComando.Opcoes.push_back(
+        {"--definir", &LOpcoes->Definir, "corrige uma propriedade depois da carga; pode repetir", "CAMINHO=VALOR"});
+    LComando.Opcoes.push_back({"--executar", &LOpcoes->Executar, "executa os comandos, todos ou nenhum"});
+    AdicionarEventos(LComando, LOpcoes->Evento,
                      [](const TEventoDoCatalogo& AEvento) { return AEvento.Construir.TemReversao(); });
-    AComandos.back().Executar = [LOpcoes] { return Reverter(*LOpcoes); };
+    LComando.Executar = [LOpcoes] { return Reverter(*LOpcoes); };
+    return LComando;
 }
 
 } // namespace tarvo::ferramenta

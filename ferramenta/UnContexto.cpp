@@ -1,6 +1,5 @@
 #include "ferramenta/UnContexto.h"
 
-#include <CLI/CLI.hpp>
 #include <rapidjson/stringbuffer.h>
 #include <rapidjson/writer.h>
 
@@ -54,41 +53,29 @@ void ConferirArquivoDoRastro(const TOpcoesDoContexto& AOpcoes)
 
 } // namespace
 
-void AdicionarOpcoesDeLigacao(CLI::App& AComando, TOpcoesDoContexto& AOpcoes)
+void AdicionarOpcoesDeLigacao(TComando& AComando, TOpcoesDoContexto& AOpcoes)
 {
-    AComando
-        .add_option("--banco", AOpcoes.Banco,
-                    "banco da folha: um arquivo (motor embutido), host[/porta]:caminho ou inet://... (servidor)")
-        ->ignore_case()
-        ->check(&ConferirTexto)
-        ->type_name("LIGACAO");
-    AComando.add_option("--usuario", AOpcoes.Usuario, "usuário do banco; senão o de ISC_USER, senão SYSDBA")
-        ->ignore_case()
-        ->check(&ConferirTexto)
-        ->type_name("NOME");
-    // Whatever it begins with: it may be anybody's password.
-    AComando.add_option("--senha", AOpcoes.Senha, "senha do usuário; senão a de ISC_PASSWORD")
-        ->ignore_case()
-        ->type_name("SENHA");
+    AComando.Opcoes.insert(
+        AComando.Opcoes.end(),
+        {{"--banco", &AOpcoes.Banco,
+          "banco da folha: um arquivo (motor embutido), host[/porta]:caminho ou inet://... (servidor)", "LIGACAO",
+          TTextoAceito::Texto},
+         {"--usuario", &AOpcoes.Usuario, "usuário do banco; senão o de ISC_USER, senão SYSDBA", "NOME",
+          TTextoAceito::Texto},
+         // Whatever it begins with: it may be anybody's password.
+         {"--senha", &AOpcoes.Senha, "senha do usuário; senão a de ISC_PASSWORD", "SENHA"}});
 }
 
-void AdicionarOpcoesDoContexto(CLI::App& AComando, TOpcoesDoContexto& AOpcoes)
+void AdicionarOpcoesDoContexto(TComando& AComando, TOpcoesDoContexto& AOpcoes)
 {
     AdicionarOpcoesDeLigacao(AComando, AOpcoes);
-    AComando
-        .add_option("--rastrear", AOpcoes.Rastrear,
-                    "grava cada comando SQL em uma linha JSON neste arquivo; '-' é a saída de erros")
-        ->ignore_case()
-        ->check(&ConferirValor)
-        ->type_name("ARQUIVO");
-    AComando
-        .add_option("--ambiente", AOpcoes.Ambiente, "ambiente do eSocial: 1 produção (padrão), 2 produção restrita")
-        ->ignore_case()
-        ->type_name("1|2");
-    AComando.add_option("--brenco", AOpcoes.Brenco, "banco do sistema irmão, lido por S-1250")
-        ->ignore_case()
-        ->check(&ConferirValor)
-        ->type_name("LIGACAO");
+    AComando.Opcoes.insert(
+        AComando.Opcoes.end(),
+        {{"--rastrear", &AOpcoes.Rastrear,
+          "grava cada comando SQL em uma linha JSON neste arquivo; '-' é a saída de erros", "ARQUIVO",
+          TTextoAceito::NaoVazio},
+         {"--ambiente", &AOpcoes.Ambiente, "ambiente do eSocial: 1 produção (padrão), 2 produção restrita", "1|2"},
+         {"--brenco", &AOpcoes.Brenco, "banco do sistema irmão, lido por S-1250", "LIGACAO", TTextoAceito::NaoVazio}});
 }
 
 TParametrosConexao ParametrosDaLigacao(const TOpcoesDoContexto& AOpcoes)

@@ -6,11 +6,9 @@
 
 #include "imports/UnOvraConnection.h"
 
-namespace CLI {
-class App;
-}
-
 namespace tarvo::ferramenta {
+
+struct TComando;
 
 /// The options that every command with a database has.
 struct TOpcoesDoContexto {
@@ -23,9 +21,9 @@ struct TOpcoesDoContexto {
 };
 
 /// Adds `--banco`, `--usuario` and `--senha`.
-void AdicionarOpcoesDeLigacao(CLI::App& AComando, TOpcoesDoContexto& AOpcoes);
+void AdicionarOpcoesDeLigacao(TComando& AComando, TOpcoesDoContexto& AOpcoes);
 /// Adds those, and `--rastrear`, `--ambiente`, `--brenco`.
-void AdicionarOpcoesDoContexto(CLI::App& AComando, TOpcoesDoContexto& AOpcoes);
+void AdicionarOpcoesDoContexto(TComando& AComando, TOpcoesDoContexto& AOpcoes);
 /// The connection that the options name; EUsoErrado without `--banco`. User and password fall back on ISC_USER and
 /// ISC_PASSWORD.
 TParametrosConexao ParametrosDaLigacao(const TOpcoesDoContexto& AOpcoes);

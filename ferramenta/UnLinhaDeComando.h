@@ -1,14 +1,11 @@
 #pragma once
 
-#include <deque>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
+#include <variant>
 #include <vector>
-
-namespace CLI {
-class App;
-}
 
 namespace tarvo {
 struct TArgumentoDeEvento;
@@ -17,46 +14,79 @@ struct TEventoDoCatalogo;
 
 namespace tarvo::ferramenta {
 
-/// A command of the program: its place on the command line, and what it does.
-struct TComando {
-    CLI::App* App = nullptr;
-    /// Shown when the command is used wrongly.
-    std::string Uso;
-    /// The exit code.
-    std::function<int()> Executar;
+// What the commands say of themselves. Who reads the command line by it is the source's own affair.
+
+enum class TTextoAceito {
+    Qualquer,
+    /// Not what looks like another option, which stands there because the value was forgotten.
+    Texto,
+    /// Nor an empty text: for an option that means something else when it is left out.
+    NaoVazio
 };
 
-/// The commands register themselves here, in the order of the help.
-using TComandos = std::deque<TComando>;
-
-/// Adds a command; its options are to be added to the result.
-CLI::App& AdicionarComando(CLI::App& AApp, TComandos& AComandos, const std::string& ANome,
-                           const std::string& ADescricao, const std::string& AUso);
-
-/// Adds an option that is given or not, and takes no value.
-void AdicionarChave(CLI::App& AComando, const std::string& ANome, bool& AValor, const std::string& ADescricao);
-
-/// For an option of any text: what looks like another option stands there because the value was forgotten.
-std::string ConferirTexto(const std::string& AValor);
-
-/// For an option that means something else when it is left out: an empty value is refused too.
-std::string ConferirValor(const std::string& AValor);
+/// An option of a command. Names match without regard to case.
+struct TOpcao {
+    /// "--banco"; a name without hyphens is a value that stands by itself.
+    std::string Nome;
+    /// Where the value goes; it has to live as long as the command. A bool is an option without a value, a list one
+    /// that may repeat, and an optional tells whether it was given.
+    std::variant<std::string*, std::optional<std::string>*, std::vector<std::string>*, bool*> Valor;
+    std::string Descricao;
+    /// What the help shows for the value.
+    std::string Tipo = {};
+    TTextoAceito Aceita = TTextoAceito::Qualquer;
+};
 
 /// The event that a command was given, and its arguments by name.
 struct TEventoDaLinha {
-    /// By event code, the texts of its arguments; only the given ones count.
-    std::map<std::string, std::map<std::string, std::string>> Valores;
-    std::map<std::string, CLI::App*> Eventos;
+    /// Empty when none was given.
+    std::string CodigoInformado;
+    /// Only those that were given.
+    std::map<std::string, std::string> Argumentos;
 
     /// Code of the event that was given; EUsoErrado when none was.
-    std::string Codigo() const;
-    /// The arguments that were given.
-    std::map<std::string, std::string> Argumentos() const;
+    const std::string& Codigo() const;
+};
+
+/// A command of the program: its place on the command line, and what it does.
+struct TComando {
+    std::string Nome;
+    std::string Descricao;
+    /// Shown when the command is used wrongly.
+    std::string Uso;
+    /// In the order of the help.
+    std::vector<TOpcao> Opcoes = {};
+    struct TEvento {
+        const TEventoDoCatalogo* Evento;
+        /// Its options.
+        const std::vector<TArgumentoDeEvento>* Argumentos;
+    };
+    /// The events that the command takes, and where the one that it was given goes.
+    std::vector<TEvento> Eventos = {};
+    TEventoDaLinha* EventoInformado = nullptr;
+    /// The exit code.
+    std::function<int()> Executar = {};
 };
 
 /// Lets a command take an event and its arguments as options: the event's own, or those that AArgumentos gives.
 void AdicionarEventos(
-    CLI::App& AComando, TEventoDaLinha& AEvento, const std::function<bool(const TEventoDoCatalogo&)>& AAceita = {},
+    TComando& AComando, TEventoDaLinha& AEvento, const std::function<bool(const TEventoDoCatalogo&)>& AAceita = {},
     const std::function<const std::vector<TArgumentoDeEvento>&(const TEventoDoCatalogo&)>& AArgumentos = {});
+
+struct TPrograma {
+    std::string Nome;
+    std::string Descricao;
+    std::string Versao;
+    /// Shown when the program is used wrongly before any command is known.
+    std::string Uso;
+    /// The end of the help.
+    std::string Exemplos;
+    /// In the order of the help.
+    std::vector<TComando> Comandos;
+};
+
+/// Reads the command line and executes its command. Answers with the exit code; every failure is told on standard
+/// error, a wrong use with the usage line.
+int ExecutarPrograma(const TPrograma& APrograma, int AQuantidade, const char* const* AArgumentos);
 
 } // namespace tarvo::ferramenta
