@@ -480,7 +480,7 @@ std::vector<TChaveDoLote> BuscarChavesDoLote(std::string_view ACodigo,
     std::map<std::string, std::string> LComuns;
     for (const auto& [LNome, LTexto] : AArgumentos)
         if (std::any_of(LEvento.Argumentos.begin(), LEvento.Argumentos.end(),
-                        [&](const auto& AArgumento) { return MesmoTexto(AArgumento.Nome, LNome); }))
+                        [&LNome = LNome](const auto& AArgumento) { return MesmoTexto(AArgumento.Nome, LNome); }))
             LComuns.emplace(LNome, LTexto);
 
     const auto& LColunas = LLinhas.Colunas();
@@ -510,9 +510,10 @@ TArgumentosDeEvento::TArgumentosDeEvento(const std::vector<TArgumentoDeEvento>& 
                                          const std::map<std::string, std::string>& ATextos)
 {
     for (const auto& [LNome, LTexto] : ATextos) {
-        const auto LDefinicao = std::find_if(ADefinicoes.begin(), ADefinicoes.end(), [&](const auto& AItem) {
-            return MesmoTexto(AItem.Nome, LNome) || (AItem.OutroNome && MesmoTexto(AItem.OutroNome, LNome));
-        });
+        const auto LDefinicao =
+            std::find_if(ADefinicoes.begin(), ADefinicoes.end(), [&, &LNome = LNome](const auto& AItem) {
+                return MesmoTexto(AItem.Nome, LNome) || (AItem.OutroNome && MesmoTexto(AItem.OutroNome, LNome));
+            });
         if (LDefinicao == ADefinicoes.end())
             throw EArgumentoInvalido("Argumento desconhecido: --" + LNome);
         const auto Recusar = [&, &LNomeDoArgumento = LDefinicao->Nome,

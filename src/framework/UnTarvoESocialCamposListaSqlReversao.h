@@ -27,6 +27,7 @@ struct TComandoRecusado {
 
 /// Runs statements in order, all or nothing. Every one is tried, so that each that the engine refuses is told; with one
 /// refused the whole transaction is undone, else it is confirmed. EDatabaseError when that fails.
-std::vector<TComandoRecusado> ExecutarReversao(TOvraConnection& AConexao, const std::vector<std::string>& AComandos);
+[[nodiscard]] std::vector<TComandoRecusado> ExecutarReversao(TOvraConnection& AConexao,
+                                                             const std::vector<std::string>& AComandos);
 
 } // namespace tarvo

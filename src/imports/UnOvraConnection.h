@@ -44,7 +44,7 @@ enum class TPassoSql { Preparar, Executar, LerLinha };
 using TVigiaSql = std::function<void(TPassoSql)>;
 
 /// Result of ExecutouSQL.
-struct TResultStatus {
+struct [[nodiscard]] TResultStatus {
     bool Sucesso = false;
     /// The engine's text of the failure; empty on success.
     std::string Mensagem;

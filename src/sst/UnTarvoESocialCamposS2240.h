@@ -67,7 +67,7 @@ public:
 
     void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override
     {
-        TTarvoESocialCamposGrupoBase::CarregarDados(AListaCamposModificados);
+        TTarvoESocialCamposQuadro::CarregarDados(AListaCamposModificados);
         fimExpRisco.CarregarDados(AListaCamposModificados);
         iniExpRisco.CarregarDados(AListaCamposModificados);
         altExpRisco.CarregarDados(AListaCamposModificados);

@@ -73,6 +73,7 @@ TSaida Rodar(const std::vector<std::string>& AArgumentos, TDestinoDosErros ADest
     std::vector<std::string> LTextos{PROGRAMA};
     LTextos.insert(LTextos.end(), AArgumentos.begin(), AArgumentos.end());
     std::vector<char*> LPonteiros;
+    LPonteiros.reserve(LTextos.size() + 1);
     for (auto& LTexto : LTextos)
         LPonteiros.push_back(LTexto.data());
     LPonteiros.push_back(nullptr);

@@ -151,6 +151,7 @@ TEST_F(TTesteReaproveitamentoDosGoldens, OJsonEhOMesmoLigadoEDesligado)
 {
     const auto LCasos = LerCasosDosGoldens();
     std::vector<std::string> LDesligado;
+    LDesligado.reserve(LCasos.size());
     Conexao().DefinirReaproveitamento(false);
     for (const auto& LCaso : LCasos)
         LDesligado.push_back(CarregarCaso(LCaso));

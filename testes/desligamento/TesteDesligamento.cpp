@@ -444,7 +444,7 @@ TEST_F(TTesteDesligamento, DadosDaRescisaoSoDoContratoEDaSuaEspecie)
                                      {"INFORMACAO6", Texto("6")},
                                      {"INFORMACAO10", Texto("10")}});
     };
-    const auto Dados = [this] {
+    const auto Dados = [] {
         const auto LEvento = Carregar();
         const auto& LInfo = LEvento->infoDeslig;
         return LInfo.nrCertObito + "/" + LInfo.nrProcTrab + "/" + LInfo.indCumprParc + "/" + LInfo.observacao + " " +

@@ -388,7 +388,8 @@ TEST(TTestePrograma, SemMotorOuDeOutraVersaoOErroDizOQueFazer)
     // A Firebird whose engines are nowhere.
     const auto LSemMotor = ParametrosDoBanco("sem-motor").BancoDeDados;
     std::filesystem::create_directory(LSemMotor);
-    std::ofstream(LSemMotor + "/firebird.conf");
+    std::ofstream LConfiguracao(LSemMotor + "/firebird.conf");
+    LConfiguracao.close();
     std::ofstream LPlugins(LSemMotor + "/plugins.conf");
     for (const char* LMotor : {"Engine12", "Engine13"})
         LPlugins << "Plugin = " << LMotor << " {\n  Module = " << LSemMotor << "/nenhum\n}\n";
@@ -425,8 +426,10 @@ TEST(TTesteConexaoPerdida, CargaFalhaComOTextoDoMotorEOProcessoSegue)
         tabelas::TTarvoESocialCamposS1000 LEvento(1, D(2021, 3, 1));
         // After the first statement of the event; the engine takes a moment to end it.
         LConexao.DefinirObservador([&, LFeito = false](const TExecucaoSql&) mutable {
-            if (!LFeito)
-                LOutra.ExecutouSQL({"DELETE FROM MON$ATTACHMENTS WHERE MON$ATTACHMENT_ID = " + LId}, true);
+            if (!LFeito) {
+                EXPECT_TRUE(
+                    LOutra.ExecutouSQL({"DELETE FROM MON$ATTACHMENTS WHERE MON$ATTACHMENT_ID = " + LId}, true).Sucesso);
+            }
             LFeito = true;
         });
         try {

@@ -131,7 +131,8 @@ TEST_F(OvraConnectionComBanco, ExecutouSqlContaOPrimeiroMotivo)
 TEST_F(OvraConnectionComBanco, ExecutouSqlDesfazPorQualquerExcecao)
 {
     Conexao().DefinirObservador([](const TExecucaoSql&) { throw std::runtime_error("do observador"); });
-    EXPECT_THROW(Conexao().ExecutouSQL({"UPDATE TAB_VERBAS SET CODIGO = 11"}, true), std::runtime_error);
+    EXPECT_THROW(static_cast<void>(Conexao().ExecutouSQL({"UPDATE TAB_VERBAS SET CODIGO = 11"}, true)),
+                 std::runtime_error);
     Conexao().DefinirObservador({});
     EXPECT_EQ(Verbas(), "1=10");
     // Of two reasons the first, whatever they are.
@@ -140,7 +141,7 @@ TEST_F(OvraConnectionComBanco, ExecutouSqlDesfazPorQualquerExcecao)
             throw std::runtime_error(LPassos == 5 ? "primeiro" : "segundo");
     });
     try {
-        Conexao().ExecutouSQL({"UPDATE TAB_VERBAS SET CODIGO = 11"}, true);
+        static_cast<void>(Conexao().ExecutouSQL({"UPDATE TAB_VERBAS SET CODIGO = 11"}, true));
         FAIL();
     } catch (const std::runtime_error& LErro) {
         EXPECT_STREQ(LErro.what(), "primeiro");
@@ -156,23 +157,23 @@ public:
 
     int Passos() const { return FPassos; }
 
-    void addRef() {}
-    int release() { return 1; }
-    unsigned getCount(TEstado* AEstado) { return Responder(AEstado, 2U); }
-    const char* getField(TEstado* AEstado, unsigned) { return Responder(AEstado, "X"); }
-    const char* getRelation(TEstado* AEstado, unsigned) { return Responder(AEstado, "T"); }
-    const char* getOwner(TEstado* AEstado, unsigned) { return Responder(AEstado, "D"); }
-    const char* getAlias(TEstado* AEstado, unsigned) { return Responder(AEstado, "X"); }
-    unsigned getType(TEstado* AEstado, unsigned) { return Responder(AEstado, unsigned{SQL_LONG}); }
-    FB_BOOLEAN isNullable(TEstado* AEstado, unsigned) { return Responder(AEstado, FB_BOOLEAN{1}); }
-    int getSubType(TEstado* AEstado, unsigned) { return Responder(AEstado, 0); }
-    unsigned getLength(TEstado* AEstado, unsigned) { return Responder(AEstado, 4U); }
-    int getScale(TEstado* AEstado, unsigned) { return Responder(AEstado, 0); }
-    unsigned getCharSet(TEstado* AEstado, unsigned) { return Responder(AEstado, 0U); }
-    unsigned getOffset(TEstado* AEstado, unsigned AIndice) { return Responder(AEstado, AIndice * 8); }
-    unsigned getNullOffset(TEstado* AEstado, unsigned AIndice) { return Responder(AEstado, AIndice * 8 + 4); }
-    Firebird::IMetadataBuilder* getBuilder(TEstado*) { return nullptr; }
-    unsigned getMessageLength(TEstado* AEstado) { return Responder(AEstado, 16U); }
+    void addRef() override {}
+    int release() override { return 1; }
+    unsigned getCount(TEstado* AEstado) override { return Responder(AEstado, 2U); }
+    const char* getField(TEstado* AEstado, unsigned) override { return Responder(AEstado, "X"); }
+    const char* getRelation(TEstado* AEstado, unsigned) override { return Responder(AEstado, "T"); }
+    const char* getOwner(TEstado* AEstado, unsigned) override { return Responder(AEstado, "D"); }
+    const char* getAlias(TEstado* AEstado, unsigned) override { return Responder(AEstado, "X"); }
+    unsigned getType(TEstado* AEstado, unsigned) override { return Responder(AEstado, unsigned{SQL_LONG}); }
+    FB_BOOLEAN isNullable(TEstado* AEstado, unsigned) override { return Responder(AEstado, FB_BOOLEAN{1}); }
+    int getSubType(TEstado* AEstado, unsigned) override { return Responder(AEstado, 0); }
+    unsigned getLength(TEstado* AEstado, unsigned) override { return Responder(AEstado, 4U); }
+    int getScale(TEstado* AEstado, unsigned) override { return Responder(AEstado, 0); }
+    unsigned getCharSet(TEstado* AEstado, unsigned) override { return Responder(AEstado, 0U); }
+    unsigned getOffset(TEstado* AEstado, unsigned AIndice) override { return Responder(AEstado, AIndice * 8); }
+    unsigned getNullOffset(TEstado* AEstado, unsigned AIndice) override { return Responder(AEstado, AIndice * 8 + 4); }
+    Firebird::IMetadataBuilder* getBuilder(TEstado*) override { return nullptr; }
+    unsigned getMessageLength(TEstado* AEstado) override { return Responder(AEstado, 16U); }
     // Of version 4.
     unsigned getAlignment(TEstado* AEstado) { return Responder(AEstado, 4U); }
     unsigned getAlignedLength(TEstado* AEstado) { return Responder(AEstado, 16U); }

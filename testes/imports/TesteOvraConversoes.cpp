@@ -219,7 +219,8 @@ TEST(OvraCurrency, ConversaoArredondaMetadeParaOhPar)
         const std::int64_t LPar = (i / 2) % 2 == 0 ? i / 2 : i / 2 + 1;
         EXPECT_EQ(Currency(i / 20'000.0).DecimosMilesimos(), LPar) << i;
         EXPECT_EQ(Currency(Currency::DeDecimosMilesimos(i) * 0.5L).DecimosMilesimos(), LPar) << i;
-        EXPECT_EQ(Currency(Currency::DeDecimosMilesimos(5 * i) / Currency(10)).DecimosMilesimos(), LPar) << i;
+        EXPECT_EQ(Currency(Currency::DeDecimosMilesimos(std::int64_t{5} * i) / Currency(10)).DecimosMilesimos(), LPar)
+            << i;
     }
     for (const double LValor : {1e15, -1e15, std::nan(""), HUGE_VAL, -HUGE_VAL})
         EXPECT_THROW(Currency{LValor}, EIntOverflow);

@@ -255,7 +255,7 @@ TEST_F(OvraDataSet, ObservadorVeCadaComandoUmaVez)
         [&](const TExecucaoSql& AExecucao) { LVistos.emplace_back(AExecucao.Sql, AExecucao.Linhas); });
     Consultar("SELECT 1 FROM RDB$DATABASE WHERE 1 = 0");
     EXPECT_THROW(Consultar("SELECT"), EDatabaseError);
-    Conexao().ExecutouSQL({"INSERT INTO TAB_VERBAS (IDVERBA) VALUES (1)"}, false);
+    EXPECT_TRUE(Conexao().ExecutouSQL({"INSERT INTO TAB_VERBAS (IDVERBA) VALUES (1)"}, false).Sucesso);
     Conexao().DefinirObservador({});
     Consultar("SELECT 2 FROM RDB$DATABASE");
     ASSERT_EQ(LVistos.size(), 2U);

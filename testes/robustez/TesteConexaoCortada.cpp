@@ -52,7 +52,8 @@ protected:
             FPonte->Cortar();
             return;
         }
-        FCarrasco->ExecutouSQL({"DELETE FROM MON$ATTACHMENTS WHERE MON$ATTACHMENT_ID = " + AId}, true);
+        EXPECT_TRUE(
+            FCarrasco->ExecutouSQL({"DELETE FROM MON$ATTACHMENTS WHERE MON$ATTACHMENT_ID = " + AId}, true).Sucesso);
         // The engine takes a moment.
         for (int i = 0; i < 1000; ++i) {
             const auto LLinhas = FCarrasco->Consultar("SELECT 1 FROM MON$ATTACHMENTS WHERE MON$ATTACHMENT_ID = " + AId);

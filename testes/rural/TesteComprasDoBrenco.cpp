@@ -284,7 +284,7 @@ TEST_F(TTesteComprasDoBrencoExterno, LeAsComprasLaEOsProcessosAqui)
          {std::tuple{"ES02_CLIFOR", "PRODUTOR = 0", "PRODUTOR = 1"},
           {"ES02_CLIFOR", "TPINSCRICAO = 1", "TPINSCRICAO = 2"},
           {"ES02_ENTRADA", "DATAENTRADA = '01.04.2021'", "DATAENTRADA = '05.03.2021'"}}) {
-        const auto Mudar = [&](const char* AMudanca) {
+        const auto Mudar = [this, &LTabela = LTabela](const char* AMudanca) {
             NoBrenco([&] {
                 Executar(std::string("UPDATE ") + LTabela + " SET " + AMudanca +
                          (LTabela == std::string("ES02_CLIFOR") ? " WHERE IDCLIFOR = 5" : " WHERE IDPLANO = 5"));
