@@ -226,8 +226,7 @@ void TClienteNu::PrepararTodos(const std::vector<TComandoGravado>& AComandos)
             continue;
         auto LOnde = FImplementacao->Preparados.find(LGravado.Sql);
         if (LOnde == FImplementacao->Preparados.end())
-            LOnde =
-                FImplementacao->Preparados.emplace(LGravado.Sql, FImplementacao->Preparar(LGravado.Sql)).first;
+            LOnde = FImplementacao->Preparados.emplace(LGravado.Sql, FImplementacao->Preparar(LGravado.Sql)).first;
         TUso LUso;
         LUso.Preparado = &LOnde->second;
         LUso.Linhas = LGravado.Linhas;
@@ -242,10 +241,10 @@ void TClienteNu::RodarPreparados()
 {
     FImplementacao->Iniciar();
     for (auto& LUso : FImplementacao->Usos)
-        TImplementacao::Conferir(LUso.Linhas,
-                                 FImplementacao->Rodar(*LUso.Preparado, LUso.Entrada.get(),
-                                                       LUso.Entrada ? LUso.Mensagem.data() : nullptr),
-                                 "um comando preparado");
+        TImplementacao::Conferir(
+            LUso.Linhas,
+            FImplementacao->Rodar(*LUso.Preparado, LUso.Entrada.get(), LUso.Entrada ? LUso.Mensagem.data() : nullptr),
+            "um comando preparado");
     FImplementacao->Desfazer();
 }
 

@@ -40,9 +40,10 @@ std::string Cpf(std::uint32_t ANumero)
 void Copiar(TOvraConnection& AConexao, const std::string& ATabela, const TSubstituicoes& ASubstituicoes,
             const std::string& AOrigem)
 {
-    const auto LColunas = AConexao.Consultar(Format(
-        "SELECT TRIM(RDB$FIELD_NAME), RDB$IDENTITY_TYPE FROM RDB$RELATION_FIELDS WHERE RDB$RELATION_NAME = '%s' ORDER BY RDB$FIELD_POSITION",
-        ATabela));
+    const auto LColunas =
+        AConexao.Consultar(Format("SELECT TRIM(RDB$FIELD_NAME), RDB$IDENTITY_TYPE FROM RDB$RELATION_FIELDS WHERE "
+                                  "RDB$RELATION_NAME = '%s' ORDER BY RDB$FIELD_POSITION",
+                                  ATabela));
     std::string LNomes;
     std::string LValores;
     for (std::size_t i = 0; i < LColunas.QuantidadeDeLinhas(); ++i) {
@@ -69,7 +70,8 @@ void CriarTrabalhadores(TOvraConnection& AConexao, int AQuantidade, std::uint32_
     const auto LPrimeiroCpf = static_cast<std::uint32_t>(200'000'000 + LSorteio() % 100'000'000);
     for (int i = 0; i < AQuantidade; ++i)
         AConexao.Executar(Format("INSERT INTO BANCADA_TRABALHADOR VALUES (%d, %d, '%s')", i,
-                                 MODELOS[LSorteio() % MODELOS.size()], Cpf(LPrimeiroCpf + static_cast<std::uint32_t>(i) * 7)));
+                                 MODELOS[LSorteio() % MODELOS.size()],
+                                 Cpf(LPrimeiroCpf + static_cast<std::uint32_t>(i) * 7)));
     AConexao.Confirmar();
 }
 
@@ -91,11 +93,13 @@ void GerarTrabalhadores(TOvraConnection& AConexao, int AQuantidade, std::uint32_
     const auto LDeTrabalhador = [](const std::string& ATabela) {
         return "FROM BANCADA_TRABALHADOR B JOIN " + ATabela + " M ON (M.IDEMPREGADO = B.MODELO)";
     };
-    const TSubstituicoes LTrabalhador = {{"IDEMPREGADO", LId},       {"COD_EMPREGADO", LId},
-                                         {"CPF", "B.CPF"},           {"CODIGOESOCIAL", "CAST(" + LId + " AS VARCHAR(9))"},
+    const TSubstituicoes LTrabalhador = {{"IDEMPREGADO", LId},
+                                         {"COD_EMPREGADO", LId},
+                                         {"CPF", "B.CPF"},
+                                         {"CODIGOESOCIAL", "CAST(" + LId + " AS VARCHAR(9))"},
                                          {"PIS", "CAST(17000000000 + B.N * 10 AS VARCHAR(11))"}};
-    for (const char* LTabela : {"EMPREGADOS", "CARGOS", "SALARIO", "MOV_TRANSF", "SC00_EMPREGADOCFG", "FP_EMPREGADOSDET",
-                                "FP_EMPREGADOSCONTATO"})
+    for (const char* LTabela : {"EMPREGADOS", "CARGOS", "SALARIO", "MOV_TRANSF", "SC00_EMPREGADOCFG",
+                                "FP_EMPREGADOSDET", "FP_EMPREGADOSCONTATO"})
         Copiar(AConexao, LTabela, LTrabalhador, LDeTrabalhador(LTabela));
     AConexao.Confirmar();
 
@@ -111,8 +115,7 @@ void GerarTrabalhadores(TOvraConnection& AConexao, int AQuantidade, std::uint32_
     const auto LDosMeses = " JOIN BANCADA_MES MESES ON (1 = 1) WHERE M.DATA_INICIO = '01.03.2021'";
     Copiar(AConexao, "CALCULO", LCalculo, LDeTrabalhador("CALCULO") + LDosMeses);
     AConexao.Confirmar();
-    Copiar(AConexao, "CALC_QUEBRA",
-           {{"IDCALCULO", Format(LIdCalculo, "M.IDCALCULO")}},
+    Copiar(AConexao, "CALC_QUEBRA", {{"IDCALCULO", Format(LIdCalculo, "M.IDCALCULO")}},
            "FROM BANCADA_TRABALHADOR B JOIN CALCULO C ON (C.IDEMPREGADO = B.MODELO)"
            " JOIN CALC_QUEBRA M ON (M.IDCALCULO = C.IDCALCULO) JOIN BANCADA_MES MESES ON (1 = 1)"
            " WHERE C.DATA_INICIO = '01.03.2021'");

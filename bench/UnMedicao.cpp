@@ -100,6 +100,7 @@ struct TProcesso {
 TProcesso RodarPrograma(const std::vector<std::string>& AArgumentos, const fs::path& ASaida)
 {
     std::vector<char*> LTextos;
+    LTextos.reserve(AArgumentos.size() + 1);
     for (const auto& LArgumento : AArgumentos)
         LTextos.push_back(const_cast<char*>(LArgumento.c_str()));
     LTextos.push_back(nullptr);
@@ -265,6 +266,7 @@ void MedirCrescimento(const TOpcoes& AOpcoes)
 
 } // namespace tarvo::bancada
 
+// NOLINTNEXTLINE(bugprone-exception-escape): whatever went wrong may end a measure
 int main(int argc, char** argv)
 {
     using namespace tarvo::bancada;

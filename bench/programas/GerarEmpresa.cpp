@@ -7,6 +7,7 @@
 
 // Grows the company of a database made by `esocial-campos criar-banco --exemplo`.
 
+// NOLINTNEXTLINE(bugprone-exception-escape): whatever went wrong may end it
 int main(int argc, char** argv)
 {
     using namespace tarvo;
