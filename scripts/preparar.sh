@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # Shared by ./demo and ./test: what the machine needs, and the builds. Everything goes to standard error.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
@@ -8,6 +9,9 @@ readonly PACOTES=(
     libpugixml-dev rapidjson-dev libcli11-dev libgtest-dev libbenchmark-dev python3
     pkg-config dpkg-dev file
 )
+# What scripts/conferir.sh looks at the sources with.
+# shellcheck disable=SC2034 # used there
+readonly PACOTES_DA_CONFERENCIA=(clang clang-format clang-tidy shellcheck git)
 # The engine, its tools and its server; their names begin with the version that firebird-dev has.
 readonly PACOTES_DO_MOTOR=(server-core utils server)
 

@@ -1,11 +1,11 @@
+# shellcheck shell=bash
 # A Firebird server of one's own on a loopback port, for ./test and bench/aguentar; to be sourced after preparar.sh.
 
 # The server is told to end and, as its orderly end may wait for ever on a client that vanished, made to.
 encerrar_servidor() {
     [ -z "${SERVIDOR_PID:-}" ] && return
     kill "$SERVIDOR_PID" 2>/dev/null || true
-    local tentativa
-    for tentativa in $(seq 50); do
+    for _ in $(seq 50); do
         kill -0 "$SERVIDOR_PID" 2>/dev/null || break
         sleep 0.1
     done
@@ -61,8 +61,7 @@ SQL
     SERVIDOR_PID=$!
     unset FIREBIRD_LOCK
     # A busy machine may take long over it; a server that ended won't answer at all.
-    local tentativa
-    for tentativa in $(seq 300); do
+    for _ in $(seq 300); do
         (exec 3<>"/dev/tcp/127.0.0.1/$SERVIDOR_PORTA") 2>/dev/null && return
         kill -0 "$SERVIDOR_PID" 2>/dev/null || break
         sleep 0.1

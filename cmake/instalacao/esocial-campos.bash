@@ -3,7 +3,7 @@
 _esocial_campos()
 {
     local atual=${COMP_WORDS[COMP_CWORD]} anterior=${COMP_WORDS[COMP_CWORD - 1]} programa=${COMP_WORDS[0]}
-    local comando=${COMP_WORDS[1]} evento= palavras= palavra
+    local comando=${COMP_WORDS[1]} evento='' palavras='' palavra
 
     case $anterior in
         --banco | --brenco | --rastrear)
