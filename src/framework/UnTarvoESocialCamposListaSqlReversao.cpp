@@ -1,15 +1,12 @@
 #include "framework/UnTarvoESocialCamposListaSqlReversao.h"
 
 #include "imports/UnOvraConnection.h"
+#include "imports/UnOvraContexto.h"
 #include "imports/UnOvraExcecoes.h"
 
 namespace tarvo {
 
-TListaSql& TListaSql::BuscarSingleton()
-{
-    static TListaSql LListaSql;
-    return LListaSql;
-}
+TListaSql& TListaSql::BuscarSingleton() { return ContextoCorrente().Parte<TListaSql>(); }
 
 std::vector<TComandoRecusado> ExecutarReversao(TOvraConnection& AConexao, const std::vector<std::string>& AComandos)
 {

@@ -5,8 +5,8 @@
 
 namespace tarvo {
 
-/// The statements that ReverterDados gathers, in order, duplicates included. One list for the whole process, without
-/// a lock; it lives until the process ends and is emptied by the caller only.
+/// The statements that ReverterDados gathers, in order, duplicates included. One list for each context, that of the
+/// process until it ends; it is emptied by the caller only.
 class TListaSql {
 public:
     std::vector<std::string> Lista;

@@ -203,19 +203,4 @@ void TOvraConnection::DefinirObservador(TObservadorSql AObservador)
 
 void TOvraConnection::DefinirVigia(TVigiaSql AVigia) { FImplementacao->Sessao.DefinirVigia(std::move(AVigia)); }
 
-namespace {
-TOvraConnection* LConexaoCorrente = nullptr;
-}
-
-TOvraConnection& OvraConnection()
-{
-    if (LConexaoCorrente == nullptr)
-        throw Exception("Nenhuma conexão com o banco de dados foi definida");
-    return *LConexaoCorrente;
-}
-
-void DefinirOvraConnection(TOvraConnection* AConexao) { LConexaoCorrente = AConexao; }
-
-TOvraConnection* OvraConnectionOuNulo() { return LConexaoCorrente; }
-
 } // namespace tarvo

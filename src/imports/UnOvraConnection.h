@@ -109,7 +109,7 @@ private:
     std::unique_ptr<TImplementacao> FImplementacao;
 };
 
-/// The suite's current connection; Exception when the host has set none.
+/// The current connection of the thread's context (UnOvraContexto); Exception when the host has set none.
 TOvraConnection& OvraConnection();
 /// Sets the current connection, which the host owns; null for none.
 void DefinirOvraConnection(TOvraConnection* AConexao);

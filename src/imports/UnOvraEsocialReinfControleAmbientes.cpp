@@ -1,5 +1,6 @@
 #include "imports/UnOvraEsocialReinfControleAmbientes.h"
 
+#include "imports/UnOvraContexto.h"
 #include "imports/UnOvraConversoes.h"
 #include "imports/UnOvraExcecoes.h"
 #include "imports/UnOvraFormat.h"
@@ -20,8 +21,7 @@ void TOvraEsocialReinfControleAmbientes::DefinirTpAmb(std::int32_t ATpAmb)
 
 TOvraEsocialReinfControleAmbientes& BuscarInstanciaOvraEsocialReinfControleAmbientes()
 {
-    static TOvraEsocialReinfControleAmbientes LInstancia;
-    return LInstancia;
+    return ContextoCorrente().Ambientes;
 }
 
 } // namespace tarvo

@@ -23,7 +23,7 @@ private:
     std::int32_t FTpAmb = PRODUCAO;
 };
 
-/// The one instance of the process; production until the host sets another.
+/// That of the current context; production until the host sets another.
 TOvraEsocialReinfControleAmbientes& BuscarInstanciaOvraEsocialReinfControleAmbientes();
 
 } // namespace tarvo

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 namespace tarvo {
@@ -7,20 +8,13 @@ namespace tarvo {
 /// Messages to the user. The library is quiet by itself: without a reaction of the host an alert goes nowhere.
 class TOvraUtilsDialogs {
 public:
-    using TReacao = void (*)(const std::string& AMensagem);
+    using TReacao = std::function<void(const std::string& AMensagem)>;
 
-    /// Sets what an alert does; null for nothing.
-    void DefinirReacao(TReacao AReacao) { FReacao = AReacao; }
-    void Alerta(const std::string& AMensagem) const
-    {
-        if (FReacao != nullptr)
-            FReacao(AMensagem);
-    }
-
-private:
-    TReacao FReacao = nullptr;
+    /// Sets what an alert does in the current context; null for nothing.
+    void DefinirReacao(TReacao AReacao) const;
+    void Alerta(const std::string& AMensagem) const;
 };
 
-inline TOvraUtilsDialogs GOvraUtilsDialogs;
+inline constexpr TOvraUtilsDialogs GOvraUtilsDialogs{};
 
 } // namespace tarvo

@@ -1,6 +1,7 @@
 #include "imports/UnTarvoConexaoBrenco.h"
 
 #include "imports/UnOvraConnection.h"
+#include "imports/UnOvraContexto.h"
 #include "imports/UnOvraExcecoes.h"
 #include "imports/UnTarvoUtilsDb.h"
 
@@ -15,14 +16,12 @@ TOvraConnection& TTarvoConexaoBrenco::OvraConnection() const
 
 TTarvoConexaoBrenco& BuscarInstanciaTarvoConexaoBrenco()
 {
-    static TTarvoConexaoBrenco LInstancia;
-    return LInstancia;
+    return ContextoCorrente().Brenco;
 }
 
 TTarvoConexaoBrencoUsuarioClasseBase& BuscarInstanciaTarvoConexaoBrencoUsuario()
 {
-    static TTarvoConexaoBrencoUsuarioClasseBase LInstancia;
-    return LInstancia;
+    return ContextoCorrente().UsuarioBrenco;
 }
 
 TDataset BuscarRegistrosBrenco(std::string_view ASql)

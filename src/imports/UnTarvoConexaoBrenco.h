@@ -32,7 +32,7 @@ private:
     bool FUsuarioTemPermissao = false;
 };
 
-/// The one instance of each in the process.
+/// Those of the current context.
 TTarvoConexaoBrenco& BuscarInstanciaTarvoConexaoBrenco();
 TTarvoConexaoBrencoUsuarioClasseBase& BuscarInstanciaTarvoConexaoBrencoUsuario();
 
