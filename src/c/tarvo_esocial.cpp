@@ -14,10 +14,9 @@
 #include "framework/UnTarvoESocialCamposListaSqlReversao.h"
 #include "framework/UnTarvoESocialCamposVersao.h"
 #include "imports/UnOvraConnection.h"
+#include "imports/UnOvraContexto.h"
 #include "imports/UnOvraConversoes.h"
-#include "imports/UnOvraEsocialReinfControleAmbientes.h"
 #include "imports/UnOvraUtilsDbFirebird.h"
-#include "imports/UnTarvoConexaoBrenco.h"
 #include "imports/UnTarvoUtilsStrings.h"
 
 using namespace tarvo;
@@ -32,9 +31,11 @@ namespace {
 struct TMeio {
     explicit TMeio(const TParametrosConexao& AParametros) : Folha(AParametros) {}
 
+    /// Held by the call that runs on this connection or on one of its events; everything below is behind it.
+    std::mutex Trava;
     TOvraConnection Folha;
     std::unique_ptr<TOvraConnection> Brenco;
-    std::int32_t TpAmb = TOvraEsocialReinfControleAmbientes::PRODUCAO;
+    TOvraContexto Contexto{&Folha};
     /// The caller holds the moment over its calls.
     bool Instantaneo = false;
 
@@ -84,13 +85,6 @@ public:
     using Exception::Exception;
 };
 
-/// The current connection, the environment and the write-back list are the whole process's.
-std::mutex& Trava()
-{
-    static std::mutex LTrava;
-    return LTrava;
-}
-
 thread_local std::string FErro;
 
 void GuardarErro(const char* ATexto) noexcept
@@ -108,7 +102,6 @@ tarvo_situacao Fazer(F ACorpo) noexcept
 {
     FErro.clear();
     try {
-        const std::lock_guard LTravado(Trava());
         ACorpo();
         return TARVO_FEITO;
     } catch (const EUsoErrado& LErro) {
@@ -159,11 +152,14 @@ T*& Resultado(T** AOnde, const char* ANome)
     return LOnde;
 }
 
-/// Frees what a handle owns, whatever that needs of the process.
+/// Frees a handle when no call runs on its connection, and the connection with the last of its handles.
 template <class T>
 void Liberar(T* AInstancia) noexcept
 {
-    const std::lock_guard LTravado(Trava());
+    if (AInstancia == nullptr)
+        return;
+    const auto LMeio = AInstancia->Meio;
+    const std::lock_guard LTravado(LMeio->Trava);
     delete AInstancia;
 }
 
@@ -176,28 +172,12 @@ char* Copiar(const std::string& ATexto)
     return LCopia;
 }
 
-/// Makes a connection's state that of the process for as long as a call lasts, and gives the host's own back.
+/// A call's use of the database: one moment of it, in the connection's context; the host's own comes back at the end.
 class TUso {
 public:
-    explicit TUso(TMeio& AMeio)
-        : FMeio(AMeio), FFolha(OvraConnectionOuNulo()), FTpAmb(FAmbientes.BuscarTpAmbParaXML()),
-          FBrenco(FConexaoBrenco.Conectado() ? &FConexaoBrenco.OvraConnection() : nullptr),
-          FPermissao(FUsuarioBrenco.GetUsuarioTemPermissao()), FLista(BuscarInstanciaListaSql().Lista)
-    {
-        FMeio.IniciarInstantaneo();
-        DefinirOvraConnection(&FMeio.Folha);
-        FAmbientes.DefinirTpAmb(FMeio.TpAmb);
-        FConexaoBrenco.DefinirConexao(FMeio.Brenco.get());
-        FUsuarioBrenco.DefinirUsuarioTemPermissao(FMeio.Brenco != nullptr);
-        BuscarInstanciaListaSql().LimparLista();
-    }
+    explicit TUso(TMeio& AMeio) : FMeio(AMeio), FContexto(AMeio.Contexto) { FMeio.IniciarInstantaneo(); }
     ~TUso()
     {
-        BuscarInstanciaListaSql().Lista.swap(FLista);
-        FUsuarioBrenco.DefinirUsuarioTemPermissao(FPermissao);
-        FConexaoBrenco.DefinirConexao(FBrenco);
-        FAmbientes.DefinirTpAmb(FTpAmb);
-        DefinirOvraConnection(FFolha);
         if (!FMeio.Instantaneo)
             FMeio.Largar();
     }
@@ -205,23 +185,14 @@ public:
     TUso& operator=(const TUso&) = delete;
 
 private:
-    TOvraEsocialReinfControleAmbientes& FAmbientes = BuscarInstanciaOvraEsocialReinfControleAmbientes();
-    TTarvoConexaoBrenco& FConexaoBrenco = BuscarInstanciaTarvoConexaoBrenco();
-    TTarvoConexaoBrencoUsuarioClasseBase& FUsuarioBrenco = BuscarInstanciaTarvoConexaoBrencoUsuario();
     TMeio& FMeio;
-    TOvraConnection* FFolha;
-    std::int32_t FTpAmb;
-    TOvraConnection* FBrenco;
-    bool FPermissao;
-    std::vector<std::string> FLista;
+    TUsoDoContexto FContexto;
 };
 
-tarvo_evento& Carregado(tarvo_evento* AEvento)
+void ConferirCarregado(const tarvo_evento& AEvento)
 {
-    auto& LEvento = Dado(AEvento, "o evento");
-    if (!LEvento.Carregado)
-        throw EUsoErrado(std::string("O evento ") + LEvento.Definicao->Codigo + " não está carregado");
-    return LEvento;
+    if (!AEvento.Carregado)
+        throw EUsoErrado(std::string("O evento ") + AEvento.Definicao->Codigo + " não está carregado");
 }
 
 } // namespace
@@ -238,7 +209,7 @@ const char* tarvo_textos_item(const tarvo_textos* textos, size_t posicao)
     return posicao < tarvo_textos_quantidade(textos) ? textos->Lista[posicao].c_str() : nullptr;
 }
 
-void tarvo_liberar_textos(tarvo_textos* textos) { Liberar(textos); }
+void tarvo_liberar_textos(tarvo_textos* textos) { delete textos; }
 
 tarvo_situacao tarvo_eventos(tarvo_textos** codigos)
 {
@@ -283,9 +254,10 @@ tarvo_situacao tarvo_conectar(const char* banco, const char* usuario, const char
 {
     return Fazer([&] {
         auto& LResultado = Resultado(conexao, "conexao");
-        const auto LParametros = LerLigacao(banco, usuario, senha);
+        // Before any call reads the environment: it may write there.
         static const bool LTravasPreparadas = (PrepararPastaDeTravas(), true);
         static_cast<void>(LTravasPreparadas);
+        const auto LParametros = LerLigacao(banco, usuario, senha);
         LResultado = new tarvo_conexao{std::make_shared<TMeio>(LParametros)};
     });
 }
@@ -296,12 +268,12 @@ tarvo_situacao tarvo_definir_ambiente(tarvo_conexao* conexao, int ambiente)
 {
     return Fazer([&] {
         auto& LMeio = *Dado(conexao, "a conexão").Meio;
+        const std::lock_guard LTravado(LMeio.Trava);
         try {
-            TOvraEsocialReinfControleAmbientes().DefinirTpAmb(ambiente);
+            LMeio.Contexto.Ambientes.DefinirTpAmb(ambiente);
         } catch (const Exception& LErro) {
             throw EUsoErrado(LErro.what());
         }
-        LMeio.TpAmb = ambiente;
     });
 }
 
@@ -309,9 +281,12 @@ tarvo_situacao tarvo_conectar_brenco(tarvo_conexao* conexao, const char* banco, 
 {
     return Fazer([&] {
         auto& LMeio = *Dado(conexao, "a conexão").Meio;
+        const std::lock_guard LTravado(LMeio.Trava);
         if (LMeio.Instantaneo)
             throw EUsoErrado("A conexão tem um instantâneo aberto");
         LMeio.Brenco = std::make_unique<TOvraConnection>(LerLigacao(banco, usuario, senha));
+        LMeio.Contexto.Brenco.DefinirConexao(LMeio.Brenco.get());
+        LMeio.Contexto.UsuarioBrenco.DefinirUsuarioTemPermissao(true);
     });
 }
 
@@ -319,6 +294,7 @@ tarvo_situacao tarvo_iniciar_instantaneo(tarvo_conexao* conexao)
 {
     return Fazer([&] {
         auto& LMeio = *Dado(conexao, "a conexão").Meio;
+        const std::lock_guard LTravado(LMeio.Trava);
         if (LMeio.Instantaneo)
             throw EUsoErrado("A conexão já tem um instantâneo aberto");
         LMeio.IniciarInstantaneo();
@@ -330,6 +306,7 @@ tarvo_situacao tarvo_encerrar_instantaneo(tarvo_conexao* conexao)
 {
     return Fazer([&] {
         auto& LMeio = *Dado(conexao, "a conexão").Meio;
+        const std::lock_guard LTravado(LMeio.Trava);
         LMeio.Instantaneo = false;
         LMeio.Largar();
     });
@@ -350,6 +327,7 @@ tarvo_situacao tarvo_evento_criar(tarvo_conexao* conexao, const char* codigo, co
             if (!LArgumentos.emplace(LNome, LValor).second)
                 throw EUsoErrado("Argumento repetido: " + LNome);
         }
+        const std::lock_guard LTravado(LEvento->Meio->Trava);
         const TUso LUso(*LEvento->Meio);
         LEvento->Construido = ConstruirEvento(LEvento->Definicao->Codigo, LArgumentos);
         LResultado = LEvento.release();
@@ -360,6 +338,7 @@ tarvo_situacao tarvo_evento_desligar_grupo(tarvo_evento* evento, const char* cam
 {
     return Fazer([&] {
         auto& LEvento = Dado(evento, "o evento");
+        const std::lock_guard LTravado(LEvento.Meio->Trava);
         BuscarGrupoPeloCaminho(*LEvento.Construido.Evento, Texto(caminho, "o caminho")).SetCarregarDadosDoGrupo(false);
     });
 }
@@ -369,6 +348,7 @@ tarvo_situacao tarvo_evento_carregar(tarvo_evento* evento, const char* grupos)
     return Fazer([&] {
         auto& LEvento = Dado(evento, "o evento");
         const auto LGrupos = TTarvoUtilsStrings::TransfereStringParaLista(TextoOuVazio(grupos));
+        const std::lock_guard LTravado(LEvento.Meio->Trava);
         LEvento.Carregado = false;
         const TUso LUso(*LEvento.Meio);
         LEvento.Construido.Evento->CarregarDados(&LGrupos);
@@ -380,18 +360,23 @@ tarvo_situacao tarvo_evento_json(tarvo_evento* evento, int identado, char** json
 {
     return Fazer([&] {
         auto& LResultado = Resultado(json, "json");
-        LResultado = Copiar(Carregado(evento).Construido.Evento->ToJson().AsJSON(identado != 0));
+        auto& LEvento = Dado(evento, "o evento");
+        const std::lock_guard LTravado(LEvento.Meio->Trava);
+        ConferirCarregado(LEvento);
+        LResultado = Copiar(LEvento.Construido.Evento->ToJson().AsJSON(identado != 0));
     });
 }
 
 tarvo_situacao tarvo_evento_definir(tarvo_evento* evento, const char* caminho, const char* valor)
 {
     return Fazer([&] {
-        auto& LEvento = *Carregado(evento).Construido.Evento;
+        auto& LEvento = Dado(evento, "o evento");
+        const std::lock_guard LTravado(LEvento.Meio->Trava);
+        ConferirCarregado(LEvento);
         const auto LCaminho = Texto(caminho, "o caminho");
         const auto LValor = Texto(valor, "o valor");
         try {
-            DefinirPropriedadePeloCaminho(LEvento, LCaminho, LValor);
+            DefinirPropriedadePeloCaminho(*LEvento.Construido.Evento, LCaminho, LValor);
         } catch (const EConvertError& LErro) {
             throw EUsoErrado(LCaminho + ": " + LErro.what());
         }
@@ -402,14 +387,18 @@ tarvo_situacao tarvo_evento_reverter(tarvo_evento* evento, tarvo_textos** comand
 {
     return Fazer([&] {
         auto& LResultado = Resultado(comandos, "comandos");
-        auto& LEvento = Carregado(evento);
+        auto& LEvento = Dado(evento, "o evento");
+        const std::lock_guard LTravado(LEvento.Meio->Trava);
+        ConferirCarregado(LEvento);
         if (!LEvento.Definicao->Construir.TemReversao())
             throw EUsoErrado(std::string("Os valores do evento ") + LEvento.Definicao->Codigo +
                              " não voltam para o banco");
         auto LTextos = std::make_unique<tarvo_textos>();
         const TUso LUso(*LEvento.Meio);
+        auto& LLista = BuscarInstanciaListaSql();
+        LLista.LimparLista();
         LEvento.Construido.Evento->ReverterDados();
-        LTextos->Lista = BuscarInstanciaListaSql().Lista;
+        LTextos->Lista = LLista.Lista;
         LResultado = LTextos.release();
     });
 }
@@ -420,6 +409,7 @@ tarvo_situacao tarvo_executar(tarvo_conexao* conexao, const tarvo_textos* comand
 {
     return Fazer([&] {
         auto& LMeio = *Dado(conexao, "a conexão").Meio;
+        const std::lock_guard LTravado(LMeio.Trava);
         const auto& LComandos = Dado(comandos, "os comandos").Lista;
         const TUso LUso(LMeio);
         LMeio.Instantaneo = false;

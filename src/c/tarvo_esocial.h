@@ -8,8 +8,10 @@
  * reason, in Portuguese, in tarvo_erro(). A null handle or a null text where one is needed is TARVO_USO_ERRADO. The
  * functions that free take null and do nothing. A handle that was freed must not be used again.
  *
- * Threads. Any thread may call; the library serves one call at a time, whatever its connection. To load in parallel,
- * start processes.
+ * Threads. Any thread may call. Calls on different connections run side by side; calls on one connection and on its
+ * events wait for each other, so a handle may be used by any thread, but freed by one alone, when no other uses it any
+ * more. To load in parallel, open a connection for each thread. A call leaves the thread's context, if the host is a
+ * C++ one with a context of its own, as it found it.
  *
  * Moments. Each call that reads the database sees one moment of it. Between tarvo_iniciar_instantaneo and
  * tarvo_encerrar_instantaneo all calls of a connection see the same one; a write-back within is refused where somebody
