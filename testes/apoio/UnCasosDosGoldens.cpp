@@ -7,6 +7,7 @@
 #include "apoio/UnBancoDeTeste.h"
 #include "catalogo/UnTarvoESocialCamposCatalogo.h"
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
+#include "imports/UnOvraExcecoes.h"
 
 namespace tarvo::testes {
 
@@ -32,6 +33,18 @@ std::vector<TCasoDoGolden> LerCasosDosGoldens()
         }
     }
     return LCasos;
+}
+
+std::string JsonDoGolden(const TCasoDoGolden& ACaso)
+{
+    std::ifstream LArquivo(std::string(PASTA_DOS_GOLDENS) + "/" + ACaso.Evento + "/" + ACaso.Nome + ".json");
+    std::stringstream LTexto;
+    LTexto << LArquivo.rdbuf();
+    auto LJson = LTexto.str();
+    if (LJson.empty())
+        throw Exception("Falta o golden " + ACaso.Evento + "/" + ACaso.Nome);
+    LJson.pop_back(); // its last line ends
+    return LJson;
 }
 
 std::string CarregarCaso(const TCasoDoGolden& ACaso, bool AIndentado)

@@ -19,6 +19,8 @@ void PrintTo(const TCasoDoGolden& ACaso, std::ostream* ASaida);
 
 /// The cases of every event.
 std::vector<TCasoDoGolden> LerCasosDosGoldens();
+/// The JSON that a case has to give, indented.
+std::string JsonDoGolden(const TCasoDoGolden& ACaso);
 /// Loads a case on the current connection, which is the sibling system's too: its JSON.
 std::string CarregarCaso(const TCasoDoGolden& ACaso, bool AIndentado = false);
 

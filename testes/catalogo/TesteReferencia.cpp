@@ -5,10 +5,8 @@
 #include <rapidjson/stringbuffer.h>
 
 #include <filesystem>
-#include <fstream>
 #include <functional>
 #include <set>
-#include <sstream>
 
 #include "apoio/UnBancoDeTeste.h"
 #include "apoio/UnCasosDosGoldens.h"
@@ -215,13 +213,7 @@ Document LerJson(const std::string& ATexto)
     return LDocumento;
 }
 
-Document LerGolden(const TCasoDoGolden& ACaso)
-{
-    std::ifstream LArquivo(std::string(PASTA_DOS_GOLDENS) + "/" + ACaso.Evento + "/" + ACaso.Nome + ".json");
-    std::stringstream LTexto;
-    LTexto << LArquivo.rdbuf();
-    return LerJson(LTexto.str());
-}
+Document LerGolden(const TCasoDoGolden& ACaso) { return LerJson(JsonDoGolden(ACaso)); }
 
 using TVisita = std::function<void(const Pointer&, const rapidjson::Value&)>;
 
