@@ -7,7 +7,7 @@
 #include <map>
 #include <stdexcept>
 
-#include "imports/UnOvraFormaSql.h"
+#include "imports/banco/UnOvraFormaSql.h"
 
 namespace tarvo::bancada {
 

@@ -5,7 +5,7 @@
 #include <random>
 #include <string>
 
-#include "imports/UnOvraFormat.h"
+#include "imports/valores/UnOvraFormat.h"
 
 namespace tarvo::bancada {
 

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "imports/UnOvraConnection.h"
+#include "imports/banco/UnOvraConnection.h"
 
 namespace tarvo::bancada {
 

@@ -20,8 +20,8 @@
 #include "bench/UnGeradorDeEmpresa.h"
 #include "catalogo/UnTarvoESocialCamposCatalogo.h"
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
-#include "imports/UnOvraScriptSql.h"
-#include "imports/UnOvraUtilsDbFirebird.h"
+#include "imports/banco/UnOvraScriptSql.h"
+#include "imports/banco/UnOvraUtilsDbFirebird.h"
 
 namespace tarvo::bancada {
 

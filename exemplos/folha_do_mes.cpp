@@ -7,11 +7,11 @@
 #include <map>
 
 #include "catalogo/UnTarvoESocialCamposCatalogo.h"
-#include "imports/UnOvraConnection.h"
-#include "imports/UnOvraConversoes.h"
-#include "imports/UnOvraCurrency.h"
-#include "imports/UnOvraUtilsDbFirebird.h"
-#include "remuneracao/UnTarvoESocialCamposS1200.h"
+#include "imports/banco/UnOvraConnection.h"
+#include "imports/banco/UnOvraUtilsDbFirebird.h"
+#include "imports/valores/UnOvraConversoes.h"
+#include "imports/valores/UnOvraCurrency.h"
+#include "remuneracao/s1200/UnTarvoESocialCamposS1200.h"
 
 namespace {
 

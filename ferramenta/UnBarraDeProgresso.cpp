@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <cerrno>
 
-#include "imports/UnOvraFormat.h"
+#include "imports/valores/UnOvraFormat.h"
 
 namespace tarvo::ferramenta {
 

@@ -5,7 +5,7 @@
 #include "ferramenta/UnLinhaDeComando.h"
 #include "framework/UnTarvoESocialCamposCaminhos.h"
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
-#include "imports/UnTarvoUtilsStrings.h"
+#include "imports/valores/UnTarvoUtilsStrings.h"
 
 namespace tarvo::ferramenta {
 

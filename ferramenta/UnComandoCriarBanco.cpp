@@ -5,7 +5,7 @@
 #include "ferramenta/UnComandos.h"
 #include "ferramenta/UnContexto.h"
 #include "ferramenta/UnErros.h"
-#include "imports/UnOvraScriptSql.h"
+#include "imports/banco/UnOvraScriptSql.h"
 
 namespace tarvo::ferramenta {
 

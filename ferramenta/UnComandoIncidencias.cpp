@@ -11,10 +11,10 @@
 #include "ferramenta/UnComandos.h"
 #include "ferramenta/UnContexto.h"
 #include "ferramenta/UnErros.h"
-#include "imports/UnOvraConversoes.h"
-#include "imports/UnOvraFormat.h"
-#include "imports/UnTarvoConsultasGeral.h"
-#include "tabelas/UnTarvoESocialCamposBuscaIncidVerbas.h"
+#include "imports/consultas/UnTarvoConsultasGeral.h"
+#include "imports/valores/UnOvraConversoes.h"
+#include "imports/valores/UnOvraFormat.h"
+#include "regras/UnTarvoESocialCamposBuscaIncidVerbas.h"
 
 namespace tarvo::ferramenta {
 

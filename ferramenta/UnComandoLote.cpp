@@ -10,7 +10,7 @@
 #include "framework/UnOvraSerializacaoObject.h"
 #include "framework/UnTarvoESocialCamposCaminhos.h"
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
-#include "imports/UnOvraConversoes.h"
+#include "imports/valores/UnOvraConversoes.h"
 
 namespace tarvo::ferramenta {
 

@@ -10,7 +10,7 @@
 #include "ferramenta/UnLinhaDeComando.h"
 #include "imports/UnOvraEsocialReinfControleAmbientes.h"
 #include "imports/UnOvraUtilsDialogs.h"
-#include "imports/UnTarvoConexaoBrenco.h"
+#include "imports/banco/UnTarvoConexaoBrenco.h"
 
 namespace tarvo::ferramenta {
 

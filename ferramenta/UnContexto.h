@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "imports/UnOvraConnection.h"
+#include "imports/banco/UnOvraConnection.h"
 
 namespace tarvo::ferramenta {
 

@@ -1,6 +1,6 @@
 #include "ferramenta/UnComandos.h"
 #include "framework/UnTarvoESocialCamposVersao.h"
-#include "imports/UnOvraUtilsDbFirebird.h"
+#include "imports/banco/UnOvraUtilsDbFirebird.h"
 
 int main(int argc, char** argv)
 {

@@ -3,7 +3,7 @@
 #include <cstdio>
 
 #include "bench/UnGeradorDeEmpresa.h"
-#include "imports/UnOvraUtilsDbFirebird.h"
+#include "imports/banco/UnOvraUtilsDbFirebird.h"
 
 // Grows the company of a database made by `esocial-campos criar-banco --exemplo`.
 

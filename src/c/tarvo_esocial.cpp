@@ -13,11 +13,11 @@
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
 #include "framework/UnTarvoESocialCamposListaSqlReversao.h"
 #include "framework/UnTarvoESocialCamposVersao.h"
-#include "imports/UnOvraConnection.h"
-#include "imports/UnOvraContexto.h"
-#include "imports/UnOvraConversoes.h"
-#include "imports/UnOvraUtilsDbFirebird.h"
-#include "imports/UnTarvoUtilsStrings.h"
+#include "imports/banco/UnOvraConnection.h"
+#include "imports/banco/UnOvraContexto.h"
+#include "imports/banco/UnOvraUtilsDbFirebird.h"
+#include "imports/valores/UnOvraConversoes.h"
+#include "imports/valores/UnTarvoUtilsStrings.h"
 
 using namespace tarvo;
 

@@ -11,8 +11,8 @@
 #include <typeinfo>
 #include <vector>
 
-#include "imports/UnOvraDataHora.h"
 #include "imports/UnOvraExcecoes.h"
+#include "imports/valores/UnOvraDataHora.h"
 
 namespace tarvo {
 

@@ -1,10 +1,10 @@
 #include "catalogo/UnTarvoESocialCamposChavesDoLote.h"
 
-#include "framework/UnTarvoESocialCamposSqlCategoria.h"
 #include "imports/UnOvraEsocialReinfControleAmbientes.h"
-#include "imports/UnTarvoConsultasEmpregado.h"
-#include "imports/UnTarvoUtilsDb.h"
+#include "imports/banco/UnTarvoUtilsDb.h"
+#include "imports/consultas/UnTarvoConsultasEmpregado.h"
 #include "imports/pcesConversaoeSocial.h"
+#include "regras/UnTarvoESocialCamposSqlCategoria.h"
 
 namespace tarvo::catalogo {
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "catalogo/UnTarvoESocialCamposCatalogo.h"
-#include "imports/UnOvraFormat.h"
+#include "imports/valores/UnOvraFormat.h"
 
 // The keys of each event's batch: which statement lists them, and what the caller gives besides.
 

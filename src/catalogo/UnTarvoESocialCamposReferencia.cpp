@@ -15,7 +15,7 @@
 
 #include "catalogo/UnTarvoESocialCamposCatalogo.h"
 #include "framework/UnTarvoESocialCamposAtributosProp.h"
-#include "imports/UnOvraConversoes.h"
+#include "imports/valores/UnOvraConversoes.h"
 
 namespace tarvo {
 

@@ -9,9 +9,9 @@
 #include <cmath>
 
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
-#include "imports/UnOvraConversoes.h"
 #include "imports/UnOvraExcecoes.h"
-#include "imports/UnOvraFormat.h"
+#include "imports/valores/UnOvraConversoes.h"
+#include "imports/valores/UnOvraFormat.h"
 
 namespace tarvo {
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "imports/UnOvraConversoes.h"
+#include "imports/valores/UnOvraConversoes.h"
 
 namespace tarvo {
 

@@ -14,8 +14,8 @@
 #include <vector>
 
 #include "framework/UnTarvoESocialCamposConversoresAtributo.h"
-#include "imports/UnOvraCurrency.h"
-#include "imports/UnOvraDataHora.h"
+#include "imports/valores/UnOvraCurrency.h"
+#include "imports/valores/UnOvraDataHora.h"
 
 namespace tarvo {
 

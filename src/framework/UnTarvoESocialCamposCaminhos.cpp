@@ -3,7 +3,7 @@
 #include <limits>
 
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
-#include "imports/UnOvraConversoes.h"
+#include "imports/valores/UnOvraConversoes.h"
 
 namespace tarvo {
 

@@ -1,7 +1,7 @@
 #include "framework/UnTarvoESocialCamposConversoresAtributo.h"
 
 #include "imports/UnOvraExcecoes.h"
-#include "imports/UnOvraUtilsStrings.h"
+#include "imports/valores/UnOvraUtilsStrings.h"
 
 namespace tarvo {
 

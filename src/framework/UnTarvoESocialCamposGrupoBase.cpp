@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <limits>
 
-#include "imports/UnOvraConversoes.h"
 #include "imports/UnOvraExcecoes.h"
-#include "imports/UnTarvoUtilsDb.h"
+#include "imports/banco/UnTarvoUtilsDb.h"
+#include "imports/valores/UnOvraConversoes.h"
 
 namespace tarvo {
 

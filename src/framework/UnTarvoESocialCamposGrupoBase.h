@@ -8,7 +8,7 @@
 #include "framework/UnOvraSerializacaoObject.h"
 #include "framework/UnTarvoESocialCamposAtributosProp.h"
 #include "framework/UnTarvoESocialCamposConversoresAtributo.h"
-#include "imports/UnOvraClientDataSet.h"
+#include "imports/banco/UnOvraClientDataSet.h"
 
 namespace tarvo {
 

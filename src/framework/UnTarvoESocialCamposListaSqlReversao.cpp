@@ -1,8 +1,8 @@
 #include "framework/UnTarvoESocialCamposListaSqlReversao.h"
 
-#include "imports/UnOvraConnection.h"
-#include "imports/UnOvraContexto.h"
 #include "imports/UnOvraExcecoes.h"
+#include "imports/banco/UnOvraConnection.h"
+#include "imports/banco/UnOvraContexto.h"
 
 namespace tarvo {
 

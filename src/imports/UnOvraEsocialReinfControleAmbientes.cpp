@@ -1,9 +1,9 @@
 #include "imports/UnOvraEsocialReinfControleAmbientes.h"
 
-#include "imports/UnOvraContexto.h"
-#include "imports/UnOvraConversoes.h"
 #include "imports/UnOvraExcecoes.h"
-#include "imports/UnOvraFormat.h"
+#include "imports/banco/UnOvraContexto.h"
+#include "imports/valores/UnOvraConversoes.h"
+#include "imports/valores/UnOvraFormat.h"
 
 namespace tarvo {
 

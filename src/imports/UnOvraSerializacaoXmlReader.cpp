@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <pugixml.hpp>
 
-#include "imports/UnOvraConversoes.h"
 #include "imports/UnOvraExcecoes.h"
+#include "imports/valores/UnOvraConversoes.h"
 
 namespace tarvo {
 

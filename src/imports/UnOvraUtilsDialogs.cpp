@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "imports/UnOvraContexto.h"
+#include "imports/banco/UnOvraContexto.h"
 
 namespace tarvo {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "imports/UnTarvoUtilsGeral.h"
+#include "imports/valores/UnTarvoUtilsGeral.h"
 
 namespace tarvo {
 

@@ -1,6 +1,6 @@
 #include "imports/UnTarvoTypesGeral.h"
 
-#include "imports/UnOvraConversoes.h"
+#include "imports/valores/UnOvraConversoes.h"
 
 namespace tarvo {
 

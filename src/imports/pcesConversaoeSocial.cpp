@@ -3,7 +3,7 @@
 #include <array>
 #include <string>
 
-#include "imports/UnOvraConversoes.h"
+#include "imports/valores/UnOvraConversoes.h"
 
 namespace tarvo {
 

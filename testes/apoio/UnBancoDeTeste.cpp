@@ -11,10 +11,10 @@
 #include <sstream>
 
 #include "banco/UnBancoEmbutido.h"
-#include "imports/UnOvraConversoes.h"
-#include "imports/UnOvraScriptSql.h"
-#include "imports/UnTarvoConexaoBrenco.h"
-#include "imports/UnTarvoUtilsDb.h"
+#include "imports/banco/UnOvraScriptSql.h"
+#include "imports/banco/UnTarvoConexaoBrenco.h"
+#include "imports/banco/UnTarvoUtilsDb.h"
+#include "imports/valores/UnOvraConversoes.h"
 
 namespace tarvo::testes {
 

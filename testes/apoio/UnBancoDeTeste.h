@@ -10,9 +10,9 @@
 #include <utility>
 #include <variant>
 
-#include "imports/UnOvraConnection.h"
-#include "imports/UnOvraCurrency.h"
-#include "imports/UnOvraDataHora.h"
+#include "imports/banco/UnOvraConnection.h"
+#include "imports/valores/UnOvraCurrency.h"
+#include "imports/valores/UnOvraDataHora.h"
 
 namespace tarvo::testes {
 

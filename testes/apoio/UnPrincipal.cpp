@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "apoio/UnBancoDeTeste.h"
-#include "imports/UnOvraUtilsDbFirebird.h"
+#include "imports/banco/UnOvraUtilsDbFirebird.h"
 
 int main(int argc, char** argv)
 {

@@ -1,7 +1,7 @@
 #include "apoio/UnBancoDeTeste.h"
 #include "apoio/UnCasosDosGoldens.h"
 #include "imports/UnOvraExcecoes.h"
-#include "imports/UnOvraFormaSql.h"
+#include "imports/banco/UnOvraFormaSql.h"
 
 // Prepared statements that are kept by their shape: no meaning may change with them.
 

@@ -7,8 +7,8 @@
 #include "framework/UnTarvoESocialCamposCaminhos.h"
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
 #include "framework/UnTarvoESocialCamposListaSqlReversao.h"
-#include "imports/UnOvraContexto.h"
 #include "imports/UnOvraExcecoes.h"
+#include "imports/banco/UnOvraContexto.h"
 
 namespace tarvo::testes {
 namespace {

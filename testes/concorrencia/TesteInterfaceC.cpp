@@ -9,8 +9,8 @@
 #include "c/tarvo_esocial.h"
 #include "concorrencia/UnThreadsDeTeste.h"
 #include "framework/UnTarvoESocialCamposListaSqlReversao.h"
-#include "imports/UnOvraContexto.h"
 #include "imports/UnOvraExcecoes.h"
+#include "imports/banco/UnOvraContexto.h"
 
 namespace tarvo::testes {
 namespace {

@@ -4,7 +4,7 @@
 #include <functional>
 #include <mutex>
 
-#include "imports/UnOvraConnection.h"
+#include "imports/banco/UnOvraConnection.h"
 
 namespace tarvo::testes {
 

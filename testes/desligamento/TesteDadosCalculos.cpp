@@ -1,6 +1,6 @@
-#include "desligamento/UnTS2299DadosCalculos.h"
-#include "desligamento/UnTS2399DadosCalculos.h"
-#include "imports/UnOvraConversoes.h"
+#include "desligamento/s2299/UnTS2299DadosCalculos.h"
+#include "desligamento/s2399/UnTS2399DadosCalculos.h"
+#include "imports/valores/UnOvraConversoes.h"
 #include "remuneracao/UnCenarioDeFolha.h"
 
 namespace tarvo::testes {

@@ -1,10 +1,10 @@
 #include <set>
 
-#include "desligamento/UnTarvoESocialCamposConversoresDesligamento.h"
-#include "desligamento/UnTarvoESocialCamposS2299.h"
-#include "desligamento/UnTarvoESocialCamposS2399.h"
+#include "desligamento/s2299/UnTarvoESocialCamposConversoresDesligamento.h"
+#include "desligamento/s2299/UnTarvoESocialCamposS2299.h"
+#include "desligamento/s2399/UnTarvoESocialCamposS2399.h"
 #include "imports/UnOvraExcecoes.h"
-#include "imports/UnTarvoUtilsDb.h"
+#include "imports/banco/UnTarvoUtilsDb.h"
 #include "remuneracao/UnCenarioDeFolha.h"
 
 namespace tarvo::testes {

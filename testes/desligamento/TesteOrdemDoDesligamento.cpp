@@ -1,7 +1,7 @@
 #include "apoio/UnCasosDeOrdem.h"
-#include "desligamento/UnTarvoESocialCamposS2299.h"
-#include "desligamento/UnTarvoESocialCamposS2399.h"
-#include "imports/UnOvraConversoes.h"
+#include "desligamento/s2299/UnTarvoESocialCamposS2299.h"
+#include "desligamento/s2399/UnTarvoESocialCamposS2399.h"
+#include "imports/valores/UnOvraConversoes.h"
 #include "remuneracao/UnCenarioDeFolha.h"
 
 namespace tarvo::testes {

@@ -2,12 +2,12 @@
 
 #include "apoio/UnBancoDeTeste.h"
 #include "catalogo/UnTarvoESocialCamposCatalogo.h"
-#include "desligamento/UnTarvoESocialCamposS2299.h"
-#include "desligamento/UnTarvoESocialCamposS2399.h"
-#include "imports/UnOvraFormat.h"
-#include "imports/UnTarvoConsultasGeral.h"
-#include "imports/UnTarvoUtilsDatas.h"
-#include "pagamento/UnTarvoESocialCamposS1210.h"
+#include "desligamento/s2299/UnTarvoESocialCamposS2299.h"
+#include "desligamento/s2399/UnTarvoESocialCamposS2399.h"
+#include "imports/consultas/UnTarvoConsultasGeral.h"
+#include "imports/valores/UnOvraFormat.h"
+#include "imports/valores/UnTarvoUtilsDatas.h"
+#include "pagamento/s1210/UnTarvoESocialCamposS1210.h"
 
 namespace tarvo::testes {
 namespace {

@@ -8,9 +8,9 @@
 
 #include "apoio/UnBancoDeTeste.h"
 #include "apoio/UnPrograma.h"
-#include "imports/UnOvraConversoes.h"
 #include "imports/UnOvraExcecoes.h"
-#include "tabelas/UnTarvoESocialCamposS1000.h"
+#include "imports/valores/UnOvraConversoes.h"
+#include "tabelas/s1000/UnTarvoESocialCamposS1000.h"
 
 // The real program, run as a person would.
 

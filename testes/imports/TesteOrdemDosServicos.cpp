@@ -1,8 +1,8 @@
 #include "apoio/UnCasosDeOrdem.h"
-#include "imports/UnTarvoConsultasCAT.h"
-#include "imports/UnTarvoConsultasESocial.h"
-#include "imports/UnTarvoConsultasEmpresa.h"
-#include "imports/UnTarvoConsultasVerbas.h"
+#include "imports/consultas/UnTarvoConsultasCAT.h"
+#include "imports/consultas/UnTarvoConsultasESocial.h"
+#include "imports/consultas/UnTarvoConsultasEmpresa.h"
+#include "imports/consultas/UnTarvoConsultasVerbas.h"
 
 namespace tarvo::testes {
 namespace {

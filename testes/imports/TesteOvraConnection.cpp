@@ -4,7 +4,7 @@
 
 #include "apoio/UnBancoDeTeste.h"
 #include "imports/UnOvraExcecoes.h"
-#include "imports/UnOvraScriptSql.h"
+#include "imports/banco/UnOvraScriptSql.h"
 #include "imports/firebird/UnOvraFirebirdMensagem.h"
 
 namespace tarvo::testes {

@@ -4,11 +4,11 @@
 #include <cmath>
 #include <limits>
 
-#include "imports/UnOvraConversoes.h"
-#include "imports/UnOvraCurrency.h"
-#include "imports/UnOvraDataHora.h"
 #include "imports/UnOvraExcecoes.h"
-#include "imports/UnOvraFormat.h"
+#include "imports/valores/UnOvraConversoes.h"
+#include "imports/valores/UnOvraCurrency.h"
+#include "imports/valores/UnOvraDataHora.h"
+#include "imports/valores/UnOvraFormat.h"
 
 namespace tarvo {
 namespace {

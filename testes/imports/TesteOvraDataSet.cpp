@@ -1,7 +1,7 @@
 #include "apoio/UnBancoDeTeste.h"
-#include "imports/UnOvraClientDataSet.h"
-#include "imports/UnOvraConversoes.h"
 #include "imports/UnOvraExcecoes.h"
+#include "imports/banco/UnOvraClientDataSet.h"
+#include "imports/valores/UnOvraConversoes.h"
 
 namespace tarvo::testes {
 namespace {

@@ -6,7 +6,7 @@
 #include <cstdlib>
 #include <filesystem>
 
-#include "imports/UnOvraUtilsDbFirebird.h"
+#include "imports/banco/UnOvraUtilsDbFirebird.h"
 
 namespace tarvo::testes {
 namespace {

@@ -2,11 +2,11 @@
 #include <set>
 
 #include "apoio/UnBancoDeTeste.h"
-#include "imports/UnOvraConversoes.h"
-#include "imports/UnOvraFormat.h"
-#include "imports/UnTarvoUtilsDatas.h"
-#include "pagamento/UnTarvoESocialCamposS1210.h"
-#include "remuneracao/UnTarvoESocialCamposS1200.h"
+#include "imports/valores/UnOvraConversoes.h"
+#include "imports/valores/UnOvraFormat.h"
+#include "imports/valores/UnTarvoUtilsDatas.h"
+#include "pagamento/s1210/UnTarvoESocialCamposS1210.h"
+#include "remuneracao/s1200/UnTarvoESocialCamposS1200.h"
 
 namespace tarvo::testes {
 namespace {

@@ -3,8 +3,8 @@
 #include <ostream>
 
 #include "UnPagamentoDeTeste.h"
-#include "imports/UnOvraFormat.h"
-#include "pagamento/UnTarvoESocialCamposSqlS1210.h"
+#include "imports/valores/UnOvraFormat.h"
+#include "pagamento/s1210/UnTarvoESocialCamposSqlS1210.h"
 
 namespace tarvo::testes {
 namespace {

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "apoio/UnBancoDeTeste.h"
-#include "imports/UnOvraConversoes.h"
 #include "imports/UnOvraExcecoes.h"
-#include "pagamento/UnTarvoESocialCamposS1210.h"
+#include "imports/valores/UnOvraConversoes.h"
+#include "pagamento/s1210/UnTarvoESocialCamposS1210.h"
 
 namespace tarvo::testes {
 

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "apoio/UnBancoDeTeste.h"
-#include "remuneracao/UnTarvoESocialCamposIdeDmDev.h"
+#include "regras/UnTarvoESocialCamposIdeDmDev.h"
 
 namespace tarvo::testes {
 namespace {

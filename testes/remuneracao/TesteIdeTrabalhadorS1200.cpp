@@ -1,7 +1,7 @@
 #include "imports/UnOvraExcecoes.h"
 #include "remuneracao/UnCenarioDeFolha.h"
-#include "remuneracao/UnTarvoESocialCamposIdeTrabalhadorS1200.h"
-#include "remuneracao/UnTarvoESocialCamposinfoComplCont.h"
+#include "remuneracao/s1200/UnTarvoESocialCamposIdeTrabalhadorS1200.h"
+#include "remuneracao/s1200/UnTarvoESocialCamposinfoComplCont.h"
 
 namespace tarvo::testes {
 namespace {

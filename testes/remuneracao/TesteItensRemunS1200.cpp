@@ -1,6 +1,6 @@
 #include "imports/UnOvraExcecoes.h"
 #include "remuneracao/UnCenarioDeFolha.h"
-#include "remuneracao/UnTarvoESocialCamposItensRemunS1200.h"
+#include "remuneracao/periodo/UnTarvoESocialCamposItensRemunS1200.h"
 
 namespace tarvo::testes {
 namespace {

@@ -2,9 +2,9 @@
 #include <functional>
 #include <vector>
 
-#include "imports/UnOvraFormat.h"
+#include "imports/valores/UnOvraFormat.h"
 #include "remuneracao/UnCenarioDeFolha.h"
-#include "remuneracao/UnTarvoESocialCamposS1200.h"
+#include "remuneracao/s1200/UnTarvoESocialCamposS1200.h"
 
 namespace tarvo::testes {
 namespace {

@@ -1,6 +1,6 @@
 #include "imports/UnOvraExcecoes.h"
 #include "remuneracao/UnCenarioDeFolha.h"
-#include "remuneracao/UnTarvoESocialCamposinfoPerAntS1200.h"
+#include "remuneracao/anteriores/UnTarvoESocialCamposinfoPerAntS1200.h"
 
 namespace tarvo::testes {
 namespace {

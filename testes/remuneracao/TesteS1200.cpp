@@ -5,9 +5,9 @@
 #include <tuple>
 
 #include "imports/UnOvraExcecoes.h"
-#include "imports/UnTarvoUtilsDatas.h"
+#include "imports/valores/UnTarvoUtilsDatas.h"
 #include "remuneracao/UnCenarioDeFolha.h"
-#include "remuneracao/UnTarvoESocialCamposS1200.h"
+#include "remuneracao/s1200/UnTarvoESocialCamposS1200.h"
 
 namespace tarvo::testes {
 namespace {

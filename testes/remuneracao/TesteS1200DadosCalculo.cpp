@@ -1,10 +1,10 @@
 #include <algorithm>
 #include <optional>
 
-#include "framework/UnTarvoESocialCamposSqlCalculo.h"
 #include "imports/UnOvraExcecoes.h"
+#include "regras/UnTarvoESocialCamposSqlCalculo.h"
 #include "remuneracao/UnCenarioDeFolha.h"
-#include "remuneracao/UnTarvoESocialCamposS1200DadosCalculo.h"
+#include "remuneracao/periodo/UnTarvoESocialCamposS1200DadosCalculo.h"
 
 namespace tarvo::testes {
 namespace {

@@ -1,10 +1,10 @@
 #include "imports/UnOvraExcecoes.h"
 #include "remuneracao/UnCenarioDeFolha.h"
-#include "remuneracao/UnTarvoESocialCamposInfoAgNocivoS1200.h"
-#include "remuneracao/UnTarvoESocialCamposInfoSaudeColetS1200.h"
-#include "remuneracao/UnTarvoESocialCamposInfoTrabInterm.h"
-#include "remuneracao/UnTarvoESocialCamposS1200.h"
-#include "remuneracao/UnTarvoESocialCamposinfoSaudeColet.h"
+#include "remuneracao/periodo/UnTarvoESocialCamposInfoAgNocivoS1200.h"
+#include "remuneracao/periodo/UnTarvoESocialCamposInfoTrabInterm.h"
+#include "remuneracao/s1200/UnTarvoESocialCamposS1200.h"
+#include "remuneracao/saude/UnTarvoESocialCamposInfoSaudeColetS1200.h"
+#include "remuneracao/saude/UnTarvoESocialCamposinfoSaudeColet.h"
 
 namespace tarvo::testes {
 namespace {

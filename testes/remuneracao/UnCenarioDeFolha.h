@@ -1,8 +1,8 @@
 #pragma once
 
 #include "apoio/UnBancoDeTeste.h"
-#include "imports/UnOvraConversoes.h"
-#include "remuneracao/UnTarvoESocialCamposS1200IOP.h"
+#include "imports/valores/UnOvraConversoes.h"
+#include "remuneracao/s1200/UnTarvoESocialCamposS1200IOP.h"
 
 namespace tarvo::testes {
 

@@ -11,8 +11,8 @@
 #include "apoio/UnTestesLongos.h"
 #include "catalogo/UnTarvoESocialCamposCatalogo.h"
 #include "framework/UnTarvoESocialCamposGrupoBase.h"
-#include "imports/UnOvraConversoes.h"
 #include "imports/UnOvraExcecoes.h"
+#include "imports/valores/UnOvraConversoes.h"
 
 // Whatever a payroll database may hold: each bound property takes the value or raises the error that the binding's
 // rules say, and a load over spoiled tables ends in a tree or in a clear error.

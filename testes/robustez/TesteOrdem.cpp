@@ -8,7 +8,7 @@
 #include "apoio/UnTestesLongos.h"
 #include "banco/UnBancoEmbutido.h"
 #include "imports/UnOvraExcecoes.h"
-#include "imports/UnOvraScriptSql.h"
+#include "imports/banco/UnOvraScriptSql.h"
 
 // The same rows give the same JSON, in whatever order a file holds them, whatever indexes it has, and whichever row
 // of several that tie the engine would meet first.

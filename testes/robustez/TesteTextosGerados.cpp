@@ -8,15 +8,15 @@
 #include "apoio/UnBancoDeTeste.h"
 #include "apoio/UnEventosDoCatalogo.h"
 #include "apoio/UnTestesLongos.h"
-#include "imports/UnOvraConversoes.h"
 #include "imports/UnOvraExcecoes.h"
-#include "imports/UnOvraFormaSql.h"
-#include "imports/UnOvraFormat.h"
-#include "imports/UnOvraScriptSql.h"
 #include "imports/UnOvraSerializacaoXmlReader.h"
-#include "imports/UnOvraUtilsStrings.h"
-#include "imports/UnTarvoUtilsDb.h"
-#include "imports/UnTarvoUtilsStrings.h"
+#include "imports/banco/UnOvraFormaSql.h"
+#include "imports/banco/UnOvraScriptSql.h"
+#include "imports/banco/UnTarvoUtilsDb.h"
+#include "imports/valores/UnOvraConversoes.h"
+#include "imports/valores/UnOvraFormat.h"
+#include "imports/valores/UnOvraUtilsStrings.h"
+#include "imports/valores/UnTarvoUtilsStrings.h"
 
 // Texts that nobody wrote: whatever reads a text gives a value or its own error, always ends, and what can be put
 // together again is the same text.

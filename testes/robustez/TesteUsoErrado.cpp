@@ -7,7 +7,7 @@
 #include "apoio/UnEventosDoCatalogo.h"
 #include "apoio/UnPrograma.h"
 #include "apoio/UnTestesLongos.h"
-#include "imports/UnOvraConversoes.h"
+#include "imports/valores/UnOvraConversoes.h"
 
 // Every command of the program with every argument missing, given twice or malformed. The database doesn't exist: what
 // is wrong with the line is told before anybody looks for it.

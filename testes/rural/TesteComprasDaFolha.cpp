@@ -1,9 +1,9 @@
 #include "imports/UnOvraExcecoes.h"
 #include "rural/UnComprasDeTeste.h"
-#include "rural/UnTarvoESocialCamposS1260.h"
-#include "rural/UnTarvoESocialCamposideProdutor.h"
-#include "rural/UnTarvoESocialCampostpAquis.h"
-#include "rural/UnTarvoESocialCampostpAquisBrenco.h"
+#include "rural/produtor/UnTarvoESocialCamposideProdutor.h"
+#include "rural/s1250/UnTarvoESocialCampostpAquis.h"
+#include "rural/s1250/UnTarvoESocialCampostpAquisBrenco.h"
+#include "rural/s1260/UnTarvoESocialCamposS1260.h"
 
 namespace tarvo::testes {
 namespace {

@@ -1,12 +1,12 @@
 #include <tuple>
 
 #include "imports/UnOvraExcecoes.h"
-#include "imports/UnTarvoConexaoBrenco.h"
+#include "imports/banco/UnTarvoConexaoBrenco.h"
 #include "rural/UnComprasDeTeste.h"
-#include "rural/UnTarvoESocialCamposideEstabAdquir.h"
-#include "rural/UnTarvoESocialCamposideEstabAdquirBrencoExterno.h"
-#include "rural/UnTarvoESocialCamposideProdutorBrencoExterno.h"
-#include "rural/UnTarvoESocialCampostpAquisBrencoExterno.h"
+#include "rural/produtor/UnTarvoESocialCamposideProdutorBrencoExterno.h"
+#include "rural/s1250/UnTarvoESocialCamposideEstabAdquir.h"
+#include "rural/s1250/UnTarvoESocialCamposideEstabAdquirBrencoExterno.h"
+#include "rural/s1250/UnTarvoESocialCampostpAquisBrencoExterno.h"
 
 namespace tarvo::testes {
 namespace {

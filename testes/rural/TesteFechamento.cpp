@@ -1,8 +1,8 @@
 #include "apoio/UnBancoDeTeste.h"
 #include "imports/UnOvraEsocialReinfControleAmbientes.h"
 #include "imports/UnOvraExcecoes.h"
-#include "rural/UnTarvoESocialCamposS1280.h"
-#include "rural/UnTarvoESocialCamposS1299.h"
+#include "rural/fechamento/UnTarvoESocialCamposS1299.h"
+#include "rural/s1280/UnTarvoESocialCamposS1280.h"
 
 namespace tarvo::testes {
 namespace {

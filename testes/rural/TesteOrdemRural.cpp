@@ -1,7 +1,7 @@
 #include "apoio/UnCasosDeOrdem.h"
 #include "rural/UnComprasDeTeste.h"
-#include "rural/UnTarvoESocialCamposS1280.h"
-#include "rural/UnTarvoESocialCamposS1299.h"
+#include "rural/fechamento/UnTarvoESocialCamposS1299.h"
+#include "rural/s1280/UnTarvoESocialCamposS1280.h"
 
 namespace tarvo::testes {
 namespace {

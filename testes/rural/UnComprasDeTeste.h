@@ -4,8 +4,8 @@
 #include <string>
 
 #include "apoio/UnBancoDeTeste.h"
-#include "imports/UnOvraConversoes.h"
-#include "rural/UnTarvoESocialCamposS1250.h"
+#include "imports/valores/UnOvraConversoes.h"
+#include "rural/s1250/UnTarvoESocialCamposS1250.h"
 
 namespace tarvo::testes {
 

@@ -1,5 +1,5 @@
-#include "sst/UnTarvoESocialCamposS2210.h"
-#include "sst/UnTarvoESocialCamposS2245.h"
+#include "sst/s2210/UnTarvoESocialCamposS2210.h"
+#include "sst/s2245/UnTarvoESocialCamposS2245.h"
 #include "trabalhador/UnOrdemDasLinhas.h"
 
 namespace tarvo::testes {

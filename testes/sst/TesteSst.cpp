@@ -1,10 +1,10 @@
 #include "apoio/UnBancoDeTeste.h"
-#include "sst/UnTarvoESocialCamposS2210.h"
-#include "sst/UnTarvoESocialCamposS2220.h"
-#include "sst/UnTarvoESocialCamposS2221.h"
-#include "sst/UnTarvoESocialCamposS2240.h"
-#include "sst/UnTarvoESocialCamposS2241.h"
-#include "sst/UnTarvoESocialCamposS2245.h"
+#include "sst/s2210/UnTarvoESocialCamposS2210.h"
+#include "sst/s2220/UnTarvoESocialCamposS2220.h"
+#include "sst/s2221/UnTarvoESocialCamposS2221.h"
+#include "sst/s2240/UnTarvoESocialCamposS2240.h"
+#include "sst/s2241/UnTarvoESocialCamposS2241.h"
+#include "sst/s2245/UnTarvoESocialCamposS2245.h"
 
 namespace tarvo::testes {
 namespace {

@@ -1,7 +1,7 @@
 #include "imports/UnOvraExcecoes.h"
 #include "tabelas/UnLugarDeTeste.h"
-#include "tabelas/UnTarvoESocialCamposS1060.h"
-#include "tabelas/UnTarvoESocialCamposS1070.h"
+#include "tabelas/s1060/UnTarvoESocialCamposS1060.h"
+#include "tabelas/s1070/UnTarvoESocialCamposS1070.h"
 
 namespace tarvo::testes {
 namespace {

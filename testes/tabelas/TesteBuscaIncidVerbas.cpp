@@ -1,10 +1,10 @@
 #include <sstream>
 
 #include "apoio/UnBancoDeTeste.h"
-#include "imports/UnOvraFormat.h"
 #include "imports/UnOvraUtilsDialogs.h"
-#include "tabelas/UnTarvoESocialCamposBuscaIncidVerbas.h"
-#include "tabelas/UnTarvoESocialCamposCodRubr.h"
+#include "imports/valores/UnOvraFormat.h"
+#include "regras/UnTarvoESocialCamposBuscaIncidVerbas.h"
+#include "regras/UnTarvoESocialCamposCodRubr.h"
 
 namespace tarvo::testes {
 namespace {

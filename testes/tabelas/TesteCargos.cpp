@@ -1,8 +1,8 @@
 #include "apoio/UnBancoDeTeste.h"
 #include "framework/UnTarvoESocialCamposListaSqlReversao.h"
-#include "tabelas/UnTarvoESocialCamposS1030.h"
-#include "tabelas/UnTarvoESocialCamposS1035.h"
-#include "tabelas/UnTarvoESocialCamposS1040.h"
+#include "tabelas/s1030/UnTarvoESocialCamposS1030.h"
+#include "tabelas/s1035/UnTarvoESocialCamposS1035.h"
+#include "tabelas/s1040/UnTarvoESocialCamposS1040.h"
 
 namespace tarvo::testes {
 namespace {

@@ -1,7 +1,7 @@
 #include "apoio/UnBancoDeTeste.h"
 #include "framework/UnTarvoESocialCamposListaSqlReversao.h"
 #include "imports/UnOvraExcecoes.h"
-#include "tabelas/UnTarvoESocialCamposS1000.h"
+#include "tabelas/s1000/UnTarvoESocialCamposS1000.h"
 
 namespace tarvo::testes {
 namespace {

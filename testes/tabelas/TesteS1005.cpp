@@ -1,10 +1,10 @@
 #include <set>
 
-#include "imports/UnOvraConversoes.h"
 #include "imports/UnOvraExcecoes.h"
+#include "imports/valores/UnOvraConversoes.h"
 #include "tabelas/UnLugarDeTeste.h"
-#include "tabelas/UnTarvoESocialCamposS1005.h"
-#include "tabelas/UnTarvoESocialCamposTipoInscricao1005.h"
+#include "tabelas/estabelecimento/UnTarvoESocialCamposTipoInscricao1005.h"
+#include "tabelas/s1005/UnTarvoESocialCamposS1005.h"
 
 namespace tarvo::testes {
 namespace {

@@ -1,7 +1,7 @@
 #include "apoio/UnBancoDeTeste.h"
-#include "imports/UnTarvoConsultasESocial.h"
-#include "tabelas/UnTarvoESocialCamposBuscaIncidVerbas.h"
-#include "tabelas/UnTarvoESocialCamposS1010.h"
+#include "imports/consultas/UnTarvoConsultasESocial.h"
+#include "regras/UnTarvoESocialCamposBuscaIncidVerbas.h"
+#include "tabelas/s1010/UnTarvoESocialCamposS1010.h"
 
 namespace tarvo::testes {
 namespace {

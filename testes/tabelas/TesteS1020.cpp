@@ -1,6 +1,6 @@
 #include "imports/UnOvraExcecoes.h"
 #include "tabelas/UnLugarDeTeste.h"
-#include "tabelas/UnTarvoESocialCamposS1020.h"
+#include "tabelas/s1020/UnTarvoESocialCamposS1020.h"
 
 namespace tarvo::testes {
 namespace {

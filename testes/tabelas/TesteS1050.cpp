@@ -1,6 +1,6 @@
 #include "apoio/UnBancoDeTeste.h"
 #include "catalogo/UnTarvoESocialCamposCatalogo.h"
-#include "tabelas/UnTarvoESocialCamposS1050.h"
+#include "tabelas/s1050/UnTarvoESocialCamposS1050.h"
 
 namespace tarvo::testes {
 namespace {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "apoio/UnBancoDeTeste.h"
-#include "framework/UnTarvoESocialCamposSqlConfiguracao.h"
+#include "regras/UnTarvoESocialCamposSqlConfiguracao.h"
 
 namespace tarvo::testes {
 

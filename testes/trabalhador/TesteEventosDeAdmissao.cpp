@@ -1,9 +1,9 @@
 #include "apoio/UnBancoDeTeste.h"
 #include "imports/UnOvraExcecoes.h"
-#include "trabalhador/UnTarvoESocialCamposInfoCeletistaXML.h"
-#include "trabalhador/UnTarvoESocialCamposVinculoXML.h"
 #include "trabalhador/s2190/UnTarvoESocialCamposS2190.h"
 #include "trabalhador/s2205/UnTarvoESocialCamposS2205.h"
+#include "trabalhador/xml/UnTarvoESocialCamposInfoCeletistaXML.h"
+#include "trabalhador/xml/UnTarvoESocialCamposVinculoXML.h"
 
 namespace tarvo::testes {
 namespace {

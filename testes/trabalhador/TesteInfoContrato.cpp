@@ -1,6 +1,6 @@
 #include "imports/UnOvraExcecoes.h"
-#include "trabalhador/UnTarvoESocialCamposInfoContrato.h"
 #include "trabalhador/UnTrabalhadorDeTeste.h"
+#include "trabalhador/contrato/UnTarvoESocialCamposInfoContrato.h"
 
 namespace tarvo::testes {
 namespace {

@@ -1,12 +1,12 @@
 #include "trabalhador/UnOrdemDasLinhas.h"
-#include "trabalhador/UnTarvoESocialCamposInfoContrato.h"
-#include "trabalhador/UnTarvoESocialCamposTrabalhador.h"
-#include "trabalhador/UnTarvoESocialCamposVinculo.h"
 #include "trabalhador/UnTrabalhadorDeTeste.h"
+#include "trabalhador/contrato/UnTarvoESocialCamposInfoContrato.h"
+#include "trabalhador/pessoa/UnTarvoESocialCamposTrabalhador.h"
 #include "trabalhador/s2230/UnTarvoESocialCamposS2230.h"
 #include "trabalhador/s2260/UnTarvoESocialCamposS2260.h"
 #include "trabalhador/s2300/UnTarvoESocialCamposInfoTSVInicio.h"
 #include "trabalhador/s3000/UnTarvoESocialCamposS3000.h"
+#include "trabalhador/vinculo/UnTarvoESocialCamposVinculo.h"
 
 namespace tarvo::testes {
 namespace {

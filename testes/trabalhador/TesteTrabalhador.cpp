@@ -1,7 +1,7 @@
 #include "apoio/UnBancoDeTeste.h"
 #include "imports/UnOvraExcecoes.h"
-#include "trabalhador/UnTarvoESocialCamposTrabalhador.h"
-#include "trabalhador/UnTarvoESocialCamposideVinculo.h"
+#include "trabalhador/pessoa/UnTarvoESocialCamposTrabalhador.h"
+#include "trabalhador/vinculo/UnTarvoESocialCamposideVinculo.h"
 
 namespace tarvo::testes {
 namespace {

@@ -1,6 +1,6 @@
 #include "imports/UnOvraExcecoes.h"
-#include "trabalhador/UnTarvoESocialCamposVinculo.h"
 #include "trabalhador/UnTrabalhadorDeTeste.h"
+#include "trabalhador/vinculo/UnTarvoESocialCamposVinculo.h"
 
 namespace tarvo::testes {
 namespace {

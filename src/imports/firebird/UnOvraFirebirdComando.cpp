@@ -3,8 +3,8 @@
 #include <array>
 #include <string>
 
-#include "imports/UnOvraConversoes.h"
-#include "imports/UnOvraDataHora.h"
+#include "imports/valores/UnOvraConversoes.h"
+#include "imports/valores/UnOvraDataHora.h"
 
 namespace tarvo::firebird {
 

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "imports/UnOvraConjuntoDeLinhas.h"
+#include "imports/banco/UnOvraConjuntoDeLinhas.h"
 #include "imports/firebird/UnOvraFirebirdMensagem.h"
 #include "imports/firebird/UnOvraFirebirdSessao.h"
 #include "imports/firebird/UnOvraFirebirdStatus.h"

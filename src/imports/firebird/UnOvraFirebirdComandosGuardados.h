@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "imports/UnOvraFormaSql.h"
+#include "imports/banco/UnOvraFormaSql.h"
 #include "imports/firebird/UnOvraFirebirdComando.h"
 
 namespace tarvo::firebird {

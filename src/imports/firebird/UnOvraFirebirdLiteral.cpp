@@ -4,7 +4,7 @@
 #include <limits>
 #include <optional>
 
-#include "imports/UnOvraConversoes.h"
+#include "imports/valores/UnOvraConversoes.h"
 
 namespace tarvo::firebird {
 

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "imports/UnOvraFormaSql.h"
+#include "imports/banco/UnOvraFormaSql.h"
 #include "imports/firebird/UnOvraFirebirdMensagem.h"
 
 namespace tarvo::firebird {

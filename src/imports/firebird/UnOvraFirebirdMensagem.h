@@ -6,7 +6,7 @@
 #include <memory>
 #include <vector>
 
-#include "imports/UnOvraConjuntoDeLinhas.h"
+#include "imports/banco/UnOvraConjuntoDeLinhas.h"
 
 namespace tarvo::firebird {
 

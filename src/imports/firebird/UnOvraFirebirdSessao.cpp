@@ -3,7 +3,7 @@
 #include <string>
 
 #include "imports/UnOvraExcecoes.h"
-#include "imports/UnOvraFormaSql.h"
+#include "imports/banco/UnOvraFormaSql.h"
 
 namespace tarvo::firebird {
 

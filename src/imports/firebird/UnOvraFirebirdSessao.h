@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <string_view>
 
-#include "imports/UnOvraConnection.h"
+#include "imports/banco/UnOvraConnection.h"
 #include "imports/firebird/UnOvraFirebirdStatus.h"
 
 namespace tarvo::firebird {

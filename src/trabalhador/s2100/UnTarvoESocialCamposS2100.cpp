@@ -5,8 +5,7 @@ namespace tarvo::trabalhador {
 TTarvoESocialCamposS2100::TTarvoESocialCamposS2100(std::int64_t AIDEmpregado, TDate ADataGeracao)
     : TTarvoESocialCamposGrupoBase("{144E457B-6CBE-47B6-8048-9C2228855153}"), Trabalhador(AIDEmpregado),
       Vinculo(AIDEmpregado, ADataGeracao)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposS2100::Tabela()
 {

@@ -4,8 +4,7 @@ namespace tarvo::trabalhador {
 
 TTarvoESocialCamposS2190::TTarvoESocialCamposS2190(std::int64_t AIdEmpregado)
     : TTarvoESocialCamposGrupoBase("{BE406613-A469-482C-BFB0-0E95FBE08B30}"), infoRegPrelim(AIdEmpregado)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposS2190::Tabela()
 {

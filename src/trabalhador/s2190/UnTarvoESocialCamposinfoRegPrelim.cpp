@@ -1,13 +1,12 @@
 #include "trabalhador/s2190/UnTarvoESocialCamposinfoRegPrelim.h"
 
-#include "imports/UnOvraFormat.h"
+#include "imports/valores/UnOvraFormat.h"
 
 namespace tarvo::trabalhador {
 
 TTarvoESocialCamposinfoRegPrelim::TTarvoESocialCamposinfoRegPrelim(std::int64_t AIdEmpregado)
     : TTarvoESocialCamposGrupoBase("{196F86B6-9476-4522-BB0A-E8721488E5E6}"), FIDEmpregado(AIdEmpregado)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposinfoRegPrelim::Tabela()
 {

@@ -5,8 +5,7 @@ namespace tarvo::trabalhador {
 TTarvoESocialCamposS2200::TTarvoESocialCamposS2200(std::int64_t, std::int64_t AIDEmpregado, TDate ADataGeracao)
     : TTarvoESocialCamposGrupoBase("{DA9D11DB-3AEB-48FE-9762-12177FD96BEC}"), Trabalhador(AIDEmpregado),
       Vinculo(AIDEmpregado, ADataGeracao)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposS2200::Tabela()
 {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "trabalhador/UnTarvoESocialCamposTrabalhador.h"
-#include "trabalhador/UnTarvoESocialCamposVinculo.h"
+#include "trabalhador/pessoa/UnTarvoESocialCamposTrabalhador.h"
+#include "trabalhador/vinculo/UnTarvoESocialCamposVinculo.h"
 
 namespace tarvo::trabalhador {
 

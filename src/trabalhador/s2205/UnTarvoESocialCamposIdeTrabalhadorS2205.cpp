@@ -1,13 +1,12 @@
 #include "trabalhador/s2205/UnTarvoESocialCamposIdeTrabalhadorS2205.h"
 
-#include "imports/UnOvraFormat.h"
+#include "imports/valores/UnOvraFormat.h"
 
 namespace tarvo::trabalhador {
 
 TTarvoESocialCamposIdeTrabalhadorS2205::TTarvoESocialCamposIdeTrabalhadorS2205(std::int64_t AIdEmpregado)
     : TTarvoESocialCamposGrupoBase(TSemConstrucaoDaBase{}), FIdEmpregado(AIdEmpregado)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposIdeTrabalhadorS2205::Tabela()
 {

@@ -5,8 +5,7 @@ namespace tarvo::trabalhador {
 TTarvoESocialCamposS2205::TTarvoESocialCamposS2205(std::int64_t AIDEmpregado)
     : TTarvoESocialCamposGrupoBase("{4FDF8CD7-02A0-4B8B-9B8E-F455416AB5E6}"), ideTrabalhador(AIDEmpregado),
       alteracao(AIDEmpregado)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposS2205::Tabela()
 {

@@ -4,8 +4,7 @@ namespace tarvo::trabalhador {
 
 TTarvoESocialCamposalteracao::TTarvoESocialCamposalteracao(std::int64_t AIDEmpregado)
     : TTarvoESocialCamposGrupoBase("{27178BC7-9F62-454F-B7C3-0BA31E16C244}"), dadosTrabalhador(AIDEmpregado)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposalteracao::Tabela()
 {

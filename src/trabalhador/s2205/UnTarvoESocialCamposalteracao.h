@@ -1,6 +1,6 @@
 #pragma once
 
-#include "trabalhador/UnTarvoESocialCamposTrabalhador.h"
+#include "trabalhador/pessoa/UnTarvoESocialCamposTrabalhador.h"
 
 namespace tarvo::trabalhador {
 

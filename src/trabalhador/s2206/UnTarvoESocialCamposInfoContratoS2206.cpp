@@ -6,8 +6,7 @@ TTarvoESocialCamposInfoContratoS2206::TTarvoESocialCamposInfoContratoS2206(std::
                                                                            TDate ADataGeracao)
     : TTarvoESocialCamposInfoContrato("{2C934625-AC03-442E-984F-1A8CC288EDD3}", AIDEmpregado, ADataGeracao),
       servPubl(AIDEmpregado, ADataGeracao)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposInfoContratoS2206::Tabela()
 {

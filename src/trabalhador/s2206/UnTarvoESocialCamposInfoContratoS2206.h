@@ -1,7 +1,7 @@
 #pragma once
 
-#include "trabalhador/UnTarvoESocialCamposInfoContrato.h"
-#include "trabalhador/UnTarvoESocialCamposServPubl.h"
+#include "trabalhador/contrato/UnTarvoESocialCamposInfoContrato.h"
+#include "trabalhador/contrato/UnTarvoESocialCamposServPubl.h"
 
 namespace tarvo::trabalhador {
 

@@ -5,8 +5,7 @@ namespace tarvo::trabalhador {
 TTarvoESocialCamposS2206::TTarvoESocialCamposS2206(std::int64_t AIDEmpregado, TDateTime AData)
     : TTarvoESocialCamposGrupoBase("{9733FFC0-DFAF-411F-8B4D-EDAAA0533615}"), ideVinculo(AIDEmpregado),
       altContratual(AIDEmpregado, AData)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposS2206::Tabela()
 {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "trabalhador/UnTarvoESocialCamposideVinculo.h"
 #include "trabalhador/s2206/UnTarvoESocialCamposaltContratual.h"
+#include "trabalhador/vinculo/UnTarvoESocialCamposideVinculo.h"
 
 namespace tarvo::trabalhador {
 

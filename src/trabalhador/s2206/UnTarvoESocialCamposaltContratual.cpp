@@ -1,7 +1,7 @@
 #include "trabalhador/s2206/UnTarvoESocialCamposaltContratual.h"
 
-#include "imports/UnOvraFormat.h"
-#include "imports/UnTarvoUtilsDb.h"
+#include "imports/banco/UnTarvoUtilsDb.h"
+#include "imports/valores/UnOvraFormat.h"
 
 namespace tarvo::trabalhador {
 
@@ -9,8 +9,7 @@ TTarvoESocialCamposaltContratual::TTarvoESocialCamposaltContratual(std::int64_t 
     : TTarvoESocialCamposGrupoBase("{19FEFEAB-96D4-41A8-9526-636DC8ACFF18}"), Vinculo(AIDEmpregado, ADataGeracao),
       infoRegimeTrab(AIDEmpregado, ADataGeracao), infoContrato(AIDEmpregado, ADataGeracao), FIDEmpregado(AIDEmpregado),
       FDataGeracao(ADataGeracao)
-{
-}
+{}
 
 const TPropriedades& TTarvoESocialCamposaltContratual::Tabela()
 {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "trabalhador/UnTarvoESocialCamposInfoRegimeTrab.h"
-#include "trabalhador/UnTarvoESocialCamposVinculo.h"
 #include "trabalhador/s2206/UnTarvoESocialCamposInfoContratoS2206.h"
+#include "trabalhador/vinculo/UnTarvoESocialCamposInfoRegimeTrab.h"
+#include "trabalhador/vinculo/UnTarvoESocialCamposVinculo.h"
 
 namespace tarvo::trabalhador {
 

@@ -1,6 +1,6 @@
 #include "trabalhador/s2230/UnTarvoESocialCamposS2230.h"
 
-#include "imports/UnTarvoConsultasEmpregadoSituacoes.h"
+#include "imports/consultas/UnTarvoConsultasEmpregadoSituacoes.h"
 
 namespace tarvo::trabalhador {
 

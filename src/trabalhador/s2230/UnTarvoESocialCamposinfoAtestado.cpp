@@ -1,7 +1,7 @@
 #include "trabalhador/s2230/UnTarvoESocialCamposinfoAtestado.h"
 
-#include "imports/UnOvraFormat.h"
-#include "imports/UnTarvoConsultasGeral.h"
+#include "imports/consultas/UnTarvoConsultasGeral.h"
+#include "imports/valores/UnOvraFormat.h"
 
 namespace tarvo::trabalhador {
 

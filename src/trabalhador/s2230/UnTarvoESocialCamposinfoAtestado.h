@@ -1,6 +1,6 @@
 #pragma once
 
-#include "trabalhador/UnTarvoESocialCamposEmitente.h"
+#include "trabalhador/atestado/UnTarvoESocialCamposEmitente.h"
 
 namespace tarvo::trabalhador {
 

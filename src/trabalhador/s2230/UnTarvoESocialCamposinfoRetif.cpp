@@ -1,6 +1,6 @@
 #include "trabalhador/s2230/UnTarvoESocialCamposinfoRetif.h"
 
-#include "imports/UnOvraFormat.h"
+#include "imports/valores/UnOvraFormat.h"
 
 namespace tarvo::trabalhador {
 

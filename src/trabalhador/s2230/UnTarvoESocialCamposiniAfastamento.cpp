@@ -1,8 +1,8 @@
 #include "trabalhador/s2230/UnTarvoESocialCamposiniAfastamento.h"
 
 #include "framework/UnTarvoESocialCamposListaDeGrupos.h"
-#include "imports/UnOvraFormat.h"
-#include "imports/UnTarvoConsultasGeral.h"
+#include "imports/consultas/UnTarvoConsultasGeral.h"
+#include "imports/valores/UnOvraFormat.h"
 
 namespace tarvo::trabalhador {
 

@@ -1,6 +1,6 @@
 #include "trabalhador/s2250/UnTarvoESocialCamposS2250.h"
 
-#include "imports/UnTarvoConsultasRescisao.h"
+#include "imports/consultas/UnTarvoConsultasRescisao.h"
 
 namespace tarvo::trabalhador {
 

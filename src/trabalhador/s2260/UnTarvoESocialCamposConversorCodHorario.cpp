@@ -1,7 +1,7 @@
 #include "trabalhador/s2260/UnTarvoESocialCamposConversorCodHorario.h"
 
-#include "imports/UnOvraConversoes.h"
-#include "imports/UnOvraFormat.h"
+#include "imports/valores/UnOvraConversoes.h"
+#include "imports/valores/UnOvraFormat.h"
 
 namespace tarvo::trabalhador {
 

@@ -1,6 +1,6 @@
 #include "trabalhador/s2260/UnTarvoESocialCamposJornada.h"
 
-#include "imports/UnOvraFormat.h"
+#include "imports/valores/UnOvraFormat.h"
 #include "trabalhador/s2260/UnTarvoESocialCamposConversorCodHorario.h"
 #include "trabalhador/s2260/UnTarvoESocialCamposSqlConvocacao.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "trabalhador/UnTarvoESocialCamposideVinculo.h"
 #include "trabalhador/s2260/UnTarvoESocialCamposInfoConvInterm.h"
+#include "trabalhador/vinculo/UnTarvoESocialCamposideVinculo.h"
 
 namespace tarvo::trabalhador {
 

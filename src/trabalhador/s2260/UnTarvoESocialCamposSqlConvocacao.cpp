@@ -1,7 +1,7 @@
 #include "trabalhador/s2260/UnTarvoESocialCamposSqlConvocacao.h"
 
-#include "imports/UnOvraFormat.h"
-#include "imports/UnTarvoUtilsDb.h"
+#include "imports/banco/UnTarvoUtilsDb.h"
+#include "imports/valores/UnOvraFormat.h"
 
 namespace tarvo::trabalhador {
 

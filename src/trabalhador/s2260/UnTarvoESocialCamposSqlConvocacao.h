@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "imports/UnOvraDataHora.h"
+#include "imports/valores/UnOvraDataHora.h"
 
 namespace tarvo::trabalhador {
 

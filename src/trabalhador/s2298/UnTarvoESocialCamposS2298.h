@@ -1,7 +1,7 @@
 #pragma once
 
 #include "framework/UnTarvoESocialCamposQuadro.h"
-#include "trabalhador/UnTarvoESocialCamposideVinculo.h"
+#include "trabalhador/vinculo/UnTarvoESocialCamposideVinculo.h"
 
 namespace tarvo::trabalhador {
 

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "trabalhador/UnTarvoESocialCamposCargoFuncao.h"
-#include "trabalhador/UnTarvoESocialCamposFgts.h"
-#include "trabalhador/UnTarvoESocialCamposInfoEstagiario.h"
-#include "trabalhador/UnTarvoESocialCamposRemuneracao.h"
+#include "trabalhador/contrato/UnTarvoESocialCamposRemuneracao.h"
 #include "trabalhador/s2300/UnTarvoESocialCamposInfoDirigenteSindical.h"
 #include "trabalhador/s2300/UnTarvoESocialCamposInfoTrabCedido.h"
+#include "trabalhador/semvinculo/UnTarvoESocialCamposCargoFuncao.h"
+#include "trabalhador/semvinculo/UnTarvoESocialCamposInfoEstagiario.h"
+#include "trabalhador/vinculo/UnTarvoESocialCamposFgts.h"
 
 namespace tarvo::trabalhador {
 

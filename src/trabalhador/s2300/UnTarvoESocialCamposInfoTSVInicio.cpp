@@ -1,7 +1,7 @@
 #include "trabalhador/s2300/UnTarvoESocialCamposInfoTSVInicio.h"
 
-#include "imports/UnOvraFormat.h"
-#include "imports/UnTarvoConsultasEmpregado.h"
+#include "imports/consultas/UnTarvoConsultasEmpregado.h"
+#include "imports/valores/UnOvraFormat.h"
 
 namespace tarvo::trabalhador {
 

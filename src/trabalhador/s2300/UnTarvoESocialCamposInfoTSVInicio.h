@@ -1,8 +1,8 @@
 #pragma once
 
-#include "trabalhador/UnTarvoESocialCamposAfastamento.h"
 #include "trabalhador/s2300/UnTarvoESocialCamposInfoComplementaresEmpregado.h"
 #include "trabalhador/s2300/UnTarvoESocialCamposTermino.h"
+#include "trabalhador/vinculo/UnTarvoESocialCamposAfastamento.h"
 
 namespace tarvo::trabalhador {
 

@@ -1,7 +1,7 @@
 #include "trabalhador/s2300/UnTarvoESocialCamposInfoTrabCedido.h"
 
-#include "framework/UnTarvoESocialCamposSqlConfiguracao.h"
-#include "imports/UnOvraFormat.h"
+#include "imports/valores/UnOvraFormat.h"
+#include "regras/UnTarvoESocialCamposSqlConfiguracao.h"
 
 namespace tarvo::trabalhador {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "trabalhador/UnTarvoESocialCamposTrabalhador.h"
+#include "trabalhador/pessoa/UnTarvoESocialCamposTrabalhador.h"
 #include "trabalhador/s2300/UnTarvoESocialCamposInfoTSVInicio.h"
 
 namespace tarvo::trabalhador {

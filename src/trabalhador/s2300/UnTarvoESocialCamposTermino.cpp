@@ -1,6 +1,6 @@
 #include "trabalhador/s2300/UnTarvoESocialCamposTermino.h"
 
-#include "trabalhador/UnTarvoESocialCamposSqlDesligamento.h"
+#include "trabalhador/vinculo/UnTarvoESocialCamposSqlDesligamento.h"
 
 namespace tarvo::trabalhador {
 

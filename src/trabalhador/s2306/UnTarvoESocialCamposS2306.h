@@ -1,7 +1,7 @@
 #pragma once
 
-#include "trabalhador/UnTarvoESocialCamposideTrabSemVinculo.h"
 #include "trabalhador/s2306/UnTarvoESocialCamposinfoTSVAlteracao.h"
+#include "trabalhador/semvinculo/UnTarvoESocialCamposideTrabSemVinculo.h"
 
 namespace tarvo::trabalhador {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "trabalhador/UnTarvoESocialCamposCargoFuncao.h"
-#include "trabalhador/UnTarvoESocialCamposInfoEstagiario.h"
-#include "trabalhador/UnTarvoESocialCamposRemuneracao.h"
+#include "trabalhador/contrato/UnTarvoESocialCamposRemuneracao.h"
+#include "trabalhador/semvinculo/UnTarvoESocialCamposCargoFuncao.h"
+#include "trabalhador/semvinculo/UnTarvoESocialCamposInfoEstagiario.h"
 
 namespace tarvo::trabalhador {
 

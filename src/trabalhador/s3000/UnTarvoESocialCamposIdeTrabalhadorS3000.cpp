@@ -1,11 +1,11 @@
 #include "trabalhador/s3000/UnTarvoESocialCamposIdeTrabalhadorS3000.h"
 
-#include "imports/UnOvraConversoes.h"
 #include "imports/UnOvraExcecoes.h"
-#include "imports/UnOvraFormat.h"
-#include "imports/UnOvraUtilsStrings.h"
-#include "imports/UnTarvoConsultasEmpregado.h"
-#include "imports/UnTarvoConsultasGeral.h"
+#include "imports/consultas/UnTarvoConsultasEmpregado.h"
+#include "imports/consultas/UnTarvoConsultasGeral.h"
+#include "imports/valores/UnOvraConversoes.h"
+#include "imports/valores/UnOvraFormat.h"
+#include "imports/valores/UnOvraUtilsStrings.h"
 
 namespace tarvo::trabalhador {
 

@@ -1,6 +1,6 @@
 #include "trabalhador/s3000/UnTarvoESocialCamposInfoExclusao.h"
 
-#include "imports/UnOvraFormat.h"
+#include "imports/valores/UnOvraFormat.h"
 
 namespace tarvo::trabalhador {
 

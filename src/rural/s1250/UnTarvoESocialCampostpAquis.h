@@ -1,0 +1,19 @@
+#pragma once
+
+#include "rural/s1250/UnTarvoESocialCampostpAquisBase.h"
+
+namespace tarvo::rural {
+
+/// S-1250 tpAquis from the own payroll. Source: MOV_PRESTSERV.
+class TTarvoESocialCampostpAquis : public TTarvoESocialCampostpAquisBase {
+public:
+    TTarvoESocialCampostpAquis(std::int64_t AIDEstabelecimento, TDateTime ADataInicio, TDateTime ADataFim,
+                               std::int32_t AProducaoIsenta);
+
+    void CarregarDados(const TListaCamposModificados* AListaCamposModificados = nullptr) override;
+
+protected:
+    std::string BuscarSQLDados() override;
+};
+
+} // namespace tarvo::rural
