@@ -37,7 +37,8 @@ def so_a_busca_caiu(saida):
 
 
 def main():
-    comando = sys.argv[1:]
+    # A program that hangs ends with its time limit, which ends this script.
+    comando = ["setpriv", "--pdeathsig", "KILL", *sys.argv[1:]]
     codigo, saida = rodar(comando)
     if codigo != 0 and so_a_busca_caiu(saida):
         print("A própria busca por vazamentos caiu: mais uma vez", flush=True)

@@ -20,6 +20,7 @@ constexpr std::chrono::seconds ESPERA{30};
 void EmThreads(int AQuantas, const std::function<void(int)>& ACorpo)
 {
     std::vector<std::thread> LThreads;
+    LThreads.reserve(static_cast<std::size_t>(AQuantas));
     for (int i = 0; i < AQuantas; ++i)
         LThreads.emplace_back([&ACorpo, i] {
             try {

@@ -32,7 +32,7 @@ TEST(OvraConversoes, TextoParaInteiro)
     }
     for (const char* LTexto : {"", " ", "+", "-", "+-1", "--1", "- 1", "1 2", "1,0", "1.0", "12a", "0x10", "1e3",
                                "9223372036854775808", "-9223372036854775809",
-                               "\xC2\xA0"
+                               "\xC2\xA0" // NOLINT(bugprone-suspicious-missing-comma): the 1 is no digit of the code
                                "1"}) {
         EXPECT_EQ(StrToInt64Def(LTexto, -7), -7) << LTexto;
         try {

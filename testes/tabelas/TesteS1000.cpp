@@ -188,6 +188,7 @@ TEST_F(TTesteS1000, ReverteEmDezComandosNaOrdem)
     // The engine takes eight of the ten: the doubled quotes and the bracket are refused.
     Configurar(90, 38, 5, D(2018, 1, 1), nullptr, "antes");
     std::vector<bool> LAceitos;
+    LAceitos.reserve(LEsperado.size());
     for (const auto& LSql : LEsperado)
         LAceitos.push_back(Conexao().ExecutouSQL({LSql}, false).Sucesso);
     EXPECT_EQ((std::vector<bool>{false, true, true, true, true, true, true, true, true, false}), LAceitos);
