@@ -9,8 +9,8 @@
 #include "imports/valores/UnOvraFormat.h"
 #include "imports/valores/UnTarvoUtilsMatematica.h"
 #include "pagamento/s1210/UnTarvoESocialCamposSqlS1210.h"
-#include "regras/UnTarvoESocialCamposSqlConfiguracao.h"
 #include "regras/UnTarvoESocialCamposSqlRubricaRpa.h"
+#include "regras/UnTarvoESocialCamposSqlTabelaDeRubricas.h"
 
 namespace tarvo::pagamento {
 
@@ -68,17 +68,9 @@ std::string TTarvoESocialCamposVerbaDoPagamento::ComporCodRubrDaVerba(std::strin
 
 std::string TTarvoESocialCamposVerbaDoPagamento::BuscarIdeTabRubr() const
 {
-    static constexpr std::string_view SQL = R"(SELECT SC00_EMPRESACFG.INFORMACAO1
-FROM SC00_EMPRESACFG
-WHERE %0:s
-ORDER BY
-  IIF(%1:s, 0, 1),
-  SC00_EMPRESACFG.DATAINICIO DESC,
-  SC00_EMPRESACFG.IDEMPRESACFG)";
-    const auto LCds = TTarvoConsultasGeral::BuscarRegistros(
-        Format(SQL, CondicaoDaChave(SC00_EMPRESACFG, FInfoBind.IdEmpresa, {90, 38, 13}),
-               CondicaoDaValidade(SC00_EMPRESACFG, FInfoBind.DataInicio)));
-    return LCds->IsEmpty() ? "0" : LCds->FieldByName("INFORMACAO1").AsString();
+    const auto LCds =
+        TTarvoConsultasGeral::BuscarRegistros(SqlTabelaDeRubricas(FInfoBind.IdEmpresa, FInfoBind.DataInicio));
+    return LCds->IsEmpty() ? "0" : LCds->FieldByName("IDETABRUBR").AsString();
 }
 
 long double TTarvoESocialCamposVerbaDoPagamento::BuscarQtdRubr() const

@@ -11,7 +11,7 @@
 #include "regras/UnTarvoESocialCamposCodRubr.h"
 #include "regras/UnTarvoESocialCamposIncidIrrf.h"
 #include "regras/UnTarvoESocialCamposSqlCalculo.h"
-#include "regras/UnTarvoESocialCamposSqlConfiguracao.h"
+#include "regras/UnTarvoESocialCamposSqlTabelaDeRubricas.h"
 
 namespace tarvo::remuneracao {
 
@@ -36,12 +36,7 @@ const TPropriedades& TTarvoESocialCamposItensRemunS1200::Tabela()
 
 std::string TTarvoESocialCamposItensRemunS1200::BuscarSQLDados()
 {
-    static constexpr std::string_view SQL = R"(SELECT FIRST 1 SC00_EMPRESACFG.INFORMACAO1 IDETABRUBR
-FROM SC00_EMPRESACFG
-WHERE %0:s
-ORDER BY IIF(%1:s, 0, 1), SC00_EMPRESACFG.DATAINICIO DESC, SC00_EMPRESACFG.IDEMPRESACFG)";
-    return Format(SQL, CondicaoDaChave(SC00_EMPRESACFG, FInfoBind.IdEmpresa(), {90, 38, 13}),
-                  CondicaoDaValidade(SC00_EMPRESACFG, FInfoBind.DataInicio()));
+    return SqlTabelaDeRubricas(FInfoBind.IdEmpresa(), FInfoBind.DataInicio());
 }
 
 void TTarvoESocialCamposItensRemunS1200::CarregarDados(const TListaCamposModificados* AListaCamposModificados,
