@@ -18,12 +18,12 @@ FROM (
   SELECT PESSOAS.ORDEM, PESSOAS.CPF, RANK() OVER (PARTITION BY PESSOAS.DIGITOS ORDER BY PESSOAS.ORDEM%3:s) AS LUGAR
   FROM (
     SELECT 1 AS ORDEM, TRIM(EMPREGADOS.CPF) AS CPF,
-           REPLACE(REPLACE(REPLACE(EMPREGADOS.CPF,'.',''),'-',''),' ','') AS DIGITOS
+           %4:s AS DIGITOS
     FROM EMPREGADOS
     WHERE EMPREGADOS.IDEMPRESA = %0:d
     UNION
     SELECT 2 AS ORDEM, MIN(TRIM(PREST_SERVICO.CPF)) AS CPF,
-           REPLACE(REPLACE(REPLACE(PREST_SERVICO.CPF,'.',''),'-',''),' ','') AS DIGITOS
+           %5:s AS DIGITOS
     FROM RPA
     JOIN PREST_SERVICO ON (PREST_SERVICO.IDPRESTSERVICO = RPA.IDPRESTSERVICO)
     JOIN SC00_FILIAL ON (SC00_FILIAL.IDFILIAL = RPA.IDFILIAL)
@@ -36,7 +36,8 @@ FROM (
 WHERE CHAVES.LUGAR = 1
 ORDER BY CHAVES.ORDEM, CHAVES.CPF)";
     return Format(SQL, AArgumentos.Id("IdEmpresa"), FormatarDataDB(AArgumentos.Data("DataInicio"), true),
-                  FormatarDataDB(AArgumentos.Data("DataFim"), true), AMaisOrdem);
+                  FormatarDataDB(AArgumentos.Data("DataFim"), true), AMaisOrdem, SqlDigitosDoCpf("EMPREGADOS.CPF"),
+                  SqlDigitosDoCpf("PREST_SERVICO.CPF"));
 }
 
 /// The company, as the events that take it themselves name it, or as the batch does.
