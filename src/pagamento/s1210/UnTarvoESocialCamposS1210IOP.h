@@ -8,21 +8,11 @@
 
 namespace tarvo::pagamento {
 
-/// Parameter object of S-1210: what the caller asks for, and then, rewritten during the load, the payment date and the
-/// demonstrative that are being loaded. The caller owns it and sets IdEmpresa, TipoTrabalhador, Cpf, DataInicio,
-/// DataFim and DataInicioVigencia before the load; a load leaves the values of the last payment date behind, so each
-/// beneficiary and period takes a fresh event and a fresh object.
-///
-/// Lists of ids and of kinds are comma texts; "0" stands for none and is valid in IN (0).
-struct TTarvoESocialCamposS1210IOP {
-    TTarvoESocialCamposS1210IOP() = default;
-    TTarvoESocialCamposS1210IOP(const TTarvoESocialCamposS1210IOP&) = delete;
-    TTarvoESocialCamposS1210IOP& operator=(const TTarvoESocialCamposS1210IOP&) = delete;
-
+/// What the parameter object of a payment hands on to that of its details.
+struct TS1210IOPDoDetalhe {
     std::int64_t IdEmpresa = 0;
     /// The worker of a vacation.
     std::int64_t IdEmpregado = 0;
-    TTipoTrabalhador TipoTrabalhador = TTipoTrabalhador::Empregado;
     /// With or without punctuation.
     std::string Cpf;
     /// First and last day of the period; for the details, DataInicio is the competence of the calculation.
@@ -42,6 +32,20 @@ struct TTarvoESocialCamposS1210IOP {
     std::string ListaIdsPrestServico = "0";
     /// CALCULO.IDDETCONVOCACAO of an intermittent call, 0 when none.
     std::int64_t IDIntermitente = 0;
+};
+
+/// Parameter object of S-1210: what the caller asks for, and then, rewritten during the load, the payment date and the
+/// demonstrative that are being loaded. The caller owns it and sets IdEmpresa, TipoTrabalhador, Cpf, DataInicio,
+/// DataFim and DataInicioVigencia before the load; a load leaves the values of the last payment date behind, so each
+/// beneficiary and period takes a fresh event and a fresh object.
+///
+/// Lists of ids and of kinds are comma texts; "0" stands for none and is valid in IN (0).
+struct TTarvoESocialCamposS1210IOP : TS1210IOPDoDetalhe {
+    TTarvoESocialCamposS1210IOP() = default;
+    TTarvoESocialCamposS1210IOP(const TTarvoESocialCamposS1210IOP&) = delete;
+    TTarvoESocialCamposS1210IOP& operator=(const TTarvoESocialCamposS1210IOP&) = delete;
+
+    TTipoTrabalhador TipoTrabalhador = TTipoTrabalhador::Empregado;
     /// Kind of the payment that is being loaded.
     std::int32_t tpPgto = 0;
     /// RPA.NRRPA of the current receipt.

@@ -60,19 +60,8 @@ void TTarvoESocialCamposinfoPgto::AlimentarPropriedadeDaTag()
 
 void TTarvoESocialCamposinfoPgto::InicializarInfoBindAux()
 {
-    FInfoBindAux.IdEmpresa = FInfoBind.IdEmpresa;
-    FInfoBindAux.IdEmpregado = FInfoBind.IdEmpregado;
-    FInfoBindAux.Cpf = FInfoBind.Cpf;
-    FInfoBindAux.DataInicio = FInfoBind.DataInicio;
-    FInfoBindAux.DataFim = FInfoBind.DataFim;
-    FInfoBindAux.DataPagto = FInfoBind.DataPagto;
-    FInfoBindAux.DataInicioVigencia = FInfoBind.DataInicioVigencia;
-    FInfoBindAux.TipoFolha = FInfoBind.TipoFolha;
-    FInfoBindAux.SubTipoFolha = FInfoBind.SubTipoFolha;
-    FInfoBindAux.TipoFolhaCompl = FInfoBind.TipoFolhaCompl;
-    FInfoBindAux.ListaIdsEmpregado = FInfoBind.ListaIdsEmpregado;
-    FInfoBindAux.ListaIdsPrestServico = FInfoBind.ListaIdsPrestServico;
-    FInfoBindAux.IDIntermitente = FInfoBind.IDIntermitente;
+    // The rest of it stays as the former detail left it; meant.
+    static_cast<TS1210IOPDoDetalhe&>(FInfoBindAux) = FInfoBind;
     FInfoBindAux.CodigoCategoria = 0;
 }
 
