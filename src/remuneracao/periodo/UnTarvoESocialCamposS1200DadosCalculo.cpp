@@ -266,8 +266,6 @@ TDataset TTarvoESocialCamposS1200DadosCalculo::BuscarDadosGrupo2()
 // By agreement: the agreement falls in the month of the event, the run holds the earlier period.
 TDataset TTarvoESocialCamposS1200DadosCalculo::BuscarDadosCalculoNormalComplementar()
 {
-    static constexpr std::string_view JUNCAO =
-        "JOIN FP_INFOGFIP650660 ON (FP_INFOGFIP650660.IDINFOGFIP650660 = CALCCOMPL.IDINFOGFIP650660)\n";
     static constexpr std::string_view CONDICOES = R"(CALCCOMPL.TIPOCALCULO = 1
   AND CALCULO.IDEMPREGADO = %0:d
   AND CALCULO.TIPO = %1:s
@@ -277,7 +275,7 @@ TDataset TTarvoESocialCamposS1200DadosCalculo::BuscarDadosCalculoNormalComplemen
     return BuscarComplementar(Format(CONDICOES, FInfoBind.IdEmpregado(), TipoFolhaEntreAspas(),
                                      FInfoBind.SubTipoFolha(), FormatarDataDB(FInfoBind.DataInicio(), true),
                                      FormatarDataDB(FInfoBind.DataFim(), true), FormatarDataDB(FInfoBind.PerRef, true)),
-                              JUNCAO);
+                              Format("%0:s\n", JUNCAO_ACORDO));
 }
 
 TDataset TTarvoESocialCamposS1200DadosCalculo::BuscarDadosCalculoRescisaoComplementar() const
