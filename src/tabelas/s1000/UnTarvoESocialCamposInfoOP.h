@@ -1,20 +1,9 @@
 #pragma once
 
-#include "framework/UnTarvoESocialCamposGrupoBase.h"
+#include "tabelas/s1000/UnTarvoESocialCamposInfoEFR.h"
+#include "tabelas/s1000/UnTarvoESocialCamposInfoEnte.h"
 
 namespace tarvo::tabelas {
-
-/// S-1000 infoEFR: a tag without content of its own.
-class TTarvoESocialCamposInfoEFR : public TTarvoESocialCamposGrupoBase {
-public:
-    explicit TTarvoESocialCamposInfoEFR(std::int64_t AIDEmpresa);
-};
-
-/// S-1000 infoEnte: a tag without content of its own.
-class TTarvoESocialCamposInfoEnte : public TTarvoESocialCamposGrupoBase {
-public:
-    explicit TTarvoESocialCamposInfoEnte(std::int64_t AIDEmpresa);
-};
 
 /// S-1000 infoOP: public body. It reads nothing, and nothing creates its two children, which stay null.
 class TTarvoESocialCamposInfoOP : public TTarvoESocialCamposGrupoBase {
