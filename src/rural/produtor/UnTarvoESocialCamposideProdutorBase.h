@@ -1,6 +1,6 @@
 #pragma once
 
-#include "rural/produtor/UnTarvoESocialCamposinfoProcBase.h"
+#include "rural/produtor/UnTarvoESocialCamposinfoProcJud.h"
 #include "rural/produtor/UnTarvoESocialCamposnfs.h"
 #include "rural/s1250/UnTarvoESocialCamposSqlS1250.h"
 

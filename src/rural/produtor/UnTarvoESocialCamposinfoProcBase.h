@@ -35,18 +35,6 @@ private:
     TTarvoESocialCamposinfoProcJudIOP FDados;
 };
 
-/// S-1250 infoProcJ: a process of the acquirer.
-class TTarvoESocialCamposinfoProcJ : public TTarvoESocialCamposinfoProcBase {
-public:
-    using TTarvoESocialCamposinfoProcBase::TTarvoESocialCamposinfoProcBase;
-};
-
-/// S-1250 infoProcJud: a process of the producer.
-class TTarvoESocialCamposinfoProcJud : public TTarvoESocialCamposinfoProcBase {
-public:
-    using TTarvoESocialCamposinfoProcBase::TTarvoESocialCamposinfoProcBase;
-};
-
 /// Adds a process group for each row of IDSPPROC, from the first one on, all with the same amounts. The rows are
 /// counted here; the groups are loaded with the list that is passed on, whole without one.
 template <class T>

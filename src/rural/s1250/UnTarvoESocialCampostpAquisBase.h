@@ -1,6 +1,7 @@
 #pragma once
 
 #include "rural/produtor/UnTarvoESocialCamposideProdutorBase.h"
+#include "rural/s1250/UnTarvoESocialCamposinfoProcJ.h"
 
 namespace tarvo::rural {
 
