@@ -1,33 +1,11 @@
 #pragma once
 
-#include "sst/exposicao/UnTarvoESocialCamposCondicao.h"
+#include "sst/s2240/UnTarvoESocialCamposaltExpRisco.h"
+#include "sst/s2240/UnTarvoESocialCamposfimExpRisco.h"
+#include "sst/s2240/UnTarvoESocialCamposiniExpRisco.h"
 #include "trabalhador/vinculo/UnTarvoESocialCamposideVinculo.h"
 
 namespace tarvo::sst {
-
-/// S-2240 iniExpRisco.
-class TTarvoESocialCamposiniExpRisco : public TTarvoESocialCamposIniCondicao {
-public:
-    explicit TTarvoESocialCamposiniExpRisco(std::int64_t AIdFatRisco)
-        : TTarvoESocialCamposIniCondicao("{E5830759-F906-41C2-8516-8EB8A13A511E}", AIdFatRisco)
-    {}
-};
-
-/// S-2240 altExpRisco.
-class TTarvoESocialCamposaltExpRisco : public TTarvoESocialCamposAltCondicao {
-public:
-    explicit TTarvoESocialCamposaltExpRisco(std::int64_t AIdFatRisco)
-        : TTarvoESocialCamposAltCondicao("{213EDDCD-2392-4550-B2C6-D9D31C44D6C3}", AIdFatRisco)
-    {}
-};
-
-/// S-2240 fimExpRisco.
-class TTarvoESocialCamposfimExpRisco : public TTarvoESocialCamposFimCondicao {
-public:
-    explicit TTarvoESocialCamposfimExpRisco(std::int64_t AIdFatRisco)
-        : TTarvoESocialCamposFimCondicao("{AB520ECE-FD18-4573-A001-F31683129077}", AIdFatRisco)
-    {}
-};
 
 /// S-2240 respReg: who answers for the register.
 class TTarvoESocialCamposrespReg : public TTarvoESocialCamposQuadro<TTarvoESocialCamposrespReg> {

@@ -1,57 +1,14 @@
 #pragma once
 
-#include "sst/exposicao/UnTarvoESocialCamposCondicao.h"
+#include "sst/s2241/UnTarvoESocialCamposaltAposentEsp.h"
+#include "sst/s2241/UnTarvoESocialCamposaltInsalPeric.h"
+#include "sst/s2241/UnTarvoESocialCamposfimAposentEsp.h"
+#include "sst/s2241/UnTarvoESocialCamposfimInsalPeric.h"
+#include "sst/s2241/UnTarvoESocialCamposiniAposentEsp.h"
+#include "sst/s2241/UnTarvoESocialCamposiniInsalPeric.h"
 #include "trabalhador/vinculo/UnTarvoESocialCamposideVinculo.h"
 
 namespace tarvo::sst {
-
-/// S-2241 iniInsalPeric.
-class TTarvoESocialCamposiniInsalPeric : public TTarvoESocialCamposIniCondicao {
-public:
-    explicit TTarvoESocialCamposiniInsalPeric(std::int64_t AIdInsalPeric)
-        : TTarvoESocialCamposIniCondicao("{DEDDA557-E6A7-4211-8E4F-CF31329E90C7}", AIdInsalPeric)
-    {}
-};
-
-/// S-2241 altInsalPeric.
-class TTarvoESocialCamposaltInsalPeric : public TTarvoESocialCamposAltCondicao {
-public:
-    explicit TTarvoESocialCamposaltInsalPeric(std::int64_t AIdInsalPeric)
-        : TTarvoESocialCamposAltCondicao("{C41EE4D7-5E9B-449E-845A-E6163D50A018}", AIdInsalPeric)
-    {}
-};
-
-/// S-2241 fimInsalPeric.
-class TTarvoESocialCamposfimInsalPeric : public TTarvoESocialCamposFimCondicao {
-public:
-    explicit TTarvoESocialCamposfimInsalPeric(std::int64_t AIdInsalPeric)
-        : TTarvoESocialCamposFimCondicao("{9F9D3C82-0F9F-483F-8AB4-13872F0C0073}", AIdInsalPeric)
-    {}
-};
-
-/// S-2241 iniAposentEsp.
-class TTarvoESocialCamposiniAposentEsp : public TTarvoESocialCamposIniCondicao {
-public:
-    explicit TTarvoESocialCamposiniAposentEsp(std::int64_t AIdInsalPeric)
-        : TTarvoESocialCamposIniCondicao("{89D47C59-6E27-42EF-AA70-0B458730671C}", AIdInsalPeric)
-    {}
-};
-
-/// S-2241 altAposentEsp.
-class TTarvoESocialCamposaltAposentEsp : public TTarvoESocialCamposAltCondicao {
-public:
-    explicit TTarvoESocialCamposaltAposentEsp(std::int64_t AIdInsalPeric)
-        : TTarvoESocialCamposAltCondicao("{229E7B1D-6FB5-4787-9592-7C287751F347}", AIdInsalPeric)
-    {}
-};
-
-/// S-2241 fimAposentEsp.
-class TTarvoESocialCamposfimAposentEsp : public TTarvoESocialCamposFimCondicao {
-public:
-    explicit TTarvoESocialCamposfimAposentEsp(std::int64_t AIdInsalPeric)
-        : TTarvoESocialCamposFimCondicao("{98897F87-C17E-4046-B21A-ABD156F86DCB}", AIdInsalPeric)
-    {}
-};
 
 /// S-2241 insalPeric: unhealthy or dangerous work.
 class TTarvoESocialCamposinsalPeric : public TTarvoESocialCamposQuadro<TTarvoESocialCamposinsalPeric> {
