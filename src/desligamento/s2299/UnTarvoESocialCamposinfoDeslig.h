@@ -1,28 +1,12 @@
 #pragma once
 
-#include "desligamento/s2299/UnTarvoESocialCamposTransferenciaS2299.h"
+#include "desligamento/s2299/UnTarvoESocialCamposConsigFGTS.h"
+#include "desligamento/s2299/UnTarvoESocialCamposTransfTitS2299.h"
+#include "desligamento/s2299/UnTarvoESocialCampossucessaoVincS2299.h"
 #include "desligamento/s2299/UnTarvoESocialCamposverbasRescS2299.h"
 #include "desligamento/verbas/UnTarvoESocialCamposquarentena.h"
 
 namespace tarvo::desligamento {
-
-/// S-2299 consigFGTS: the loan guaranteed by the FGTS. Source: FP_EMPREGADOSDET 4/1.
-class TTarvoESocialCamposConsigFGTS : public TTarvoESocialCamposGrupoBase {
-public:
-    explicit TTarvoESocialCamposConsigFGTS(std::int64_t AIdEmpregado);
-
-    std::string insConsig;
-    std::string nrContr;
-
-    static const TPropriedades& Tabela();
-
-protected:
-    const TPropriedades& Propriedades() const override { return Tabela(); }
-    std::string BuscarSQLDados() override;
-
-private:
-    std::int64_t FIdEmpregado;
-};
 
 /// S-2299 infoDeslig: reason and day of the dismissal, the notice, alimony on the FGTS, and what was paid. The
 /// constructor reads the day, by dismissal or by definitive transfer. Sources: EMPREGADOS, TAB_RESCISAO,

@@ -1,29 +1,12 @@
 #pragma once
 
-#include "desligamento/s2299/UnTarvoESocialCamposdmDevS2299.h"
-#include "desligamento/verbas/UnTarvoESocialCamposinfoMVDesligamento.h"
-#include "desligamento/verbas/UnTarvoESocialCamposprocJudTrabDesligamento.h"
+#include "desligamento/s2299/UnTarvoESocialCamposProcCSS2299.h"
+#include "desligamento/s2299/verbas/UnTarvoESocialCamposdmDevS2299.h"
+#include "desligamento/s2299/verbas/UnTarvoESocialCamposinfoMVS2299.h"
+#include "desligamento/s2299/verbas/UnTarvoESocialCamposprocJudTrabS2299.h"
 #include "desligamento/verbas/UnTarvoESocialCamposverbasRescDesligamento.h"
 
 namespace tarvo::desligamento {
-
-/// S-2299 procCs: a process of the establishment on the union contribution or on a dismissal's rubrics. Source:
-/// ES02_SPPROC of the establishment that the worker was placed in on the day of the dismissal.
-class TTarvoESocialCamposProcCSS2299 : public TTarvoESocialCamposGrupoBase {
-public:
-    explicit TTarvoESocialCamposProcCSS2299(std::int64_t AIDEmpregado);
-
-    std::string nrProcJud;
-
-    static const TPropriedades& Tabela();
-
-protected:
-    const TPropriedades& Propriedades() const override { return Tabela(); }
-    std::string BuscarSQLDados() override;
-
-private:
-    std::int64_t FIDEmpregado;
-};
 
 /// S-2299 verbasResc: what the dismissal paid, one demonstrative a calculation. The constructor reads the company and
 /// the day of the dismissal. Sources: CALCULO, RESC_COMPL, the complementary calculations by agreement.

@@ -11,31 +11,6 @@ constexpr std::string_view TIPO_DO_CALCULO_S2399 = "TIPO_CALC_S2399";
 
 } // namespace
 
-TTarvoESocialCamposdmDev2399::TTarvoESocialCamposdmDev2399(const TdmDevS2399IOP& ADadosDmDev)
-    : TTarvoESocialCamposGrupoBase("{8758E81C-0BC8-4329-B6BB-71F747D6FE59}"), FDadosDmDev(ADadosDmDev),
-      FDadosCalculos(FDadosDmDev)
-{}
-
-const TPropriedades& TTarvoESocialCamposdmDev2399::Tabela()
-{
-    using Eu = TTarvoESocialCamposdmDev2399;
-    static const TPropriedades tabela{{"ideEstabLot", &Eu::ideEstabLot}, {"ideDmDev", &Eu::ideDmDev}};
-    return tabela;
-}
-
-void TTarvoESocialCamposdmDev2399::CarregarDados(const TListaCamposModificados* AListaCamposModificados)
-{
-    TTarvoESocialCamposGrupoBase::CarregarDados(AListaCamposModificados);
-    FDadosCalculos.CarregarRegistrosCalculo();
-    CarregarIdeEstabLot(ideEstabLot, FDadosCalculos);
-}
-
-void TTarvoESocialCamposdmDev2399::AtribuirValoresManualmente()
-{
-    TTarvoESocialCamposGrupoBase::AtribuirValoresManualmente();
-    ideDmDev = FormarIdeDmDevDesligamento(FDadosDmDev, 0, 0);
-}
-
 TTarvoESocialCamposverbasRescS2399::TTarvoESocialCamposverbasRescS2399(std::int64_t AIdEmpregado)
     : TTarvoESocialCamposverbasRescDesligamento("{0775E6B5-8D5B-4886-B19C-1E05F1255952}", AIdEmpregado)
 {}

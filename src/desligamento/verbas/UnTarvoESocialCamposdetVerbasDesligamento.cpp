@@ -90,10 +90,4 @@ void TTarvoESocialCamposdetVerbasDesligamento::AtribuirCodRubr()
         codRubr = tabelas::ComporCodRubr(StrToInt64Def(codRubr, 0), tabelas::PrimeirosCodigos(LIncid));
 }
 
-void TTarvoESocialCamposdetVerbasS2299::AtribuirValoresManualmente()
-{
-    TTarvoESocialCamposdetVerbasDesligamento::AtribuirValoresManualmente();
-    vrUnit.clear();
-}
-
 } // namespace tarvo::desligamento

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "desligamento/verbas/UnTarvoESocialCamposDadosCalculosDesligamento.h"
-#include "framework/UnTarvoESocialCamposQuadro.h"
+#include "framework/UnTarvoESocialCamposGrupoBase.h"
 
 namespace tarvo::desligamento {
 
@@ -37,50 +37,6 @@ private:
     TDadosCalculo FDadosCalculo;
     std::int64_t FIdEmpresa;
     TDate FDataDemissao;
-};
-
-class TTarvoESocialCamposdetVerbasS2299 : public TTarvoESocialCamposdetVerbasDesligamento {
-public:
-    TTarvoESocialCamposdetVerbasS2299(const TDadosCalculo& ADadosCalculo, std::int64_t AIdEmpresa, TDate ADataDemissao)
-        : TTarvoESocialCamposdetVerbasDesligamento("{AB00A200-FFC9-4C40-97EC-AE903DB0430A}", ADadosCalculo, AIdEmpresa,
-                                                   ADataDemissao)
-    {}
-
-protected:
-    void AtribuirValoresManualmente() override;
-};
-
-/// Leaves vrUnit as it is.
-class TTarvoESocialCamposdetVerbasS2399 : public TTarvoESocialCamposdetVerbasDesligamento {
-public:
-    TTarvoESocialCamposdetVerbasS2399(const TDadosCalculoS2399& ADadosCalculo, std::int64_t AIdEmpresa,
-                                      TDate ADataDemissao)
-        : TTarvoESocialCamposdetVerbasDesligamento("{C2281B0F-AE85-4262-ACC7-2396C4ADA3D1}", ADadosCalculo, AIdEmpresa,
-                                                   ADataDemissao)
-    {}
-};
-
-/// Frame detVerbas: part of no tree, for the caller to fill.
-class TTarvoESocialCamposdetVerbas : public TTarvoESocialCamposQuadro<TTarvoESocialCamposdetVerbas> {
-public:
-    explicit TTarvoESocialCamposdetVerbas(std::int64_t AIdCalculo)
-        : TTarvoESocialCamposQuadro("{788F0E70-7B3E-4A76-9E56-508BF345CF54}", AIdCalculo)
-    {}
-
-    std::string codRubr;
-    std::string ideTabRubr;
-    std::string qtdRubr;
-    std::string fatorRubr;
-    std::string vrUnit;
-    std::string vrRubr;
-
-    static TPropriedades Tags()
-    {
-        return {
-            {"codRubr", &Eu::codRubr},     {"ideTabRubr", &Eu::ideTabRubr}, {"qtdRubr", &Eu::qtdRubr},
-            {"fatorRubr", &Eu::fatorRubr}, {"vrUnit", &Eu::vrUnit},         {"vrRubr", &Eu::vrRubr},
-        };
-    }
 };
 
 } // namespace tarvo::desligamento

@@ -1,10 +1,9 @@
 #pragma once
 
-#include "desligamento/s2299/UnTS2299DadosCalculos.h"
-#include "desligamento/s2399/UnTS2399DadosCalculos.h"
-#include "desligamento/verbas/UnTarvoESocialCamposLotacaoDesligamento.h"
-#include "desligamento/verbas/UnTarvoESocialCamposSaudeColetDesligamento.h"
-#include "desligamento/verbas/UnTarvoESocialCamposdetVerbasDesligamento.h"
+#include <memory>
+
+#include "desligamento/verbas/UnTarvoESocialCamposDadosCalculosDesligamento.h"
+#include "framework/UnTarvoESocialCamposGrupoBase.h"
 #include "imports/consultas/UnTarvoConsultasEmpresa.h"
 #include "regras/UnTarvoESocialCamposSqlLotacao.h"
 
@@ -81,41 +80,6 @@ private:
     }
 
     const TDadosCalculosDesligamento& FDadosCalculos;
-};
-
-/// No health plan in a complementary dismissal or in the differences of an agreement.
-class TTarvoESocialCamposideEstabLotS2299
-    : public TTarvoESocialCamposideEstabLotDesligamento<
-          TTarvoESocialCamposdetVerbasS2299, TTarvoESocialCamposinfoSaudeColetS2299,
-          TTarvoESocialCamposinfoAgNocivoS2299, TTarvoESocialCamposinfoSimplesS2299> {
-public:
-    explicit TTarvoESocialCamposideEstabLotS2299(const TS2299DadosCalculos& ADadosCalculo)
-        : TTarvoESocialCamposideEstabLotDesligamento("{A8F0D8CA-CE60-4479-B554-4D3488828F4B}", ADadosCalculo)
-    {}
-
-protected:
-    bool TemPlanoDeSaude(TTipoCalculoDesligamento ATipo) const override
-    {
-        return ATipo != TTipoCalculoDesligamento::RescisaoComplementar &&
-               ATipo != TTipoCalculoDesligamento::ComplementarPagoNaCompet;
-    }
-};
-
-/// No health plan in a complementary termination.
-class TTarvoESocialCamposideEstabLotS2399
-    : public TTarvoESocialCamposideEstabLotDesligamento<
-          TTarvoESocialCamposdetVerbasS2399, TTarvoESocialCamposinfoSaudeColetS2399,
-          TTarvoESocialCamposinfoAgNocivoS2399, TTarvoESocialCamposinfoSimplesS2399> {
-public:
-    explicit TTarvoESocialCamposideEstabLotS2399(const TS2399DadosCalculos& ADadosCalculo)
-        : TTarvoESocialCamposideEstabLotDesligamento("{BC9056DD-2CB4-4539-A0FD-7429F7771DC6}", ADadosCalculo)
-    {}
-
-protected:
-    bool TemPlanoDeSaude(TTipoCalculoDesligamento ATipo) const override
-    {
-        return ATipo != TTipoCalculoDesligamento::RescisaoComplementar;
-    }
 };
 
 /// Adds one group a lotação of the amounts; each is named in the parameter object while its group is made and loaded.

@@ -1,25 +1,11 @@
 #include "desligamento/verbas/UnTarvoESocialCamposinfoMVDesligamento.h"
 
 #include "imports/banco/UnTarvoUtilsDb.h"
-#include "imports/consultas/UnTarvoConsultasEmpregado.h"
-#include "imports/consultas/UnTarvoConsultasGeral.h"
 #include "imports/valores/UnOvraFormat.h"
 #include "imports/valores/UnTarvoUtilsDatas.h"
 #include "regras/UnTarvoESocialCamposSqlRendimentos.h"
 
 namespace tarvo::desligamento {
-
-const TPropriedades& TTarvoESocialCamposremunOutrEmprDesligamento::Tabela()
-{
-    using Eu = TTarvoESocialCamposremunOutrEmprDesligamento;
-    static const TPropriedades tabela{
-        {"tpInsc", &Eu::tpInsc},
-        {"nrInsc", &Eu::nrInsc},
-        {"codCateg", &Eu::codCateg},
-        {"vlrRemunOE", &Eu::vlrRemunOE},
-    };
-    return tabela;
-}
 
 std::string SqlIndicadorDescontoINSS(std::int64_t AIdEmpregado)
 {
@@ -65,26 +51,5 @@ void AlimentarRemunOutrEmpr(TTarvoESocialCamposremunOutrEmprDesligamento& ARemun
     ARemuneracao.codCateg = ACds.FieldByName("CODIGO").AsString();
     ARemuneracao.vlrRemunOE = ACds.FieldByName("VALOR").AsString();
 }
-
-template <class TRemunOutrEmpr>
-TTarvoESocialCamposinfoMVDesligamento<TRemunOutrEmpr>::TTarvoESocialCamposinfoMVDesligamento(std::string_view AGuid,
-                                                                                             std::int64_t AIdEmpregado)
-    : TTarvoESocialCamposGrupoBase(AGuid), FIdEmpregado(AIdEmpregado),
-      FDataDesligamento(TTarvoConsultasEmpregado::BuscarDataDemissaoOuTransfDefinitiva(AIdEmpregado))
-{}
-
-template <class TRemunOutrEmpr>
-void TTarvoESocialCamposinfoMVDesligamento<TRemunOutrEmpr>::CarregarRemunOutrEmpr()
-{
-    const auto LCds = TTarvoConsultasGeral::BuscarRegistros(SqlRemunOutrEmpr(FIdEmpregado, FDataDesligamento));
-    for (; !LCds->Eof(); LCds->Next()) {
-        auto LRemuneracao = std::make_unique<TRemunOutrEmpr>();
-        AlimentarRemunOutrEmpr(*LRemuneracao, *LCds);
-        remunOutrEmpr.push_back(std::move(LRemuneracao));
-    }
-}
-
-template class TTarvoESocialCamposinfoMVDesligamento<TTarvoESocialCamposremunOutrEmprS2299>;
-template class TTarvoESocialCamposinfoMVDesligamento<TTarvoESocialCamposremunOutrEmprS2399>;
 
 } // namespace tarvo::desligamento

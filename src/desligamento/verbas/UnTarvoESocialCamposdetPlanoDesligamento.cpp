@@ -1,6 +1,7 @@
-#include "desligamento/verbas/UnTarvoESocialCamposSaudeColetDesligamento.h"
+#include "desligamento/verbas/UnTarvoESocialCamposdetPlanoDesligamento.h"
 
 #include "imports/valores/UnOvraFormat.h"
+#include "tabelas/saude/UnTarvoESocialCamposDetOperPlanoSaude.h"
 
 namespace tarvo::desligamento {
 
