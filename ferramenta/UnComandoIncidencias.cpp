@@ -20,8 +20,8 @@ namespace tarvo::ferramenta {
 
 namespace {
 
-using tabelas::TTarvoESocialCamposBuscaIncidVerbas;
-using tabelas::TTipoRetornoIncidVerbas;
+using regras::TTarvoESocialCamposBuscaIncidVerbas;
+using regras::TTipoRetornoIncidVerbas;
 
 /// The tributes in the order of the search's arguments.
 constexpr std::array<const char*, 4> TRIBUTOS{"--inss", "--irrf", "--fgts", "--cs"};
@@ -43,18 +43,18 @@ std::int64_t LerVerba(const char* AOpcao, const std::string& ATexto)
     }
 }
 
-TTipoRetornoIncidVerbas LerTipo(const char* AOpcao, const std::string& ATexto)
+regras::TTipoRetornoIncidVerbas LerTipo(const char* AOpcao, const std::string& ATexto)
 {
     if (ATexto.size() != 1 || ATexto.front() < '0' || ATexto.front() > '3')
         throw EUsoErrado(std::string(AOpcao) + " é 0 (todos os códigos), 1 (normal), 2 (RRA) ou 3 (processo), e não '" +
                          ATexto + "'");
-    return static_cast<TTipoRetornoIncidVerbas>(ATexto.front() - '0');
+    return static_cast<regras::TTipoRetornoIncidVerbas>(ATexto.front() - '0');
 }
 
-int Mostrar(std::int64_t AIdVerba, const std::array<TTipoRetornoIncidVerbas, 4>& ATipos)
+int Mostrar(std::int64_t AIdVerba, const std::array<regras::TTipoRetornoIncidVerbas, 4>& ATipos)
 {
-    const auto LIncid =
-        TTarvoESocialCamposBuscaIncidVerbas::BuscarIncidencias(AIdVerba, ATipos[0], ATipos[1], ATipos[2], ATipos[3]);
+    const auto LIncid = regras::TTarvoESocialCamposBuscaIncidVerbas::BuscarIncidencias(AIdVerba, ATipos[0], ATipos[1],
+                                                                                       ATipos[2], ATipos[3]);
     rapidjson::StringBuffer LBuffer;
     rapidjson::Writer<rapidjson::StringBuffer> LEscritor(LBuffer);
     const auto Lista = [&](const char* ANome, const std::vector<std::int32_t>& ACodigos) {
@@ -82,7 +82,7 @@ int Atualizar(std::int64_t AIdVerba)
     if (!TTarvoConsultasGeral::EncontrouRegistros(
             Format("SELECT TAB_VERBAS.IDVERBA FROM TAB_VERBAS WHERE TAB_VERBAS.IDVERBA = %0:d", AIdVerba)))
         throw Exception("A verba " + std::to_string(AIdVerba) + " não existe");
-    TTarvoESocialCamposBuscaIncidVerbas LBusca(AIdVerba);
+    regras::TTarvoESocialCamposBuscaIncidVerbas LBusca(AIdVerba);
     LBusca.AtualizarIncidVerba();
     if (!LBusca.ResultStatus().Sucesso)
         throw Exception("Verba " + std::to_string(AIdVerba) + ": " + LBusca.ResultStatus().Mensagem);
@@ -95,7 +95,7 @@ int EfetuarCargaInicial()
     int LSaida = SAIDA_FEITO;
     TBarraDeProgresso LBarra(STDERR_FILENO, "Incidências");
     // It always answers with success; what failed is told here.
-    static_cast<void>(TTarvoESocialCamposBuscaIncidVerbas::EfetuarCargaInicialIncidencias(
+    static_cast<void>(regras::TTarvoESocialCamposBuscaIncidVerbas::EfetuarCargaInicialIncidencias(
         [&](std::int64_t AIdVerba, const TResultStatus& AStatus, std::size_t AFeitas, std::size_t ATotal) {
             LBarra.Avancar(AFeitas, ATotal);
             if (AStatus.Sucesso)
@@ -112,7 +112,7 @@ int Executar(const TOpcoes& AOpcoes)
     const bool LAtualizar = AOpcoes.Atualizar.has_value();
     if (int{LMostrar} + int{LAtualizar} + int{AOpcoes.CargaInicial} != 1)
         throw EUsoErrado("Informe um de --verba, --atualizar e --carga-inicial");
-    std::array<TTipoRetornoIncidVerbas, 4> LTipos{};
+    std::array<regras::TTipoRetornoIncidVerbas, 4> LTipos{};
     for (std::size_t i = 0; i < TRIBUTOS.size(); ++i) {
         if (!AOpcoes.Tipos[i])
             continue;

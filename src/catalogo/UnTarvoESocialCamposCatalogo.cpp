@@ -143,10 +143,10 @@ const std::vector<TEventoDoCatalogo>& CatalogoDeEventos()
           {"codIncSIND", taInteiro, "incidência para a contribuição sindical", false}},
          [](const TArgumentosDeEvento& A) {
              // Without any of the codes the event gets none at all, and leaves them empty.
-             std::shared_ptr<tabelas::TCodigosIncidenciaVerba> LCodigos;
+             std::shared_ptr<regras::TCodigosIncidenciaVerba> LCodigos;
              if (A.Informado("codIncCP") || A.Informado("codIncIRRF") || A.Informado("codIncFGTS") ||
                  A.Informado("codIncSIND"))
-                 LCodigos = std::make_shared<tabelas::TCodigosIncidenciaVerba>(tabelas::TCodigosIncidenciaVerba{
+                 LCodigos = std::make_shared<regras::TCodigosIncidenciaVerba>(regras::TCodigosIncidenciaVerba{
                      A.Inteiro("codIncCP"), A.Inteiro("codIncIRRF"), A.Inteiro("codIncFGTS"), A.Inteiro("codIncSIND")});
              auto LEvento = Evento<tabelas::TTarvoESocialCamposS1010>(
                  A.Id("AIdVerba"), A.Id("AidEmpresa"), A.Id("AIdRubricaRpa"), A.Data("ADataGeracao"), LCodigos.get());

@@ -55,7 +55,7 @@ WHERE EMPREGADOS.IDEMPRESA = %0:d
   AND IIF(FP_ESOCIALTABELA.CODIGO IN (%1:s) OR FP_ESOCIALTABELA.CODIGO >= '700', 1, 0) = %2:d
   %3:s
 ORDER BY EMPREGADOS.IDEMPREGADO)";
-    return Format(SQL, IdEmpresa(AArgumentos), CATEGORIAS_SEM_VINCULO, ASemVinculo ? 1 : 0, AMais);
+    return Format(SQL, IdEmpresa(AArgumentos), regras::CATEGORIAS_SEM_VINCULO, ASemVinculo ? 1 : 0, AMais);
 }
 
 } // namespace

@@ -11,7 +11,7 @@
 #include "imports/consultas/UnTarvoConsultasGeral.h"
 #include "imports/valores/UnOvraFormat.h"
 
-namespace tarvo::tabelas {
+namespace tarvo::regras {
 
 namespace {
 
@@ -446,4 +446,4 @@ void TTarvoESocialCamposBuscaIncidVerbas::ExecutarSeSemFalha(const std::string& 
         FResultStatus = OvraConnection().ExecutouSQL({ASql}, true);
 }
 
-} // namespace tarvo::tabelas
+} // namespace tarvo::regras

@@ -9,7 +9,7 @@
 #include "imports/banco/UnOvraConnection.h"
 #include "imports/consultas/UnTarvoConsultasVerbas.h"
 
-namespace tarvo::tabelas {
+namespace tarvo::regras {
 
 /// Which codes of a tribute are asked for.
 enum class TTipoRetornoIncidVerbas : std::uint8_t {
@@ -94,4 +94,4 @@ private:
     TTipoRetornoIncidVerbas FTipoRetornoCs = TTipoRetornoIncidVerbas::trTodos;
 };
 
-} // namespace tarvo::tabelas
+} // namespace tarvo::regras

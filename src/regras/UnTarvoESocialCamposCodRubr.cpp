@@ -3,7 +3,7 @@
 #include "imports/valores/UnOvraFormat.h"
 #include "regras/UnTarvoESocialCamposBuscaIncidVerbas.h"
 
-namespace tarvo::tabelas {
+namespace tarvo::regras {
 
 TCodigosIncidenciaVerba PrimeirosCodigos(const TIncidVerba& AIncidVerba)
 {
@@ -24,4 +24,4 @@ std::string ComporCodRubrRpa(std::int64_t AIdRpaTpValor, const TCodigosIncidenci
     return ComporCodRubr(AIdRpaTpValor, ACodigos) + "RPA";
 }
 
-} // namespace tarvo::tabelas
+} // namespace tarvo::regras

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-namespace tarvo::tabelas {
+namespace tarvo::regras {
 
 struct TIncidVerba;
 
@@ -24,4 +24,4 @@ std::string ComporCodRubr(std::int64_t ACodVerba, const TCodigosIncidenciaVerba&
 /// The same for a value of a provider's receipt (RPATPVALOR.IDRPATPVALOR): it ends in RPA.
 std::string ComporCodRubrRpa(std::int64_t AIdRpaTpValor, const TCodigosIncidenciaVerba& ACodigos);
 
-} // namespace tarvo::tabelas
+} // namespace tarvo::regras

@@ -3,7 +3,7 @@
 #include "imports/valores/UnOvraConversoes.h"
 #include "imports/valores/UnOvraFormat.h"
 
-namespace tarvo::remuneracao {
+namespace tarvo::regras {
 
 std::string FormarIdeDmDev(const TDadosIdeDmDev& ADados)
 {
@@ -27,4 +27,4 @@ std::string FormarIdeDmDev(const TDadosIdeDmDev& ADados)
     return LTexto;
 }
 
-} // namespace tarvo::remuneracao
+} // namespace tarvo::regras

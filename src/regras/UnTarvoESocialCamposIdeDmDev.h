@@ -6,7 +6,7 @@
 
 #include "imports/valores/UnOvraDataHora.h"
 
-namespace tarvo::remuneracao {
+namespace tarvo::regras {
 
 /// The three shapes of a demonstrative's identifier.
 enum class TFormaIdeDmDev : std::uint8_t {
@@ -41,4 +41,4 @@ struct TDadosIdeDmDev {
 /// must give the same text in each of them. Numbers are padded and never cut.
 std::string FormarIdeDmDev(const TDadosIdeDmDev& ADados);
 
-} // namespace tarvo::remuneracao
+} // namespace tarvo::regras

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-namespace tarvo::tabelas {
+namespace tarvo::regras {
 
 /// True for the income-tax codes of withheld tax (31 to 35), alimony (51 to 55), and judicial deposit and compensation
 /// (81 to 83): rubrics that a payment reports and a remuneration doesn't.
@@ -12,4 +12,4 @@ constexpr bool EhRetencaoDeIrrf(std::int64_t ACodIncIrrf)
            (ACodIncIrrf >= 81 && ACodIncIrrf <= 83);
 }
 
-} // namespace tarvo::tabelas
+} // namespace tarvo::regras

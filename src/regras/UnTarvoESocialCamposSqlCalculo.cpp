@@ -7,7 +7,7 @@
 #include "imports/banco/UnTarvoUtilsDb.h"
 #include "imports/valores/UnOvraFormat.h"
 
-namespace tarvo {
+namespace tarvo::regras {
 
 double SomarQuantias(double A, double B)
 {
@@ -42,4 +42,4 @@ ORDER BY CALCCOMPLDET.IDCALCCOMPLDET, TAB_VERBAS.IDVERBA)";
     return Format(SQL, AIdEmpregado, ATipoFolha, FormatarDataDB(ADataInicio, true), FormatarDataDB(ADataFim, true));
 }
 
-} // namespace tarvo
+} // namespace tarvo::regras

@@ -9,7 +9,7 @@
 #include "imports/banco/UnOvraClientDataSet.h"
 #include "imports/consultas/UnTarvoConsultasGeral.h"
 
-namespace tarvo {
+namespace tarvo::regras {
 
 // Rules on calculated rows (CALCULO, CALC_QUEBRA, CALCCOMPL...) that hold alike for remuneration and for termination.
 
@@ -71,4 +71,4 @@ void SomarFeriasComplementares(std::vector<TDado>& ALista, std::int64_t TDado::*
     }
 }
 
-} // namespace tarvo
+} // namespace tarvo::regras

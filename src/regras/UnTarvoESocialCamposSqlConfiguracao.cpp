@@ -3,7 +3,7 @@
 #include "imports/banco/UnTarvoUtilsDb.h"
 #include "imports/valores/UnOvraFormat.h"
 
-namespace tarvo {
+namespace tarvo::regras {
 
 std::string CondicaoDaChave(TTabelaDeConfiguracao ATabela, TChaveDeConfiguracao AChave)
 {
@@ -46,4 +46,4 @@ ORDER BY %1:s.DATAINICIO DESC, %1:s.%4:s)";
                   CondicaoDaValidade(ATabela, AData, AFim), ATabela.ColunaDaChave);
 }
 
-} // namespace tarvo
+} // namespace tarvo::regras

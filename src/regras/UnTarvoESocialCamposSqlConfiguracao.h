@@ -6,7 +6,7 @@
 
 #include "imports/valores/UnOvraDataHora.h"
 
-namespace tarvo {
+namespace tarvo::regras {
 
 /// Address of a configuration row.
 struct TChaveDeConfiguracao {
@@ -55,4 +55,4 @@ std::string SqlConfiguracaoVigente(std::string_view AColunas, TTabelaDeConfigura
                                    TChaveDeConfiguracao AChave, TDateTime AData,
                                    TFimDaValidade AFim = TFimDaValidade::Inclusive);
 
-} // namespace tarvo
+} // namespace tarvo::regras

@@ -3,7 +3,7 @@
 #include "imports/consultas/UnTarvoConsultasDepartamento.h"
 #include "imports/valores/UnOvraFormat.h"
 
-namespace tarvo::tabelas {
+namespace tarvo::regras {
 
 std::string SqlInscricaoDaLotacao(std::int64_t AIdFilial, std::int64_t AIdDepto)
 {
@@ -32,4 +32,4 @@ WHERE SC00_DEPTO.IDDEPTO = %0:D)";
     return Format(LTipo == 2 || LTipo == 3 ? SQL_DEPTO_COM_INSCRICAO : SQL_DEPTO, AIdDepto);
 }
 
-} // namespace tarvo::tabelas
+} // namespace tarvo::regras

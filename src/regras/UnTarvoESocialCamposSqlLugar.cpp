@@ -2,7 +2,7 @@
 
 #include "imports/valores/UnOvraFormat.h"
 
-namespace tarvo::tabelas {
+namespace tarvo::regras {
 
 std::string SqlCfgDoDono(std::string_view AColunas, TTabelaDeConfiguracao ATabela, std::int64_t AIdDono,
                          TChaveDeConfiguracao AChave, TDateTime AData)
@@ -48,4 +48,4 @@ ORDER BY SC00_EMPRESACFG.DATAINICIO DESC, SC00_EMPRESACFG.IDEMPRESACFG)";
                   CondicaoVigente(SC00_EMPRESACFG, AChave, AData, TFimDaValidade::Exclusive));
 }
 
-} // namespace tarvo::tabelas
+} // namespace tarvo::regras

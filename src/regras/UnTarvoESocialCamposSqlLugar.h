@@ -6,7 +6,7 @@
 
 #include "regras/UnTarvoESocialCamposSqlConfiguracao.h"
 
-namespace tarvo::tabelas {
+namespace tarvo::regras {
 
 /// The place that an event describes: an establishment (SC00_FILIAL) or a department (SC00_DEPTO).
 struct TLugar {
@@ -40,4 +40,4 @@ std::string SqlCfgDoEstab(std::string_view AColunas, TLugar ALugar, TChaveDeConf
 /// SC00_EMPRESACFG of the company that the place belongs to.
 std::string SqlCfgDaEmpresa(std::string_view AColunas, TLugar ALugar, TChaveDeConfiguracao AChave, TDateTime AData);
 
-} // namespace tarvo::tabelas
+} // namespace tarvo::regras

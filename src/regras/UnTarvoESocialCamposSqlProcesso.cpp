@@ -2,7 +2,7 @@
 
 #include "imports/valores/UnOvraFormat.h"
 
-namespace tarvo::tabelas {
+namespace tarvo::regras {
 
 std::string SqlProcessoComDetalhe(std::int64_t AIdProcesso)
 {
@@ -16,4 +16,4 @@ ORDER BY ES02_SPPROCDET.DATA DESC, ES02_SPPROCDET.IDSPPROCDET)";
     return Format(SQL, AIdProcesso, NUMERO_DO_PROCESSO);
 }
 
-} // namespace tarvo::tabelas
+} // namespace tarvo::regras

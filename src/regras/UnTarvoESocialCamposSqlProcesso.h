@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace tarvo::tabelas {
+namespace tarvo::regras {
 
 /// The digits of a legal process's number, as column NUMERO of a statement on ES02_SPPROC.
 inline constexpr std::string_view NUMERO_DO_PROCESSO =
@@ -13,4 +13,4 @@ inline constexpr std::string_view NUMERO_DO_PROCESSO =
 /// NUMERO of a process and IDSPPROCDET of its newest detail, null where it has none.
 std::string SqlProcessoComDetalhe(std::int64_t AIdProcesso);
 
-} // namespace tarvo::tabelas
+} // namespace tarvo::regras

@@ -3,7 +3,7 @@
 #include "imports/banco/UnTarvoUtilsDb.h"
 #include "imports/valores/UnOvraFormat.h"
 
-namespace tarvo::tabelas {
+namespace tarvo::regras {
 
 std::string SqlExposicao(std::string_view AColunaOcorrencia, std::int64_t AIdEmpregado, TDateTime AData)
 {
@@ -40,4 +40,4 @@ WHERE FP_DETCONVOCACAO.IDDETCONVOCACAO = %0:D)";
     return Format(SQL, AIdDetConvocacao);
 }
 
-} // namespace tarvo::tabelas
+} // namespace tarvo::regras

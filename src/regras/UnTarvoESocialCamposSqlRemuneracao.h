@@ -6,7 +6,7 @@
 
 #include "imports/valores/UnOvraDataHora.h"
 
-namespace tarvo::tabelas {
+namespace tarvo::regras {
 
 // Statements that remuneration and termination have in common.
 
@@ -20,4 +20,4 @@ std::string SqlAcordo(std::int64_t AIdAcordo);
 /// The code of the convocation of intermittent work: CODIGOESOCIAL.
 std::string SqlConvocacao(std::int64_t AIdDetConvocacao);
 
-} // namespace tarvo::tabelas
+} // namespace tarvo::regras

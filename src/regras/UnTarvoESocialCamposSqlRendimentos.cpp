@@ -3,7 +3,7 @@
 #include "imports/consultas/UnTarvoConsultasEmpregado.h"
 #include "imports/valores/UnOvraFormat.h"
 
-namespace tarvo::tabelas {
+namespace tarvo::regras {
 
 std::string CondicaoDeOutroEmpregador(std::string_view AColuna, std::string_view AIdEmpresa)
 {
@@ -22,4 +22,4 @@ std::string_view CondicaoDaOrdemDeDesconto(std::int64_t AIdEmpresa, std::string_
                : "";
 }
 
-} // namespace tarvo::tabelas
+} // namespace tarvo::regras

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace tarvo::tabelas {
+namespace tarvo::regras {
 
 /// Leaves out incomes that the employer itself paid: `AND AColuna NOT IN (its registration and those of its
 /// establishments)`. AIdEmpresa is a column or a number.
@@ -14,4 +14,4 @@ std::string CondicaoDeOutroEmpregador(std::string_view AColuna, std::string_view
 /// employer's turn count (RENDIMENTOS, EMPREGADOS); otherwise empty.
 std::string_view CondicaoDaOrdemDeDesconto(std::int64_t AIdEmpresa, std::string_view ACpf);
 
-} // namespace tarvo::tabelas
+} // namespace tarvo::regras

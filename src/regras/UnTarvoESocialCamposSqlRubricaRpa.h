@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-namespace tarvo::tabelas {
+namespace tarvo::regras {
 
 /// A value of a provider's receipt (RPATPVALOR) with its nature (FP_ESOCIALTABELA) and its four incidences
 /// (FP_ESOCIALTABELACP, ...IRRF, ...FGTS, ...CS). One that misses any of them isn't there at all.
@@ -19,4 +19,4 @@ JOIN FP_ESOCIALTABELA FP_ESOCIALTABELACS ON (FP_RUBRICARELACRPA.IDESOCIALTABELAC
                                          AND FP_ESOCIALTABELACS.TABELA = 9995)
 JOIN RPATPVALOR ON (FP_RUBRICARELACRPA.IDRPATPVALOR = RPATPVALOR.IDRPATPVALOR))";
 
-} // namespace tarvo::tabelas
+} // namespace tarvo::regras

@@ -3,7 +3,7 @@
 #include "imports/valores/UnOvraFormat.h"
 #include "regras/UnTarvoESocialCamposSqlConfiguracao.h"
 
-namespace tarvo {
+namespace tarvo::regras {
 
 namespace {
 
@@ -33,4 +33,4 @@ std::string SqlTabelaDeRubricasDoEmpregado(std::int64_t AIdEmpregado, TDateTime 
                        AData);
 }
 
-} // namespace tarvo
+} // namespace tarvo::regras

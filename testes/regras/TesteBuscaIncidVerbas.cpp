@@ -9,9 +9,9 @@
 namespace tarvo::testes {
 namespace {
 
-using tabelas::TIncidVerba;
-using TBusca = tabelas::TTarvoESocialCamposBuscaIncidVerbas;
-using enum tabelas::TTipoRetornoIncidVerbas;
+using regras::TIncidVerba;
+using TBusca = regras::TTarvoESocialCamposBuscaIncidVerbas;
+using enum regras::TTipoRetornoIncidVerbas;
 
 /// A rubric by what its incidences depend on; flags are S, N or - for null.
 struct TVerba {
@@ -49,7 +49,7 @@ std::string Texto(const std::vector<std::int32_t>& ALista)
     return LTexto;
 }
 
-std::string Texto(const TIncidVerba& AIncid)
+std::string Texto(const regras::TIncidVerba& AIncid)
 {
     return Texto(AIncid.FListInss) + "|" + Texto(AIncid.FListIrrf) + "|" + Texto(AIncid.FListFgts) + "|" +
            Texto(AIncid.FListCs);
@@ -212,7 +212,7 @@ TEST_F(TTesteBuscaIncidVerbas, VariantesPeloTipoPedido)
 {
     struct {
         TVerba Verba;
-        tabelas::TTipoRetornoIncidVerbas Inss, Irrf, Fgts, Cs;
+        regras::TTipoRetornoIncidVerbas Inss, Irrf, Fgts, Cs;
         const char* Esperado;
         int Alertas = 0;
     } const LCasos[] = {
@@ -260,10 +260,10 @@ TEST_F(TTesteBuscaIncidVerbas, VariantesPeloTipoPedido)
 
 TEST(TTesteCodRubr, CompoeComOPrimeiroCodigoDeCadaTributo)
 {
-    const TIncidVerba LIncid{125, {11, 91}, {12}, {11}, {}};
-    EXPECT_EQ("00125P011I012F011C000", tabelas::ComporCodRubr(LIncid.FCodVerba, tabelas::PrimeirosCodigos(LIncid)));
-    EXPECT_EQ("00007P031I041F000C000RPA", tabelas::ComporCodRubrRpa(7, {31, 41, 0, 0}));
-    EXPECT_EQ("123456P000I000F000C000", tabelas::ComporCodRubr(123456, {}));
+    const regras::TIncidVerba LIncid{125, {11, 91}, {12}, {11}, {}};
+    EXPECT_EQ("00125P011I012F011C000", regras::ComporCodRubr(LIncid.FCodVerba, regras::PrimeirosCodigos(LIncid)));
+    EXPECT_EQ("00007P031I041F000C000RPA", regras::ComporCodRubrRpa(7, {31, 41, 0, 0}));
+    EXPECT_EQ("123456P000I000F000C000", regras::ComporCodRubr(123456, {}));
 }
 
 /// Rewriting confirms what it writes: these tests have a database of their own.

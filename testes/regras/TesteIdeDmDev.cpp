@@ -6,14 +6,14 @@
 namespace tarvo::testes {
 namespace {
 
-using remuneracao::FormarIdeDmDev;
-using remuneracao::TDadosIdeDmDev;
-using enum remuneracao::TFormaIdeDmDev;
+using regras::FormarIdeDmDev;
+using regras::TDadosIdeDmDev;
+using enum regras::TFormaIdeDmDev;
 
 TEST(TesteIdeDmDev, CadaCasoTemOSeuTexto)
 {
     const struct {
-        TDadosIdeDmDev Dados;
+        regras::TDadosIdeDmDev Dados;
         const char* Esperado;
     } LCasos[] = {
         {{.TipoFolha = 1, .Data = D(2021, 3, 1)}, "01_000_0_03_2021"},
@@ -34,16 +34,16 @@ TEST(TesteIdeDmDev, CadaCasoTemOSeuTexto)
          "97_0000001234_05_03_2021"},
     };
     for (const auto& LCaso : LCasos)
-        EXPECT_EQ(LCaso.Esperado, FormarIdeDmDev(LCaso.Dados));
+        EXPECT_EQ(LCaso.Esperado, regras::FormarIdeDmDev(LCaso.Dados));
 }
 
 TEST(TesteIdeDmDev, NumerosMaioresQueAMascaraFicamInteiros)
 {
-    EXPECT_EQ("100_1040_12_12345678901_03_2021", FormarIdeDmDev({.TipoFolha = 100,
-                                                                 .SubTipoFolha = 1040,
-                                                                 .TipoFolhaCompl = 12,
-                                                                 .IdDetConvocacao = 12345678901,
-                                                                 .Data = D(2021, 3, 1)}));
+    EXPECT_EQ("100_1040_12_12345678901_03_2021", regras::FormarIdeDmDev({.TipoFolha = 100,
+                                                                         .SubTipoFolha = 1040,
+                                                                         .TipoFolhaCompl = 12,
+                                                                         .IdDetConvocacao = 12345678901,
+                                                                         .Data = D(2021, 3, 1)}));
 }
 
 } // namespace

@@ -165,15 +165,15 @@ TEST_F(TTesteDadosCalculo, ASomaDeQuantiasNaoArredonda)
         {1000, 0.123456, 1000.123456}, {0.00004, 0.00004, 8e-05}, {1e9, 0.00049, 1000000000.00049}, {0.3, -0.3, 0},
     };
     for (const auto& LCaso : LCasos)
-        EXPECT_EQ(LCaso.Soma, SomarQuantias(LCaso.A, LCaso.B)) << LCaso.A << " " << LCaso.B;
+        EXPECT_EQ(LCaso.Soma, regras::SomarQuantias(LCaso.A, LCaso.B)) << LCaso.A << " " << LCaso.B;
 
     std::vector<remuneracao::TDadosCalculo> LLista(1);
     LLista[0].IdVerba = 1001;
     LLista[0].Valor = 1000;
-    SomarFeriasComplementares(LLista, &remuneracao::TDadosCalculo::IdVerba, &remuneracao::TDadosCalculo::Base,
-                              &remuneracao::TDadosCalculo::Valor,
-                              "SELECT 1001 AS IDVERBA, 0 AS BASE, CAST(0.123456 AS DOUBLE PRECISION) AS VALOR "
-                              "FROM RDB$DATABASE");
+    regras::SomarFeriasComplementares(LLista, &remuneracao::TDadosCalculo::IdVerba, &remuneracao::TDadosCalculo::Base,
+                                      &remuneracao::TDadosCalculo::Valor,
+                                      "SELECT 1001 AS IDVERBA, 0 AS BASE, CAST(0.123456 AS DOUBLE PRECISION) AS VALOR "
+                                      "FROM RDB$DATABASE");
     EXPECT_EQ(1000.123456, LLista[0].Valor) << "of a column with more decimals than money has";
 }
 

@@ -40,7 +40,7 @@ std::unique_ptr<T> Carregar(const A&... AArgumentos)
 
 /// A configuration row of the fixture's company, establishment or department: its key, `ORIGEM, ESPECIE, TP`, the dates
 /// as the engine takes them and further columns with their values.
-std::string Cfg(TTabelaDeConfiguracao ATabela, int AId, const std::string& AChave, const std::string& AInicio,
+std::string Cfg(regras::TTabelaDeConfiguracao ATabela, int AId, const std::string& AChave, const std::string& AInicio,
                 const std::string& AFim, const std::string& AColunas, const std::string& AValores)
 {
     return std::string(ATabela.Nome) + " (" + std::string(ATabela.ColunaDaChave) + ", " +
@@ -51,7 +51,7 @@ std::string Cfg(TTabelaDeConfiguracao ATabela, int AId, const std::string& AChav
 
 /// Rows of one setting: of the newest start, 7 and 8 tie; 6 is older, and stored between them. INFORMACAO1 of row 7 is
 /// "7". An engine that takes the least of the values where keys tie takes another.
-std::vector<std::string> DoisNovosEUmVelho(TTabelaDeConfiguracao ATabela, const std::string& AChave)
+std::vector<std::string> DoisNovosEUmVelho(regras::TTabelaDeConfiguracao ATabela, const std::string& AChave)
 {
     return {Cfg(ATabela, 8, AChave, "'01.01.2020'", "NULL", "INFORMACAO1", "'1'"),
             Cfg(ATabela, 6, AChave, "'01.01.2019'", "NULL", "INFORMACAO1", "'0'"),
@@ -100,8 +100,8 @@ std::vector<std::string> ComFpas(std::vector<std::string> ALinhas)
                     "FP_FPASPERCENTUAIS (IDFPASPERCENTUAIS, IDFPASCODIGO, SENAI) VALUES (3, 77, 1)",
                     "FP_FPASPERCENTUAIS (IDFPASPERCENTUAIS, IDFPASCODIGO, SESI) VALUES (2, 77, 1)",
                     "FP_FPASCODIGO (IDFPASCODIGO, CODIGO) VALUES (77, 507)",
-                    Cfg(SC00_EMPRESACFG, 9, "90, 38, 1", "'01.01.2020'", "NULL", "INFORMACAO1", "'01'"),
-                    Cfg(SC00_EMPRESACFG, 8, "90, 38, 1", "'01.01.2020'", "NULL", "INFORMACAO1", "'99'")});
+                    Cfg(regras::SC00_EMPRESACFG, 9, "90, 38, 1", "'01.01.2020'", "NULL", "INFORMACAO1", "'01'"),
+                    Cfg(regras::SC00_EMPRESACFG, 8, "90, 38, 1", "'01.01.2020'", "NULL", "INFORMACAO1", "'99'")});
     return ComProcesso(std::move(ALinhas));
 }
 
@@ -120,7 +120,7 @@ INSTANTIATE_TEST_SUITE_P(
                  return LGrupo->NmCtt + " " + LGrupo->FoneCel;
              },
              "Ana 3"},
-            {"SituacaoDaEmpresa", DoisNovosEUmVelho(SC00_EMPRESACFG, "90, 38, 8"),
+            {"SituacaoDaEmpresa", DoisNovosEUmVelho(regras::SC00_EMPRESACFG, "90, 38, 8"),
              [] {
                  const auto LGrupo = Carregar<TTarvoESocialCamposInfoComplementares>(1, NO_DIA);
                  return LGrupo->situacaoPJ.indSitPJ + LGrupo->situacaoPF.indSitPF;
@@ -128,11 +128,11 @@ INSTANTIATE_TEST_SUITE_P(
              "77"},
             // The start that the service gives is that of the newest row, whatever the date.
             {"InicioDaEmpresa",
-             {Cfg(SC00_EMPRESACFG, 2, "90, 38, 10", "'01.01.2022'", "NULL", "INFORMACAO1", "'02/02/2002'"),
-              Cfg(SC00_EMPRESACFG, 9, "90, 38, 10", "'01.01.2020'", "NULL", "INFORMACAO1", "'09/09/2009'"),
-              Cfg(SC00_EMPRESACFG, 3, "90, 38, 10", "'01.01.2022'", "NULL", "INFORMACAO1", "'03/03/2003'"),
-              Cfg(SC00_EMPRESACFG, 8, "90, 38, 10", "'01.01.2020'", "'01.03.2021'", "INFORMACAO1", "'08/08/2008'"),
-              Cfg(SC00_EMPRESACFG, 1, "90, 38, 10", "'01.02.2021'", "'28.02.2021'", "INFORMACAO1", "'01/01/2001'")},
+             {Cfg(regras::SC00_EMPRESACFG, 2, "90, 38, 10", "'01.01.2022'", "NULL", "INFORMACAO1", "'02/02/2002'"),
+              Cfg(regras::SC00_EMPRESACFG, 9, "90, 38, 10", "'01.01.2020'", "NULL", "INFORMACAO1", "'09/09/2009'"),
+              Cfg(regras::SC00_EMPRESACFG, 3, "90, 38, 10", "'01.01.2022'", "NULL", "INFORMACAO1", "'03/03/2003'"),
+              Cfg(regras::SC00_EMPRESACFG, 8, "90, 38, 10", "'01.01.2020'", "'01.03.2021'", "INFORMACAO1", "'08/08/2008'"),
+              Cfg(regras::SC00_EMPRESACFG, 1, "90, 38, 10", "'01.02.2021'", "'28.02.2021'", "INFORMACAO1", "'01/01/2001'")},
              [] {
                  const auto LGrupo = Carregar<TTarvoESocialCamposInfoEmpregador>(1, NO_DIA);
                  return DateTimeToStr(LGrupo->idePeriodo.DataIniCfg) + " " +
@@ -140,16 +140,16 @@ INSTANTIATE_TEST_SUITE_P(
              },
              "08/08/2008 02/02/2002"},
             {"AtividadeDoLugar",
-             {Cfg(SC00_FILIALCFG, 8, "1, 1, 2", "'01.01.2020'", "NULL", "INFORMACAO2", "'1'"),
-              Cfg(SC00_FILIALCFG, 6, "1, 1, 2", "'01.01.2019'", "NULL", "INFORMACAO2", "'0'"),
-              Cfg(SC00_FILIALCFG, 5, "1, 1, 2", "'01.01.2019'", "NULL", "INFORMACAO2", "'5'"),
-              Cfg(SC00_FILIALCFG, 7, "1, 1, 2", "'01.01.2020'", "NULL", "INFORMACAO2", "'7'")},
+             {Cfg(regras::SC00_FILIALCFG, 8, "1, 1, 2", "'01.01.2020'", "NULL", "INFORMACAO2", "'1'"),
+              Cfg(regras::SC00_FILIALCFG, 6, "1, 1, 2", "'01.01.2019'", "NULL", "INFORMACAO2", "'0'"),
+              Cfg(regras::SC00_FILIALCFG, 5, "1, 1, 2", "'01.01.2019'", "NULL", "INFORMACAO2", "'5'"),
+              Cfg(regras::SC00_FILIALCFG, 7, "1, 1, 2", "'01.01.2020'", "NULL", "INFORMACAO2", "'7'")},
              [] {
                  return Estabelecimento(*Carregar<TTarvoESocialCamposS1005>(1, 0, NO_DIA)).CnaePrep +
                         Estabelecimento(*Carregar<TTarvoESocialCamposS1005>(0, 10, NO_DIA)).CnaePrep;
              },
              "75"},
-            {"AliquotaDoEstabelecimento", DoisNovosEUmVelho(SC00_FILIALCFG, "90, 51, 3"),
+            {"AliquotaDoEstabelecimento", DoisNovosEUmVelho(regras::SC00_FILIALCFG, "90, 51, 3"),
              [] {
                  TTarvoESocialCamposAliqGilRat LGrupo(1, 0, NO_DIA);
                  // The engine refuses two rows where the process of the RAT is sought.
@@ -157,25 +157,25 @@ INSTANTIATE_TEST_SUITE_P(
                  LGrupo.CarregarDados(&LSoEle);
                  return LGrupo.AliqRat;
              }, "7"},
-            {"RegimeDePontoDoEstabelecimento", DoisNovosEUmVelho(SC00_FILIALCFG, "90, 7, 1"),
+            {"RegimeDePontoDoEstabelecimento", DoisNovosEUmVelho(regras::SC00_FILIALCFG, "90, 7, 1"),
              [] { return Carregar<TTarvoESocialCamposInfoTrab>(1, 0, NO_DIA)->RegPt; }, "7"},
-            {"RegimeDePontoDoDepartamento", DoisNovosEUmVelho(SC00_DEPARTAMENTOCFG, "90, 7, 1"),
+            {"RegimeDePontoDoDepartamento", DoisNovosEUmVelho(regras::SC00_DEPARTAMENTOCFG, "90, 7, 1"),
              [] { return Carregar<TTarvoESocialCamposInfoTrab>(0, 10, NO_DIA)->RegPt; }, "7"},
-            {"Obra", DoisNovosEUmVelho(SC00_DEPARTAMENTOCFG, "90, 40, 1"),
+            {"Obra", DoisNovosEUmVelho(regras::SC00_DEPARTAMENTOCFG, "90, 40, 1"),
              [] { return Carregar<TTarvoESocialCamposInfoObra>(0, 10, NO_DIA)->IndSubstPatrObra; }, "7"},
-            {"Caepf", DoisNovosEUmVelho(SC00_EMPRESACFG, "1, 1, 1"),
+            {"Caepf", DoisNovosEUmVelho(regras::SC00_EMPRESACFG, "1, 1, 1"),
              [] {
                  return Carregar<TTarvoESocialCamposInfoCaepf>(1, 0, NO_DIA)->tpCaepf +
                         Carregar<TTarvoESocialCamposInfoCaepf>(0, 10, NO_DIA)->tpCaepf;
              },
              "77"},
-            {"CotaDeDeficientes", DoisNovosEUmVelho(SC00_EMPRESACFG, "90, 38, 14"),
+            {"CotaDeDeficientes", DoisNovosEUmVelho(regras::SC00_EMPRESACFG, "90, 38, 14"),
              [] { return Carregar<TTarvoESocialCamposInfoPCD>(1, 0, NO_DIA)->ContPCD; }, "7"},
             {"Aprendizes",
-             {Cfg(SC00_FILIALCFG, 8, "90, 58, 1", "'01.01.2020'", "NULL", "INFORMACAO1", "'8'"),
+             {Cfg(regras::SC00_FILIALCFG, 8, "90, 58, 1", "'01.01.2020'", "NULL", "INFORMACAO1", "'8'"),
               "FP_INFOGERALCFG (IDINFOGERALCFG, IDFILIALCFG, ORIGEM, ESPECIE, TP, INFORMACAO1) "
               "VALUES (3, 7, 90, 58, 1, '1')",
-              Cfg(SC00_FILIALCFG, 7, "90, 58, 1", "'01.01.2020'", "NULL", "INFORMACAO1", "'7'"),
+              Cfg(regras::SC00_FILIALCFG, 7, "90, 58, 1", "'01.01.2020'", "NULL", "INFORMACAO1", "'7'"),
               "FP_INFOGERALCFG (IDINFOGERALCFG, IDFILIALCFG, ORIGEM, ESPECIE, TP, INFORMACAO1) "
               "VALUES (2, 7, 90, 58, 1, '2')",
               "PREST_SERVICO (IDPRESTSERVICO, INSCRICAO) VALUES (1, 'um')",
@@ -192,16 +192,16 @@ INSTANTIATE_TEST_SUITE_P(
              "7 dois um"},
             // The process of the RAT by the key of its details, that of the FAP by the latest of them.
             {"ProcessosDoEstabelecimento",
-             ComProcesso({Cfg(SC00_FILIALCFG, 7, "90, 51, 3", "'01.01.2020'", "NULL", "INFORMACAO2", "'3'"),
-                          Cfg(SC00_FILIALCFG, 8, "90, 51, 1", "'01.01.2020'", "NULL", "INFORMACAO2", "'3'")}),
+             ComProcesso({Cfg(regras::SC00_FILIALCFG, 7, "90, 51, 3", "'01.01.2020'", "NULL", "INFORMACAO2", "'3'"),
+                          Cfg(regras::SC00_FILIALCFG, 8, "90, 51, 1", "'01.01.2020'", "NULL", "INFORMACAO2", "'3'")}),
              [] {
                  const auto LGrupo = Carregar<TTarvoESocialCamposAliqGilRat>(1, 0, NO_DIA);
                  return LGrupo->ProcAdmJudRat.CodSusp + " " + LGrupo->ProcAdmJudFap.CodSusp;
              },
              "31 32"},
             {"ProcessosDoDepartamento",
-             ComProcesso({Cfg(SC00_FILIALCFG, 7, "90, 51, 3", "'01.01.2020'", "NULL", "INFORMACAO2", "'4'"),
-                          Cfg(SC00_DEPARTAMENTOCFG, 8, "90, 51, 3", "'01.01.2020'", "NULL", "INFORMACAO2", "'3'"),
+             ComProcesso({Cfg(regras::SC00_FILIALCFG, 7, "90, 51, 3", "'01.01.2020'", "NULL", "INFORMACAO2", "'4'"),
+                          Cfg(regras::SC00_DEPARTAMENTOCFG, 8, "90, 51, 3", "'01.01.2020'", "NULL", "INFORMACAO2", "'3'"),
                           "ES02_SPPROC (IDSPPROC, NUMERO) VALUES (4, 'P4')",
                           "ES02_SPPROCDET (IDSPPROCDET, IDSPPROC, INDSUSPENSAO) VALUES (42, 4, '42')",
                           "ES02_SPPROCDET (IDSPPROCDET, IDSPPROC, INDSUSPENSAO) VALUES (41, 4, '41')"}),
@@ -213,29 +213,29 @@ INSTANTIATE_TEST_SUITE_P(
              },
              "31 41"},
             {"TipoDaLotacao",
-             {Cfg(SC00_FILIALCFG, 8, "90, 50, 1", "'01.01.2020'", "NULL", "INFORMACAO1", "'8'"),
+             {Cfg(regras::SC00_FILIALCFG, 8, "90, 50, 1", "'01.01.2020'", "NULL", "INFORMACAO1", "'8'"),
               "FP_ESOCIALTABELA (IDESOCIALTABELA, TABELA, CODIGO) VALUES (8, 10, '08')",
               "FP_ESOCIALTABELA (IDESOCIALTABELA, TABELA, CODIGO) VALUES (7, 10, '77')",
-              Cfg(SC00_FILIALCFG, 7, "90, 50, 1", "'01.01.2020'", "NULL", "INFORMACAO1", "'7'")},
+              Cfg(regras::SC00_FILIALCFG, 7, "90, 50, 1", "'01.01.2020'", "NULL", "INFORMACAO1", "'7'")},
              [] { return Carregar<TTarvoESocialCamposDadosLotacao>(1, 0, NO_DIA)->tpLotacao; }, "77"},
             // The row in force before a newer one that hasn't begun and one that has ended; the suspended entities are
             // those of the same row.
             {"FpasDoEstabelecimento",
-             ComFpas({Cfg(SC00_FILIALCFG, 1, "90, 51, 2", "'01.01.2022'", "NULL",
+             ComFpas({Cfg(regras::SC00_FILIALCFG, 1, "90, 51, 2", "'01.01.2022'", "NULL",
                           "INFORMACAO1, INFORMACAO8, INFORMACAO9", "'78', '1', '3'"),
-                      Cfg(SC00_FILIALCFG, 9, "90, 51, 2", "'01.01.2020'", "NULL",
+                      Cfg(regras::SC00_FILIALCFG, 9, "90, 51, 2", "'01.01.2020'", "NULL",
                           "INFORMACAO1, INFORMACAO8, INFORMACAO9", "'78', '2', '3'"),
-                      Cfg(SC00_FILIALCFG, 8, "90, 51, 2", "'01.01.2020'", "'31.12.2021'",
+                      Cfg(regras::SC00_FILIALCFG, 8, "90, 51, 2", "'01.01.2020'", "'31.12.2021'",
                           "INFORMACAO1, INFORMACAO8, INFORMACAO9", "'77', '4', '3'"),
-                      Cfg(SC00_FILIALCFG, 2, "90, 51, 2", "'01.06.2020'", "'28.02.2021'",
+                      Cfg(regras::SC00_FILIALCFG, 2, "90, 51, 2", "'01.06.2020'", "'28.02.2021'",
                           "INFORMACAO1, INFORMACAO8, INFORMACAO9", "'78', '8', '3'")}),
              [] { return Fpas(1, 0); }, "507 8 4 4,P3,32"},
             {"FpasDoDepartamento",
-             ComFpas({Cfg(SC00_FILIALCFG, 9, "90, 51, 2", "'01.01.2022'", "NULL", "INFORMACAO10", "'1'"),
-                      Cfg(SC00_FILIALCFG, 8, "90, 51, 2", "'01.01.2020'", "NULL", "INFORMACAO10", "'2'"),
-                      Cfg(SC00_DEPARTAMENTOCFG, 9, "90, 18, 2", "'01.01.2020'", "NULL",
+             ComFpas({Cfg(regras::SC00_FILIALCFG, 9, "90, 51, 2", "'01.01.2022'", "NULL", "INFORMACAO10", "'1'"),
+                      Cfg(regras::SC00_FILIALCFG, 8, "90, 51, 2", "'01.01.2020'", "NULL", "INFORMACAO10", "'2'"),
+                      Cfg(regras::SC00_DEPARTAMENTOCFG, 9, "90, 18, 2", "'01.01.2020'", "NULL",
                           "INFORMACAO1, INFORMACAO2, INFORMACAO3", "'507', '2', '3'"),
-                      Cfg(SC00_DEPARTAMENTOCFG, 8, "90, 18, 2", "'01.01.2020'", "NULL",
+                      Cfg(regras::SC00_DEPARTAMENTOCFG, 8, "90, 18, 2", "'01.01.2020'", "NULL",
                           "INFORMACAO1, INFORMACAO2, INFORMACAO3", "'507', '4', '3'")}),
              [] { return Fpas(0, 10); }, "507 6 4 4,P3,32"},
             {"NaturezaDaRubrica",
@@ -283,7 +283,7 @@ INSTANTIATE_TEST_SUITE_P(
               "FP_ESOCIALTABELA (IDESOCIALTABELA, TABELA, CODIGO) VALUES (1, 1, '101')",
               "CARGOS (IDCARGOS, IDEMPREGADO, DATA, OCORRENCIA) VALUES (2, 1, '01.01.2020', '2')",
               "CARGOS (IDCARGOS, IDEMPREGADO, DATA, OCORRENCIA) VALUES (1, 1, '01.01.2019', '0')"},
-             [] { return TTarvoConsultasGeral::BuscarTexto(SqlExposicao("CARGOS.OCORRENCIA", 1, NO_DIA)); }, "2"},
+             [] { return TTarvoConsultasGeral::BuscarTexto(regras::SqlExposicao("CARGOS.OCORRENCIA", 1, NO_DIA)); }, "2"},
             {"OperadorasEPlanosDeSaude",
              {"TAB_VERBAS (IDVERBA) VALUES (5)", "PSAUDE_OPER (IDPSAUDE_OPER, CNPJ, TIPO) VALUES (2, '1', 1)",
               "PSAUDE_OPER (IDPSAUDE_OPER, CNPJ, TIPO) VALUES (1, '2', 1)",
@@ -311,7 +311,7 @@ INSTANTIATE_TEST_SUITE_P(
               "TAB_VERBAS (IDVERBA, CODIGO, FORMULA) VALUES (7, 2, '1A')",
               "CALCCOMPLDET (IDCALCCOMPLDET, IDCALCCOMPLPER, COD_EMPREGADO, COD_VERBA) VALUES (2, 1, 1, 1)",
               "CALCCOMPLDET (IDCALCCOMPLDET, IDCALCCOMPLPER, COD_EMPREGADO, COD_VERBA) VALUES (1, 1, 1, 2)"},
-             [] { return Ids(SqlFeriasComplementares(1, "01", NO_DIA, NO_DIA)); }, "7 5 6 "},
+             [] { return Ids(regras::SqlFeriasComplementares(1, "01", NO_DIA, NO_DIA)); }, "7 5 6 "},
         }),
         ::testing::Bool()),
     NomeDoCasoDeOrdem);

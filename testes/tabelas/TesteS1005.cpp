@@ -12,10 +12,10 @@ namespace {
 using namespace tabelas;
 
 const auto HOJE = D(2021, 3, 1);
-constexpr TChaveDeConfiguracao RAT{90, 51, 3};
-constexpr TChaveDeConfiguracao FAP{90, 51, 1};
-constexpr TChaveDeConfiguracao FAP_DA_EMPRESA{90, 18, 1};
-constexpr TChaveDeConfiguracao APRENDIZES{90, 58, 1};
+constexpr regras::TChaveDeConfiguracao RAT{90, 51, 3};
+constexpr regras::TChaveDeConfiguracao FAP{90, 51, 1};
+constexpr regras::TChaveDeConfiguracao FAP_DA_EMPRESA{90, 18, 1};
+constexpr regras::TChaveDeConfiguracao APRENDIZES{90, 58, 1};
 
 class TTesteTipoInscricao1005 : public TTesteComLugar {
 protected:
@@ -101,7 +101,7 @@ protected:
 
 TEST_F(TTesteS1005, OEstabelecimentoVenceQuandoOsDoisSaoDados)
 {
-    for (const auto LTabela : {SC00_FILIALCFG, SC00_DEPARTAMENTOCFG}) {
+    for (const auto LTabela : {regras::SC00_FILIALCFG, regras::SC00_DEPARTAMENTOCFG}) {
         const char* LNivel = LTabela.Nome == "SC00_FILIALCFG" ? "1" : "2";
         Configurar(LTabela, {90, 7, 1}, SEMPRE, LNivel);
         Configurar(LTabela, RAT, SEMPRE, LNivel);
@@ -142,15 +142,15 @@ TEST_F(TTesteS1005, ALinhaNaoValeMaisNoDiaDoSeuFim)
 {
     const TValidade LValidade{D(2020, 1, 1), D(2020, 6, 30)};
     Processo(5, "P5");
-    Configurar(SC00_EMPRESACFG, {1, 1, 1}, LValidade, "2062");
-    Configurar(SC00_EMPRESACFG, {90, 38, 14}, LValidade, "7", "5");
-    Configurar(SC00_EMPRESACFG, FAP_DA_EMPRESA, LValidade, "0,5");
-    Configurar(SC00_FILIALCFG, RAT, LValidade, "3");
-    for (const auto LTabela : {SC00_FILIALCFG, SC00_DEPARTAMENTOCFG}) {
+    Configurar(regras::SC00_EMPRESACFG, {1, 1, 1}, LValidade, "2062");
+    Configurar(regras::SC00_EMPRESACFG, {90, 38, 14}, LValidade, "7", "5");
+    Configurar(regras::SC00_EMPRESACFG, FAP_DA_EMPRESA, LValidade, "0,5");
+    Configurar(regras::SC00_FILIALCFG, RAT, LValidade, "3");
+    for (const auto LTabela : {regras::SC00_FILIALCFG, regras::SC00_DEPARTAMENTOCFG}) {
         Configurar(LTabela, {90, 7, 1}, LValidade, "2");
         Configurar(LTabela, APRENDIZES, LValidade, "4", "5", "S");
     }
-    Configurar(SC00_DEPARTAMENTOCFG, {90, 40, 1}, LValidade, "1");
+    Configurar(regras::SC00_DEPARTAMENTOCFG, {90, 40, 1}, LValidade, "1");
 
     const std::string LFora = "/0  0  ,, ,";
     for (const auto LData : {D(2019, 12, 31), D(2020, 6, 30), D(2020, 7, 1)}) {
@@ -169,8 +169,8 @@ TEST_F(TTesteS1005, NemAsAliquotasProcessosEFapDeCadaNivelValemNoDiaDoFim)
     Processo(2, "P2");
     Processo(3, "P3");
     Processo(4, "P4");
-    Configurar(SC00_FILIALCFG, FAP, LValidade, "1,75", "2");
-    Configurar(SC00_FILIALCFG, RAT, LValidade, "3", "3");
+    Configurar(regras::SC00_FILIALCFG, FAP, LValidade, "1,75", "2");
+    Configurar(regras::SC00_FILIALCFG, RAT, LValidade, "3", "3");
     const auto Resumo = [](const TTarvoESocialCamposS1005& AEvento) {
         return Aliquotas(AEvento) + " " + ProcessoDoRat(AEvento) + " " + ProcessoDoFap(AEvento);
     };
@@ -184,7 +184,7 @@ TEST_F(TTesteS1005, NemAsAliquotasProcessosEFapDeCadaNivelValemNoDiaDoFim)
         EXPECT_EQ(LFora, Resumo(*CarregarDepto(LData)));
     }
     // The department's own rate and process.
-    Configurar(SC00_DEPARTAMENTOCFG, RAT, LValidade, "2", "4");
+    Configurar(regras::SC00_DEPARTAMENTOCFG, RAT, LValidade, "2", "4");
     EXPECT_EQ("2/1,75 4/2/P4// 2/2/P2//1", Resumo(*CarregarDepto(D(2020, 6, 29))));
     EXPECT_EQ(LFora, Resumo(*CarregarDepto(D(2020, 6, 30))));
 }
@@ -193,8 +193,8 @@ TEST_F(TTesteS1005, AsEntidadesEducacionaisAindaValemNoDiaDoFim)
 {
     Inserir("PREST_SERVICO", {{"IDPRESTSERVICO", 8}, {"INSCRICAO", "88112233000127"}});
     Inserir("PREST_SERVICO", {{"IDPRESTSERVICO", 9}, {"INSCRICAO", "99112233000109"}});
-    Configurar(SC00_FILIALCFG, APRENDIZES, {D(2020, 1, 1), D(2020, 6, 30)}, "4");
-    Configurar(SC00_DEPARTAMENTOCFG, APRENDIZES, {D(2020, 1, 1), D(2020, 6, 30)}, "5");
+    Configurar(regras::SC00_FILIALCFG, APRENDIZES, {D(2020, 1, 1), D(2020, 6, 30)}, "4");
+    Configurar(regras::SC00_DEPARTAMENTOCFG, APRENDIZES, {D(2020, 1, 1), D(2020, 6, 30)}, "5");
     const auto LDaFilial = std::stoi(Consultar("SELECT IDFILIALCFG FROM SC00_FILIALCFG"));
     const auto LDoDepto = std::stoi(Consultar("SELECT IDDEPARTAMENTOCFG FROM SC00_DEPARTAMENTOCFG"));
     const auto Entidade = [](const char* AColuna, int AId, int ATp, const char* APrestador) {
@@ -244,7 +244,7 @@ TEST_F(TTesteS1005, DeDuasLinhasNoMesmoDiaAsEntidadesSaoDaMaisNova)
 {
     Inserir("PREST_SERVICO", {{"IDPRESTSERVICO", 8}, {"INSCRICAO", "88112233000127"}});
     Inserir("PREST_SERVICO", {{"IDPRESTSERVICO", 9}, {"INSCRICAO", "99112233000109"}});
-    for (const auto LTabela : {SC00_FILIALCFG, SC00_DEPARTAMENTOCFG}) {
+    for (const auto LTabela : {regras::SC00_FILIALCFG, regras::SC00_DEPARTAMENTOCFG}) {
         Configurar(LTabela, APRENDIZES, {D(2020, 6, 30), nullptr}, "5");
         Configurar(LTabela, APRENDIZES, {D(2020, 1, 1), D(2020, 6, 30)}, "4");
         const std::string LChave = LTabela.Nome == "SC00_FILIALCFG" ? "IDFILIALCFG" : "IDDEPARTAMENTOCFG";
@@ -266,28 +266,28 @@ TEST_F(TTesteS1005, DeDuasLinhasNoMesmoDiaAsEntidadesSaoDaMaisNova)
 
 TEST_F(TTesteS1005, AtividadeMaisNovaDoEstabelecimentoEMaisAntigaDoDepartamento)
 {
-    Configurar(SC00_FILIALCFG, {1, 1, 2}, {D(2019, 1, 1), D(2019, 12, 31)}, nullptr, "meio");
-    Configurar(SC00_FILIALCFG, {1, 1, 2}, {D(2018, 1, 1), D(2018, 12, 31)}, nullptr, "antiga");
+    Configurar(regras::SC00_FILIALCFG, {1, 1, 2}, {D(2019, 1, 1), D(2019, 12, 31)}, nullptr, "meio");
+    Configurar(regras::SC00_FILIALCFG, {1, 1, 2}, {D(2018, 1, 1), D(2018, 12, 31)}, nullptr, "antiga");
     // Whatever the date: it hasn't even started.
-    Configurar(SC00_FILIALCFG, {1, 1, 2}, {D(2030, 1, 1), nullptr}, nullptr, "nova");
-    Configurar(SC00_FILIALCFG, {90, 1, 2}, {D(2031, 1, 1), nullptr}, nullptr, "outra origem");
+    Configurar(regras::SC00_FILIALCFG, {1, 1, 2}, {D(2030, 1, 1), nullptr}, nullptr, "nova");
+    Configurar(regras::SC00_FILIALCFG, {90, 1, 2}, {D(2031, 1, 1), nullptr}, nullptr, "outra origem");
     EXPECT_EQ("nova", CarregarEstab()->InfoEstab.DadosEstab.CnaePrep);
     EXPECT_EQ("antiga", CarregarDepto()->InfoEstab.DadosEstab.CnaePrep);
 }
 
 TEST_F(TTesteS1005, AliquotaEFapDescemDeNivelEmNivel)
 {
-    Configurar(SC00_EMPRESACFG, FAP_DA_EMPRESA, SEMPRE, "0,5");
+    Configurar(regras::SC00_EMPRESACFG, FAP_DA_EMPRESA, SEMPRE, "0,5");
     // Without a rate an establishment has no FAP either; a department has.
     EXPECT_EQ("/0", Aliquotas(*CarregarEstab()));
     EXPECT_EQ("/0,5", Aliquotas(*CarregarDepto()));
-    Configurar(SC00_FILIALCFG, RAT, SEMPRE, "3");
+    Configurar(regras::SC00_FILIALCFG, RAT, SEMPRE, "3");
     EXPECT_EQ("3/0,5", Aliquotas(*CarregarEstab()));
     EXPECT_EQ("3/0,5", Aliquotas(*CarregarDepto()));
-    Configurar(SC00_FILIALCFG, FAP, SEMPRE, "1,75");
-    Configurar(SC00_DEPARTAMENTOCFG, RAT, SEMPRE, "2");
+    Configurar(regras::SC00_FILIALCFG, FAP, SEMPRE, "1,75");
+    Configurar(regras::SC00_DEPARTAMENTOCFG, RAT, SEMPRE, "2");
     // A FAP of the department's own level is no setting of the system.
-    Configurar(SC00_DEPARTAMENTOCFG, FAP, SEMPRE, "9");
+    Configurar(regras::SC00_DEPARTAMENTOCFG, FAP, SEMPRE, "9");
     EXPECT_EQ("3/1,75", Aliquotas(*CarregarEstab()));
     EXPECT_EQ("2/1,75", Aliquotas(*CarregarDepto()));
     Executar("UPDATE SC00_FILIALCFG SET INFORMACAO1 = NULL WHERE TP = 1");
@@ -302,9 +302,9 @@ TEST_F(TTesteS1005, AliquotaEFapDescemDeNivelEmNivel)
 
 TEST_F(TTesteS1005, DuasLinhasVigentesSaoErroDoBanco)
 {
-    Configurar(SC00_FILIALCFG, RAT, SEMPRE, "3");
-    Configurar(SC00_FILIALCFG, FAP, SEMPRE, "1");
-    Configurar(SC00_FILIALCFG, FAP, {D(2021, 3, 1), nullptr}, "2");
+    Configurar(regras::SC00_FILIALCFG, RAT, SEMPRE, "3");
+    Configurar(regras::SC00_FILIALCFG, FAP, SEMPRE, "1");
+    Configurar(regras::SC00_FILIALCFG, FAP, {D(2021, 3, 1), nullptr}, "2");
     EXPECT_EQ("3/1", Aliquotas(*CarregarEstab(D(2021, 2, 28))));
     TTarvoESocialCamposS1005 LEvento(1, 0, HOJE);
     EXPECT_THROW(LEvento.CarregarDados(), EDatabaseError);
@@ -321,8 +321,8 @@ TEST_F(TTesteS1005, ProcessoDoRatDoDepartamentoAntesDoEstabelecimento)
     EXPECT_EQ("0////", ProcessoDoRat(*CarregarEstab()));
     EXPECT_EQ("0////", ProcessoDoRat(*CarregarDepto()));
 
-    Configurar(SC00_DEPARTAMENTOCFG, RAT, SEMPRE, "2");
-    Configurar(SC00_FILIALCFG, RAT, SEMPRE, "3", "3");
+    Configurar(regras::SC00_DEPARTAMENTOCFG, RAT, SEMPRE, "2");
+    Configurar(regras::SC00_FILIALCFG, RAT, SEMPRE, "3", "3");
     // The department has a rate and no process; its subject is never selected.
     EXPECT_EQ("3/2/P3/01/1", ProcessoDoRat(*CarregarEstab()));
     EXPECT_EQ("3/2/P3/01/", ProcessoDoRat(*CarregarDepto()));
@@ -340,7 +340,7 @@ TEST_F(TTesteS1005, ProcessoDoRatDoDepartamentoAntesDoEstabelecimento)
 TEST_F(TTesteS1005, ProcessoDoFapComASuspensaoMaisNova)
 {
     Processo(2, "P2");
-    Configurar(SC00_FILIALCFG, FAP, SEMPRE, "1", "");
+    Configurar(regras::SC00_FILIALCFG, FAP, SEMPRE, "1", "");
     EXPECT_EQ("0////", ProcessoDoFap(*CarregarEstab()));
     EXPECT_EQ("0////", ProcessoDoFap(*CarregarDepto()));
     Executar("UPDATE SC00_FILIALCFG SET INFORMACAO2 = '2'");
@@ -350,14 +350,14 @@ TEST_F(TTesteS1005, ProcessoDoFapComASuspensaoMaisNova)
     Suspensao(23, 2, D(2019, 1, 1), "03");
     EXPECT_EQ("2/2/P2/02/1", ProcessoDoFap(*CarregarEstab()));
     // The department takes it from its establishment, subject included.
-    Configurar(SC00_DEPARTAMENTOCFG, FAP, SEMPRE, "1", "99");
+    Configurar(regras::SC00_DEPARTAMENTOCFG, FAP, SEMPRE, "1", "99");
     EXPECT_EQ("2/2/P2/02/1", ProcessoDoFap(*CarregarDepto()));
 }
 
 TEST_F(TTesteS1005, SoOsTrintaEDoisBitsBaixosContamNoCaepf)
 {
     constexpr std::int64_t LAcima = std::int64_t{1} << 32;
-    Configurar(SC00_EMPRESACFG, {1, 1, 1}, SEMPRE, "2062");
+    Configurar(regras::SC00_EMPRESACFG, {1, 1, 1}, SEMPRE, "2062");
     for (const auto& [LEstab, LDepto, LEsperado] : {std::tuple{LAcima + 1, std::int64_t{0}, "2062"},
                                                     {LAcima, std::int64_t{10}, "2062"},
                                                     {LAcima, LAcima + 10, "2062"},
@@ -368,8 +368,8 @@ TEST_F(TTesteS1005, SoOsTrintaEDoisBitsBaixosContamNoCaepf)
 
 TEST_F(TTesteS1005, ObraSoDeDepartamentoEComPadrao)
 {
-    Configurar(SC00_FILIALCFG, {90, 40, 1}, SEMPRE, "9");
-    Configurar(SC00_DEPARTAMENTOCFG, {90, 40, 1}, SEMPRE, "2");
+    Configurar(regras::SC00_FILIALCFG, {90, 40, 1}, SEMPRE, "9");
+    Configurar(regras::SC00_DEPARTAMENTOCFG, {90, 40, 1}, SEMPRE, "2");
     TTarvoESocialCamposInfoObra LObra(1, 10, HOJE);
     EXPECT_EQ("", LObra.IndSubstPatrObra);
     LObra.CarregarDados();
@@ -383,7 +383,7 @@ TEST_F(TTesteS1005, ObraSoDeDepartamentoEComPadrao)
 
 TEST_F(TTesteS1005, CotaDePcdSoDaMatriz)
 {
-    Configurar(SC00_EMPRESACFG, {90, 38, 14}, SEMPRE, "7");
+    Configurar(regras::SC00_EMPRESACFG, {90, 38, 14}, SEMPRE, "7");
     Inserir("SC00_FILIAL", {{"IDFILIAL", 2}, {"IDEMPRESA", 1}, {"EHMATRIZ", 0}});
     Inserir("SC00_FILIAL", {{"IDFILIAL", 3}, {"IDEMPRESA", 1}, {"EHMATRIZ", 1}});
     Inserir("SC00_DEPTO", {{"IDDEPTO", 11}, {"IDFILIAL", 1}});

@@ -6,7 +6,7 @@
 namespace tarvo::testes {
 namespace {
 
-using tabelas::TCodigosIncidenciaVerba;
+using regras::TCodigosIncidenciaVerba;
 using tabelas::TTarvoESocialCamposS1010;
 
 class TTesteS1010 : public TTesteComBanco {
@@ -67,7 +67,7 @@ TEST_F(TTesteS1010, NaturezaEhARelacaoMaisAntigaAindaNaoEncerrada)
 
 TEST_F(TTesteS1010, IncidenciasDaVerbaSaoDeQuemChama)
 {
-    TCodigosIncidenciaVerba LCodigos{11, 12, 13, 0};
+    regras::TCodigosIncidenciaVerba LCodigos{11, 12, 13, 0};
     TTarvoESocialCamposS1010 LEvento(1, 1, 0, D(2021, 3, 1), &LCodigos);
     auto& LDados = LEvento.InfoRubrica.DadosRubrica;
     const auto Codigos = [&] {
@@ -103,7 +103,7 @@ TEST_F(TTesteS1010, RubricaDeRpaTemAsIncidenciasDoBancoEPrecisaDeTodas)
                                    {"IDESOCIALTABELAIRRF", 9998},
                                    {"IDESOCIALTABELAFGTS", 9996},
                                    {"IDESOCIALTABELACS", 9995}});
-    const TCodigosIncidenciaVerba LCodigos{1, 2, 3, 4};
+    const regras::TCodigosIncidenciaVerba LCodigos{1, 2, 3, 4};
     const auto Carregar = [&](std::int64_t AIdVerba) {
         auto LEvento = std::make_unique<TTarvoESocialCamposS1010>(AIdVerba, 1, 3, D(2021, 3, 1), &LCodigos);
         EXPECT_EQ("0", LEvento->InfoRubrica.IdeRubrica.IdeTabRubr);
@@ -179,7 +179,7 @@ TEST_F(TTesteIncidenciasDoExemplo, AsGravadasSaoAsDaBusca)
     ASSERT_GT(LVerbas.QuantidadeDeLinhas(), 70U);
     for (std::size_t i = 0; i < LVerbas.QuantidadeDeLinhas(); ++i) {
         const auto LId = LVerbas.Inteiro(i, 0);
-        const auto LIncid = tabelas::TTarvoESocialCamposBuscaIncidVerbas::BuscarIncidencias(LId);
+        const auto LIncid = regras::TTarvoESocialCamposBuscaIncidVerbas::BuscarIncidencias(LId);
         for (const auto& [LTributo, LLista] : {std::pair{"CP", LIncid.FListInss},
                                                {"IRRF", LIncid.FListIrrf},
                                                {"FGTS", LIncid.FListFgts},

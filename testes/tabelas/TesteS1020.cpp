@@ -8,9 +8,9 @@ namespace {
 using namespace tabelas;
 
 const auto DATA_DO_EVENTO = D(2021, 3, 1);
-constexpr TChaveDeConfiguracao FPAS_DO_ESTAB{90, 51, 2};
-constexpr TChaveDeConfiguracao FPAS_DO_DEPTO{90, 18, 2};
-constexpr TChaveDeConfiguracao CLASSIFICACAO{90, 38, 1};
+constexpr regras::TChaveDeConfiguracao FPAS_DO_ESTAB{90, 51, 2};
+constexpr regras::TChaveDeConfiguracao FPAS_DO_DEPTO{90, 18, 2};
+constexpr regras::TChaveDeConfiguracao CLASSIFICACAO{90, 38, 1};
 
 class TTesteS1020 : public TTesteComLugar {
 protected:
@@ -42,9 +42,10 @@ protected:
         Inserir("FP_FPASCODIGO", {{"IDFPASCODIGO", 77}, {"CODIGO", 507}});
         Inserir("FP_FPASPERCENTUAIS", {{"IDFPASCODIGO", 77}});
         // The rows have ended, or not begun: their dates don't matter.
-        Configurar(SC00_FILIALCFG, FPAS_DO_ESTAB, {D(2018, 1, 1), D(2018, 12, 31)}, "77", nullptr, nullptr, "12");
-        Configurar(SC00_DEPARTAMENTOCFG, FPAS_DO_DEPTO, {D(2030, 1, 1), nullptr}, "507", "3");
-        Configurar(SC00_EMPRESACFG, CLASSIFICACAO, SEMPRE, "99");
+        Configurar(regras::SC00_FILIALCFG, FPAS_DO_ESTAB, {D(2018, 1, 1), D(2018, 12, 31)}, "77", nullptr, nullptr,
+                   "12");
+        Configurar(regras::SC00_DEPARTAMENTOCFG, FPAS_DO_DEPTO, {D(2030, 1, 1), nullptr}, "507", "3");
+        Configurar(regras::SC00_EMPRESACFG, CLASSIFICACAO, SEMPRE, "99");
     }
 };
 
@@ -107,12 +108,12 @@ TEST_F(TTesteS1020, InscricaoDoDepartamentoOuDoContratante)
 
 TEST_F(TTesteS1020, OEstabelecimentoPrecisaDeUmaLinhaJaIniciada)
 {
-    constexpr TChaveDeConfiguracao TIPO{90, 50, 1};
+    constexpr regras::TChaveDeConfiguracao TIPO{90, 50, 1};
     Inserir("FP_ESOCIALTABELA", {{"IDESOCIALTABELA", 50}, {"TABELA", 10}, {"CODIGO", "01"}});
     Inserir("FP_ESOCIALTABELA", {{"IDESOCIALTABELA", 51}, {"TABELA", 10}, {"CODIGO", "21"}});
     EXPECT_EQ("//", Dados(1, 0));
-    Configurar(SC00_FILIALCFG, TIPO, {D(2019, 1, 1), D(2019, 1, 31)}, "50");
-    Configurar(SC00_FILIALCFG, TIPO, {D(2020, 1, 1), nullptr}, "51");
+    Configurar(regras::SC00_FILIALCFG, TIPO, {D(2019, 1, 1), D(2019, 1, 31)}, "50");
+    Configurar(regras::SC00_FILIALCFG, TIPO, {D(2020, 1, 1), nullptr}, "51");
     for (const auto& [LData, LEsperado] : {std::pair{D(2018, 12, 31), "//"},
                                            {D(2019, 1, 1), "01/1/11222333000181"},
                                            // It has ended, and still counts.
@@ -186,8 +187,8 @@ TEST_F(TTesteS1020, UmFilhoPorEntidadeSuspensa)
     Suspensao(31, 3, D(2020, 5, 1), "01");
     Suspensao(32, 3, D(2020, 7, 1), "02");
     Suspensao(33, 3, D(2020, 6, 1), "03");
-    Configurar(SC00_FILIALCFG, FPAS_DO_ESTAB, {D(2018, 1, 1), D(2018, 12, 31)}, nullptr, "99", "99", "0", "3");
-    Configurar(SC00_DEPARTAMENTOCFG, FPAS_DO_DEPTO, {D(2030, 1, 1), nullptr}, nullptr, "0", "3", "99", "99");
+    Configurar(regras::SC00_FILIALCFG, FPAS_DO_ESTAB, {D(2018, 1, 1), D(2018, 12, 31)}, nullptr, "99", "99", "0", "3");
+    Configurar(regras::SC00_DEPARTAMENTOCFG, FPAS_DO_DEPTO, {D(2030, 1, 1), nullptr}, nullptr, "0", "3", "99", "99");
     for (const auto& [LCodigo, LEsperado] : {std::pair{"'0'", ""},
                                              {"NULL", ""},
                                              {"'1'", "1,P3,32"},
@@ -207,7 +208,7 @@ TEST_F(TTesteS1020, UmFilhoPorEntidadeSuspensa)
 
 TEST_F(TTesteS1020, SemProcessoNaoHaSuspensos)
 {
-    Configurar(SC00_FILIALCFG, FPAS_DO_ESTAB, SEMPRE, nullptr, nullptr, nullptr, "3");
+    Configurar(regras::SC00_FILIALCFG, FPAS_DO_ESTAB, SEMPRE, nullptr, nullptr, nullptr, "3");
     EXPECT_EQ("", Suspensos(1, 0));
     Executar("UPDATE SC00_FILIALCFG SET INFORMACAO9 = ''");
     EXPECT_EQ("", Suspensos(1, 0));
@@ -224,7 +225,7 @@ TEST_F(TTesteS1020, SemProcessoNaoHaSuspensos)
 
 TEST_F(TTesteS1020, CodigoDeSuspensosQueNaoEhNumeroFalhaNaConstrucao)
 {
-    Configurar(SC00_FILIALCFG, FPAS_DO_ESTAB, SEMPRE, nullptr, nullptr, nullptr, "doze", "3");
+    Configurar(regras::SC00_FILIALCFG, FPAS_DO_ESTAB, SEMPRE, nullptr, nullptr, nullptr, "doze", "3");
     EXPECT_THROW(TTarvoESocialCamposS1020(1, 0, DATA_DO_EVENTO), EDatabaseError);
     Executar("UPDATE SC00_FILIALCFG SET INFORMACAO8 = '1', INFORMACAO9 = 'P3'");
     EXPECT_THROW(TTarvoESocialCamposS1020(1, 0, DATA_DO_EVENTO), EConvertError);

@@ -33,9 +33,9 @@ protected:
     inline static const TValidade SEMPRE{D(2018, 1, 1), nullptr};
 
     /// A configuration row; the owner is the company, the establishment or the department of the fixture.
-    static void Configurar(TTabelaDeConfiguracao ATabela, TChaveDeConfiguracao AChave, const TValidade& AValidade,
-                           TValorSql A1, TValorSql A2 = nullptr, TValorSql A3 = nullptr, TValorSql A8 = nullptr,
-                           TValorSql A9 = nullptr, TValorSql A10 = nullptr)
+    static void Configurar(regras::TTabelaDeConfiguracao ATabela, regras::TChaveDeConfiguracao AChave,
+                           const TValidade& AValidade, TValorSql A1, TValorSql A2 = nullptr, TValorSql A3 = nullptr,
+                           TValorSql A8 = nullptr, TValorSql A9 = nullptr, TValorSql A10 = nullptr)
     {
         const std::string LColunaDoDono(ATabela.ColunaDoDono);
         Inserir(std::string(ATabela.Nome).c_str(), {{LColunaDoDono.c_str(), LColunaDoDono == "IDDEPARTAMENTO" ? 10 : 1},

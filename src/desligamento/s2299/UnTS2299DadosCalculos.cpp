@@ -96,9 +96,9 @@ TDataset TS2299DadosCalculos::BuscarCalculoIntermitente()
 
 void TS2299DadosCalculos::AdicionarVerbasDeFeriasComplementaresNaLista()
 {
-    SomarFeriasComplementares(
+    regras::SomarFeriasComplementares(
         FListaDadosCalculo, &TDadosCalculo::IDVerba, &TDadosCalculo::Base, &TDadosCalculo::Valor,
-        SqlFeriasComplementares(FDados.IDEmpregado, FDados.TipoFolha, FDados.DataInicio, FDados.DataFim));
+        regras::SqlFeriasComplementares(FDados.IDEmpregado, FDados.TipoFolha, FDados.DataInicio, FDados.DataFim));
 }
 
 // Without a net of vacations the sum is lost; that is meant.

@@ -48,7 +48,7 @@ std::string TTarvoESocialCamposverbasRescS2299::SqlDosDemonstrativos(const TdmDe
 {
     using enum TTipoCalculoDesligamento;
     static const std::string JUNCOES_DO_ACORDO =
-        "\n" + std::string(JUNCAO_CALCULO_COMPLEMENTAR) + "\n" + std::string(JUNCAO_ACORDO);
+        "\n" + std::string(regras::JUNCAO_CALCULO_COMPLEMENTAR) + "\n" + std::string(regras::JUNCAO_ACORDO);
     const auto LInicio = FormatarDataDB(ADmDev.GetPrimeiroDiaMesRescisao(), true);
     const auto LFim = FormatarDataDB(ADmDev.GetUltimoDiaMesRescisao(), true);
 

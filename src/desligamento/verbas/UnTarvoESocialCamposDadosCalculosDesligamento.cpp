@@ -115,7 +115,8 @@ UNION ALL
 )
 GROUP BY %3:s)";
     return Format(SQL, SqlDaQuebra(ACondicoes, CHAVES_DA_QUEBRA),
-                  SqlDoCalculo(ACondicoes, COLUNAS_DO_CALCULO_SEM_QUEBRA), CALCULO_SEM_QUEBRA, COLUNAS_DA_UNIAO);
+                  SqlDoCalculo(ACondicoes, COLUNAS_DO_CALCULO_SEM_QUEBRA), regras::CALCULO_SEM_QUEBRA,
+                  COLUNAS_DA_UNIAO);
 }
 
 TDataset TDadosCalculosDesligamento::BuscarCalculoRescisaoComplementar() const

@@ -9,7 +9,8 @@ namespace tarvo::desligamento {
 
 TRamoDeDemonstrativo RamoRescisaoComplementar(const TdmDevDesligamentoIOP& ADmDev, std::string AColunas)
 {
-    static const std::string JUNCOES = "\nJOIN " + std::string(RESC_COMPL_DO_CALCULO) + std::string(JUNCAO_VERBAS);
+    static const std::string JUNCOES =
+        "\nJOIN " + std::string(regras::RESC_COMPL_DO_CALCULO) + std::string(JUNCAO_VERBAS);
     static constexpr std::string_view CONDICOES = R"(CALCULO.TIPO = '05'
   AND CALCULO.SUBTIPO = 2
   AND ((RESC_COMPL.IDINFOGFIP650660 IS NULL) OR (CALCULO.DATA_PAGTO BETWEEN %0:s AND %1:s )))";
@@ -80,19 +81,19 @@ std::string FormarIdeDmDevDesligamento(const TdmDevDesligamentoIOP& ADmDev, std:
                                        std::int64_t AIdDetConvocacao)
 {
     using enum TTipoCalculoDesligamento;
-    remuneracao::TDadosIdeDmDev LDados;
+    regras::TDadosIdeDmDev LDados;
     LDados.TipoFolha = StrToInt64(ADmDev.TipoFolha);
     LDados.SubTipoFolha = ADmDev.SubTipoFolha;
     LDados.TipoFolhaCompl = ATipoCalcComplem;
     LDados.Data = ADmDev.DataInicio;
     if (ADmDev.TipoCalculo == Rescisao || ADmDev.TipoCalculo == RescisaoComplementar)
-        LDados.Forma = remuneracao::TFormaIdeDmDev::Rescisao;
+        LDados.Forma = regras::TFormaIdeDmDev::Rescisao;
     else if (ADmDev.TipoCalculo == Intermitente)
         LDados.IdDetConvocacao = AIdDetConvocacao;
     if (TTarvoConsultasEmpregado::ExistemVariosVinculosAtivosComCategDiferentes(ADmDev.IDEmpregado, ADmDev.DataInicio))
         LDados.CodCateg = static_cast<std::int32_t>(
             StrToInt64Def(TTarvoConsultasEmpregado::BuscarCodCategoriaEmpregado(ADmDev.IDEmpregado).substr(0, 3), 0));
-    return remuneracao::FormarIdeDmDev(LDados);
+    return regras::FormarIdeDmDev(LDados);
 }
 
 bool ValidouEnvioDasVerbas(std::int64_t AIdEmpregado, TDateTime ADataDesligamento,

@@ -63,8 +63,9 @@ SELECT
 FROM SQL_DADOSVERBA
 FULL JOIN SQL_IDETAB_RUBR ON (1=1)
 FULL JOIN SQL_COD_NAT_RUBRICA_RELAC ON (1=1))";
-    return Format(SQL, FDadosCalculo.IDVerba, SqlTabelaDeRubricasDoEmpregado(FDadosCalculo.IDEmpregado, FDataDemissao),
-                  OrdemDaValidade({"FP_RUBRICARELAC", "IDVERBA"}, FDataDemissao));
+    return Format(SQL, FDadosCalculo.IDVerba,
+                  regras::SqlTabelaDeRubricasDoEmpregado(FDadosCalculo.IDEmpregado, FDataDemissao),
+                  regras::OrdemDaValidade({"FP_RUBRICARELAC", "IDVERBA"}, FDataDemissao));
 }
 
 void TTarvoESocialCamposdetVerbasDesligamento::AtribuirValoresManualmente()
@@ -81,13 +82,13 @@ void TTarvoESocialCamposdetVerbasDesligamento::AtribuirValoresManualmente()
 
 void TTarvoESocialCamposdetVerbasDesligamento::AtribuirCodRubr()
 {
-    const auto LIncid = tabelas::TTarvoESocialCamposBuscaIncidVerbas::BuscarIncidencias(
+    const auto LIncid = regras::TTarvoESocialCamposBuscaIncidVerbas::BuscarIncidencias(
         FDadosCalculo.IDVerba, TTarvoConsultasVerbas::BuscarTiposDeTributosComProcessoParaVerbaNaEmpresa(
                                    FDadosCalculo.IDVerba, FIdEmpresa, FDataDemissao));
     if (LIncid.FCodVerba == 0)
         codRubr.clear();
     else
-        codRubr = tabelas::ComporCodRubr(StrToInt64Def(codRubr, 0), tabelas::PrimeirosCodigos(LIncid));
+        codRubr = regras::ComporCodRubr(StrToInt64Def(codRubr, 0), regras::PrimeirosCodigos(LIncid));
 }
 
 } // namespace tarvo::desligamento

@@ -64,7 +64,7 @@ protected:
     std::string BuscarSQLDados() override
     {
         const auto& LDmDev = FDadosCalculos.DadosDmDev();
-        return tabelas::SqlInscricaoDaLotacao(LDmDev.IDFilial, LDmDev.IDDepto);
+        return regras::SqlInscricaoDaLotacao(LDmDev.IDFilial, LDmDev.IDDepto);
     }
 
 private:

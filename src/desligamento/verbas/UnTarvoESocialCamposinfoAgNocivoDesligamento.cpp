@@ -22,7 +22,7 @@ const TPropriedades& TTarvoESocialCamposinfoAgNocivoDesligamento::Tabela()
 
 std::string TTarvoESocialCamposinfoAgNocivoDesligamento::BuscarSQLDados()
 {
-    return tabelas::SqlExposicao("CARGOS.OCORRENCIA", FIdEmpregado, FDataBase);
+    return regras::SqlExposicao("CARGOS.OCORRENCIA", FIdEmpregado, FDataBase);
 }
 
 } // namespace tarvo::desligamento

@@ -36,12 +36,12 @@ WHERE EMPREGADOS.IDEMPREGADO = %0:d
 GROUP BY RENDIMENTOS.TPINSCRICAO, RENDIMENTOS.INSCRICAO, FP_ESOCIALTABELA.CODIGO
 ORDER BY RENDIMENTOS.TPINSCRICAO, RENDIMENTOS.INSCRICAO, FP_ESOCIALTABELA.CODIGO)";
     const auto LCondicaoDaOrdem =
-        tabelas::CondicaoDaOrdemDeDesconto(TTarvoConsultasEmpregado::BuscarIDEmpresaDoEmpregado(AIdEmpregado),
-                                           TTarvoConsultasEmpregado::BuscarCpfTrabalhador(AIdEmpregado));
-    return Format(
-        SQL, AIdEmpregado, FormatarDataDB(TransformarData(AData, 0, TDiasTransformarData::UltimoDiaDoMes), true),
-        FormatarDataDB(TransformarData(AData, 0, TDiasTransformarData::PrimeiroDiaDoMes), true), LCondicaoDaOrdem,
-        tabelas::CondicaoDeOutroEmpregador("RENDIMENTOS.INSCRICAO", "EMPREGADOS.IDEMPRESA"));
+        regras::CondicaoDaOrdemDeDesconto(TTarvoConsultasEmpregado::BuscarIDEmpresaDoEmpregado(AIdEmpregado),
+                                          TTarvoConsultasEmpregado::BuscarCpfTrabalhador(AIdEmpregado));
+    return Format(SQL, AIdEmpregado,
+                  FormatarDataDB(TransformarData(AData, 0, TDiasTransformarData::UltimoDiaDoMes), true),
+                  FormatarDataDB(TransformarData(AData, 0, TDiasTransformarData::PrimeiroDiaDoMes), true),
+                  LCondicaoDaOrdem, regras::CondicaoDeOutroEmpregador("RENDIMENTOS.INSCRICAO", "EMPREGADOS.IDEMPRESA"));
 }
 
 void AlimentarRemunOutrEmpr(TTarvoESocialCamposremunOutrEmprDesligamento& ARemuneracao, const TOvraClientDataSet& ACds)

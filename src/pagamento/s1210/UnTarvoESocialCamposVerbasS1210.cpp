@@ -14,7 +14,7 @@
 
 namespace tarvo::pagamento {
 
-tabelas::TCodigosIncidenciaVerba BuscarCodigosDaVerbaRpa(std::int64_t AIdRpaTpValor)
+regras::TCodigosIncidenciaVerba BuscarCodigosDaVerbaRpa(std::int64_t AIdRpaTpValor)
 {
     static constexpr std::string_view SQL = R"(SELECT
   FP_ESOCIALTABELA.CODIGO NATRUBR,
@@ -29,7 +29,7 @@ tabelas::TCodigosIncidenciaVerba BuscarCodigosDaVerbaRpa(std::int64_t AIdRpaTpVa
 WHERE FP_RUBRICARELACRPA.IDRPATPVALOR = %0:d
 ORDER BY FP_RUBRICARELACRPA.IDRUBRICARELACRPA + 0)";
     const auto LCds =
-        TTarvoConsultasGeral::BuscarRegistrosSomenteLeitura(Format(SQL, AIdRpaTpValor, tabelas::ORIGEM_DA_RUBRICA_RPA));
+        TTarvoConsultasGeral::BuscarRegistrosSomenteLeitura(Format(SQL, AIdRpaTpValor, regras::ORIGEM_DA_RUBRICA_RPA));
     const auto Codigo = [&](std::string_view AColuna) {
         return static_cast<std::int32_t>(StrToInt64Def(LCds->FieldByName(AColuna).AsString(), 0));
     };
@@ -52,9 +52,9 @@ const TPropriedades& TTarvoESocialCamposVerbaDoPagamento::Tabela()
     return tabela;
 }
 
-const tabelas::TIncidVerba& TTarvoESocialCamposVerbaDoPagamento::BuscarIncidenciasDaVerba()
+const regras::TIncidVerba& TTarvoESocialCamposVerbaDoPagamento::BuscarIncidenciasDaVerba()
 {
-    FIncidVerba = tabelas::TTarvoESocialCamposBuscaIncidVerbas::BuscarIncidencias(
+    FIncidVerba = regras::TTarvoESocialCamposBuscaIncidVerbas::BuscarIncidencias(
         IdVerba, TTarvoConsultasVerbas::BuscarTiposDeTributosComProcessoParaVerbaNaEmpresa(IdVerba, FInfoBind.IdEmpresa,
                                                                                            FInfoBind.DataInicio));
     return FIncidVerba;
@@ -63,13 +63,13 @@ const tabelas::TIncidVerba& TTarvoESocialCamposVerbaDoPagamento::BuscarIncidenci
 std::string TTarvoESocialCamposVerbaDoPagamento::ComporCodRubrDaVerba(std::string_view AFiltro) const
 {
     const auto LCodigo = TTarvoConsultasGeral::BuscarValor("TAB_VERBAS", "CODIGO", AFiltro);
-    return tabelas::ComporCodRubr(StrToInt64Def(LCodigo, 0), tabelas::PrimeirosCodigos(FIncidVerba));
+    return regras::ComporCodRubr(StrToInt64Def(LCodigo, 0), regras::PrimeirosCodigos(FIncidVerba));
 }
 
 std::string TTarvoESocialCamposVerbaDoPagamento::BuscarIdeTabRubr() const
 {
     const auto LCds =
-        TTarvoConsultasGeral::BuscarRegistros(SqlTabelaDeRubricas(FInfoBind.IdEmpresa, FInfoBind.DataInicio));
+        TTarvoConsultasGeral::BuscarRegistros(regras::SqlTabelaDeRubricas(FInfoBind.IdEmpresa, FInfoBind.DataInicio));
     return LCds->IsEmpty() ? "0" : LCds->FieldByName("IDETABRUBR").AsString();
 }
 

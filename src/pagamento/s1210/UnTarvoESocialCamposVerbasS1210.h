@@ -9,7 +9,7 @@
 namespace tarvo::pagamento {
 
 /// The incidences of a receipt's value (FP_RUBRICARELACRPA); 0 where it isn't related.
-tabelas::TCodigosIncidenciaVerba BuscarCodigosDaVerbaRpa(std::int64_t AIdRpaTpValor);
+regras::TCodigosIncidenciaVerba BuscarCodigosDaVerbaRpa(std::int64_t AIdRpaTpValor);
 
 /// What the rubrics of a payment have in common, withheld tax (retPgtoTot) and vacation (detRubrFer) alike: code,
 /// quantity, factor and value in the demonstrative, and the beneficiaries of its alimony. Sources: TAB_VERBAS, CALCULO
@@ -38,7 +38,7 @@ protected:
 
     /// The incidences of IdVerba, for the code and the alimony. Under a legal process of the rubric the codes are those
     /// of the process, tribute by tribute.
-    const tabelas::TIncidVerba& BuscarIncidenciasDaVerba();
+    const regras::TIncidVerba& BuscarIncidenciasDaVerba();
     /// AFiltro picks the rubric in TAB_VERBAS.
     std::string ComporCodRubrDaVerba(std::string_view AFiltro) const;
     std::string BuscarIdeTabRubr() const;
@@ -55,7 +55,7 @@ protected:
 private:
     long double BuscarValorTotalPensao() const;
 
-    tabelas::TIncidVerba FIncidVerba;
+    regras::TIncidVerba FIncidVerba;
 };
 
 } // namespace tarvo::pagamento

@@ -90,12 +90,12 @@ std::string TTarvoESocialCamposdetPgtoFl::BuscarPerRef() const
 
 std::string TTarvoESocialCamposdetPgtoFl::GerarIdeDmDev() const
 {
-    using enum remuneracao::TFormaIdeDmDev;
-    remuneracao::TDadosIdeDmDev LDados{.TipoFolha = StrToInt64Def(CodigoDaFolha(FInfoBind.TipoFolha), 0),
-                                       .SubTipoFolha = FInfoBind.SubTipoFolha,
-                                       .TipoFolhaCompl = FInfoBind.TipoFolhaCompl,
-                                       .NrRecibo = FInfoBind.NumeroRecibo,
-                                       .Data = FInfoBind.DataInicio};
+    using enum regras::TFormaIdeDmDev;
+    regras::TDadosIdeDmDev LDados{.TipoFolha = StrToInt64Def(CodigoDaFolha(FInfoBind.TipoFolha), 0),
+                                  .SubTipoFolha = FInfoBind.SubTipoFolha,
+                                  .TipoFolhaCompl = FInfoBind.TipoFolhaCompl,
+                                  .NrRecibo = FInfoBind.NumeroRecibo,
+                                  .Data = FInfoBind.DataInicio};
     // Here a convocation counts when it is greater than zero; the remuneration takes any that isn't zero.
     if (FInfoBind.IDIntermitente > 0)
         LDados.IdDetConvocacao = FInfoBind.IDIntermitente;
@@ -116,7 +116,7 @@ std::string TTarvoESocialCamposdetPgtoFl::GerarIdeDmDev() const
     if (TTarvoConsultasEmpregado::ExistemVariosVinculosAtivosComCategDiferentes(FInfoBind.IdEmpresa, FInfoBind.Cpf,
                                                                                 FInfoBind.DataInicio))
         LDados.CodCateg = FInfoBind.CodigoCategoria;
-    return remuneracao::FormarIdeDmDev(LDados);
+    return regras::FormarIdeDmDev(LDados);
 }
 
 static constexpr std::string_view SQL_LIQUIDO_DA_FOLHA = R"(SELECT CALCULO.VALOR
@@ -242,18 +242,18 @@ void TTarvoESocialCamposdetPgtoFl::BuscarListaretPgtoTotPrestServico()
 
 bool TTarvoESocialCamposdetPgtoFl::ValidouIncidenciaDaVerba(std::int64_t AIdVerba) const
 {
-    using enum tabelas::TTipoRetornoIncidVerbas;
+    using enum regras::TTipoRetornoIncidVerbas;
     const auto LProcessos = TTarvoConsultasVerbas::BuscarTiposDeTributosComProcessoParaVerbaNaEmpresa(
         AIdVerba, FInfoBind.IdEmpresa, FInfoBind.DataInicio);
-    const auto LCodigos = tabelas::TTarvoESocialCamposBuscaIncidVerbas::BuscarIncidencias(
+    const auto LCodigos = regras::TTarvoESocialCamposBuscaIncidVerbas::BuscarIncidencias(
                               AIdVerba, trNormal, LProcessos.IRRF ? trProcesso : trNormal, trNormal, trNormal)
                               .FListIrrf;
-    return std::any_of(LCodigos.begin(), LCodigos.end(), tabelas::EhRetencaoDeIrrf);
+    return std::any_of(LCodigos.begin(), LCodigos.end(), regras::EhRetencaoDeIrrf);
 }
 
 bool TTarvoESocialCamposdetPgtoFl::ValidouIncidenciaDaVerbaRpa(std::int64_t AId) const
 {
-    return tabelas::EhRetencaoDeIrrf(BuscarCodigosDaVerbaRpa(AId).codIncIRRF);
+    return regras::EhRetencaoDeIrrf(BuscarCodigosDaVerbaRpa(AId).codIncIRRF);
 }
 
 // The engine reads the comment away; it stays, as the rule that it tells is easily taken for an error. The '%' are

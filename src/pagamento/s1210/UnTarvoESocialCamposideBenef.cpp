@@ -86,8 +86,8 @@ UNION
     static const std::string COMPLEMENTAR(CALCULO_DO_COMPLEMENTAR);
     static const std::string COMPLEMENTAR_EMPREGADO =
         COMPLEMENTAR + "\nJOIN EMPREGADOS ON (EMPREGADOS.IDEMPREGADO = CALCULO.IDEMPREGADO)";
-    static const std::string COMPLEMENTAR_ACORDO = COMPLEMENTAR + "\n" + std::string(JUNCAO_ACORDO);
-    static const std::string RESCISAO = "FROM CALCULO\nJOIN " + std::string(RESC_COMPL_DO_CALCULO);
+    static const std::string COMPLEMENTAR_ACORDO = COMPLEMENTAR + "\n" + std::string(regras::JUNCAO_ACORDO);
+    static const std::string RESCISAO = "FROM CALCULO\nJOIN " + std::string(regras::RESC_COMPL_DO_CALCULO);
     static const std::array<TRamoDePagamento, 8> RAMOS{{
         {TPPGTO_NORMAL, "FROM CALCULO", "CALCULO.TIPO IN ('01', '04', '05') AND CALCULO.SUBTIPO = 0"},
         {TPPGTO_ADIANTAMENTO, "FROM CALCULO", "CALCULO.TIPO IN ('02', '06') AND CALCULO.SUBTIPO = 0"},
@@ -145,7 +145,7 @@ std::string TTarvoESocialCamposideBenef::BuscarSqlDatasDePagamento() const
     const auto LVigencia = FormatarDataDB(FInfoBind.DataInicioVigencia, true);
     return Format(SQL_DATAS_DE_PAGAMENTO, FInfoBind.ListaIdsEmpregado, FInfoBind.ListaIdsPrestServico, LInicio, LFim,
                   LVigencia, FInfoBind.IdEmpresa, UnirRamos(FInfoBind.ListaIdsEmpregado, LVigencia, LInicio, LFim),
-                  CATEGORIAS_SEM_VINCULO);
+                  regras::CATEGORIAS_SEM_VINCULO);
 }
 
 void TTarvoESocialCamposideBenef::CarregarListaInfoPgto(const TListaCamposModificados* AListaCamposModificados)

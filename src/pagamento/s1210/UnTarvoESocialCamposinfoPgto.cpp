@@ -142,7 +142,7 @@ void TTarvoESocialCamposinfoPgto::CarregarListadetPgtoFlEmpregados()
     const auto LCalculos = TTarvoConsultasGeral::BuscarRegistrosSomenteLeitura(
         Format(SQL_CALCULOS_DA_DATA, FInfoBind.ListaIdsEmpregado, FormatarDataDB(FInfoBind.DataPagto, true),
                FInfoBind.ListaTipoFolhaDetPgto, FormatarDataDB(FInfoBind.DataInicioVigencia, true),
-               CALCULO_DO_COMPLEMENTAR, RESC_COMPL_DO_CALCULO, ColunasDoCalculo("0", "NULL"),
+               CALCULO_DO_COMPLEMENTAR, regras::RESC_COMPL_DO_CALCULO, ColunasDoCalculo("0", "NULL"),
                ColunasDoCalculo("CALCCOMPL.TIPOCALCULO", "FP_INFOGFIP650660.DATAOCORRENCIA"),
                ColunasDoCalculo("0", "FP_INFOGFIP650660.DATAOCORRENCIA")));
     for (; !LCategorias->Eof(); LCategorias->Next()) {

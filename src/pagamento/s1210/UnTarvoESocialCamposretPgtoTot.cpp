@@ -48,7 +48,7 @@ std::string TTarvoESocialCamposretPgtoTot::BuscarCodRubrEmpregado()
 
 std::string TTarvoESocialCamposretPgtoTot::BuscarCodRubrPrestador() const
 {
-    return tabelas::ComporCodRubrRpa(IdVerba, BuscarCodigosDaVerbaRpa(IdVerba));
+    return regras::ComporCodRubrRpa(IdVerba, BuscarCodigosDaVerbaRpa(IdVerba));
 }
 
 long double TTarvoESocialCamposretPgtoTot::BuscarVrRubrPrestador() const

@@ -23,7 +23,7 @@ const TPropriedades& TTarvoESocialCamposIdeADC1200::Tabela()
     return tabela;
 }
 
-std::string TTarvoESocialCamposIdeADC1200::BuscarSQLDados() { return tabelas::SqlAcordo(FInfoBind.IdAcordo); }
+std::string TTarvoESocialCamposIdeADC1200::BuscarSQLDados() { return regras::SqlAcordo(FInfoBind.IdAcordo); }
 
 void TTarvoESocialCamposIdeADC1200::AtribuirValoresManualmente()
 {

@@ -28,7 +28,7 @@ const TPropriedades& TTarvoESocialCamposIdeEstabLotS1200PerAnt::Tabela()
 
 std::string TTarvoESocialCamposIdeEstabLotS1200PerAnt::BuscarSQLDados()
 {
-    return tabelas::SqlInscricaoDaLotacao(IdFilial, IdDepto);
+    return regras::SqlInscricaoDaLotacao(IdFilial, IdDepto);
 }
 
 void TTarvoESocialCamposIdeEstabLotS1200PerAnt::CarregarDados(const TListaCamposModificados* AListaCamposModificados)

@@ -33,7 +33,7 @@ const TPropriedades& TTarvoESocialCamposIdeEstabLotS1200::Tabela()
 
 std::string TTarvoESocialCamposIdeEstabLotS1200::BuscarSQLDados()
 {
-    return tabelas::SqlInscricaoDaLotacao(IdFilial, IdDepto);
+    return regras::SqlInscricaoDaLotacao(IdFilial, IdDepto);
 }
 
 void TTarvoESocialCamposIdeEstabLotS1200::CarregarDados(const TListaCamposModificados* AListaCamposModificados)

@@ -21,8 +21,8 @@ const TPropriedades& TTarvoESocialCamposInfoAgNocivoS1200::Tabela()
 
 std::string TTarvoESocialCamposInfoAgNocivoS1200::BuscarSQLDados()
 {
-    return tabelas::SqlExposicao("SUBSTRING(CARGOS.OCORRENCIA FROM 1 FOR 1) OCORRENCIA", FInfoBind.IdEmpregado(),
-                                 FInfoBind.DataFim());
+    return regras::SqlExposicao("SUBSTRING(CARGOS.OCORRENCIA FROM 1 FOR 1) OCORRENCIA", FInfoBind.IdEmpregado(),
+                                FInfoBind.DataFim());
 }
 
 } // namespace tarvo::remuneracao

@@ -18,6 +18,6 @@ const TPropriedades& TTarvoESocialCamposInfoTrabInterm::Tabela()
     return tabela;
 }
 
-std::string TTarvoESocialCamposInfoTrabInterm::BuscarSQLDados() { return tabelas::SqlConvocacao(FIdDetConvocacao); }
+std::string TTarvoESocialCamposInfoTrabInterm::BuscarSQLDados() { return regras::SqlConvocacao(FIdDetConvocacao); }
 
 } // namespace tarvo::remuneracao

@@ -36,7 +36,7 @@ const TPropriedades& TTarvoESocialCamposItensRemunS1200::Tabela()
 
 std::string TTarvoESocialCamposItensRemunS1200::BuscarSQLDados()
 {
-    return SqlTabelaDeRubricas(FInfoBind.IdEmpresa(), FInfoBind.DataInicio());
+    return regras::SqlTabelaDeRubricas(FInfoBind.IdEmpresa(), FInfoBind.DataInicio());
 }
 
 void TTarvoESocialCamposItensRemunS1200::CarregarDados(const TListaCamposModificados* AListaCamposModificados,
@@ -59,19 +59,19 @@ void TTarvoESocialCamposItensRemunS1200::CarregarDados(const TListaCamposModific
         if (FItemCalculo.Horas == "Sim" || LFormula.starts_with("4T"))
             qtdRubr = TTarvoUtilsMatematica::ConverterHorasEmDecimais(FItemCalculo.Referencia);
         if (LFormula.starts_with("9"))
-            fatorRubr = SomarQuantias(fatorRubr, FItemCalculo.Referencia);
+            fatorRubr = regras::SomarQuantias(fatorRubr, FItemCalculo.Referencia);
         if (LFormula.starts_with("1C") || LFormula == "1Z" || LFormula == "3G" || LFormula == "3C")
-            fatorRubr = SomarQuantias(fatorRubr, FItemCalculo.Vlr_Calc);
+            fatorRubr = regras::SomarQuantias(fatorRubr, FItemCalculo.Vlr_Calc);
     }
-    vrRubr = SomarQuantias(vrRubr, TTarvoConsultasGeral::VerbaUsaBase(LNatRubr, LFormula) ? FItemCalculo.Base
-                                                                                          : FItemCalculo.Valor);
+    vrRubr = regras::SomarQuantias(vrRubr, TTarvoConsultasGeral::VerbaUsaBase(LNatRubr, LFormula) ? FItemCalculo.Base
+                                                                                                  : FItemCalculo.Valor);
     IdVerba = FItemCalculo.IdVerba;
 }
 
 void TTarvoESocialCamposItensRemunS1200::AlimentarCampoCodRubr()
 {
     codRubr = IntToStr(FItemCalculo.Cod_Verba);
-    const auto LIncid = tabelas::TTarvoESocialCamposBuscaIncidVerbas::BuscarIncidencias(
+    const auto LIncid = regras::TTarvoESocialCamposBuscaIncidVerbas::BuscarIncidencias(
         FItemCalculo.IdVerba, TTarvoConsultasVerbas::BuscarTiposDeTributosComProcessoParaVerbaNaEmpresa(
                                   FItemCalculo.IdVerba, FInfoBind.IdEmpresa(), FInfoBind.DataInicio()));
     if (LIncid.FCodVerba == 0) {
@@ -84,10 +84,10 @@ void TTarvoESocialCamposItensRemunS1200::AlimentarCampoCodRubr()
             ACodigo = ALista.front();
         return static_cast<std::int32_t>(ACodigo);
     };
-    codRubr = tabelas::ComporCodRubr(FItemCalculo.Cod_Verba, {.codIncCP = Atribuir(CodIncInss, LIncid.FListInss),
-                                                              .codIncIRRF = Atribuir(CodIncIrrf, LIncid.FListIrrf),
-                                                              .codIncFGTS = Atribuir(CodIncFgts, LIncid.FListFgts),
-                                                              .codIncSIND = Atribuir(CodIncCs, LIncid.FListCs)});
+    codRubr = regras::ComporCodRubr(FItemCalculo.Cod_Verba, {.codIncCP = Atribuir(CodIncInss, LIncid.FListInss),
+                                                             .codIncIRRF = Atribuir(CodIncIrrf, LIncid.FListIrrf),
+                                                             .codIncFGTS = Atribuir(CodIncFgts, LIncid.FListFgts),
+                                                             .codIncSIND = Atribuir(CodIncCs, LIncid.FListCs)});
 }
 
 namespace {
@@ -95,7 +95,7 @@ namespace {
 bool EhReportado(const TTarvoESocialCamposItensRemunS1200& AItem, bool ACategoriaSemVinculo)
 {
     const auto LInss = AItem.CodIncInss;
-    return !AItem.codRubr.empty() && AItem.vrRubr > 0 && !tabelas::EhRetencaoDeIrrf(AItem.CodIncIrrf) && LInss != 23 &&
+    return !AItem.codRubr.empty() && AItem.vrRubr > 0 && !regras::EhRetencaoDeIrrf(AItem.CodIncIrrf) && LInss != 23 &&
            LInss != 24 && LInss != 61 && !(ACategoriaSemVinculo && (LInss == 25 || LInss == 26 || LInss == 51));
 }
 

@@ -197,10 +197,10 @@ void TTarvoESocialCamposS1200DadosCalculo::AdicionarPrestador(const TOvraClientD
 
 void TTarvoESocialCamposS1200DadosCalculo::AdicionarVerbasDeFeriasComplementaresNaLista()
 {
-    SomarFeriasComplementares(ListaDadosCalculo, &TDadosCalculo::IdVerba, &TDadosCalculo::Base, &TDadosCalculo::Valor,
-                              SqlFeriasComplementares(FInfoBind.IdEmpregado(),
-                                                      FormatFloat("00", std::int64_t{FInfoBind.TipoFolha()}),
-                                                      FInfoBind.DataInicio(), FInfoBind.DataFim()));
+    regras::SomarFeriasComplementares(
+        ListaDadosCalculo, &TDadosCalculo::IdVerba, &TDadosCalculo::Base, &TDadosCalculo::Valor,
+        regras::SqlFeriasComplementares(FInfoBind.IdEmpregado(), FormatFloat("00", std::int64_t{FInfoBind.TipoFolha()}),
+                                        FInfoBind.DataInicio(), FInfoBind.DataFim()));
 }
 
 // Without a test of the convocation: the run outside any convocation takes the rows of all of them along. That is meant.
@@ -275,7 +275,7 @@ TDataset TTarvoESocialCamposS1200DadosCalculo::BuscarDadosCalculoNormalComplemen
     return BuscarComplementar(Format(CONDICOES, FInfoBind.IdEmpregado(), TipoFolhaEntreAspas(),
                                      FInfoBind.SubTipoFolha(), FormatarDataDB(FInfoBind.DataInicio(), true),
                                      FormatarDataDB(FInfoBind.DataFim(), true), FormatarDataDB(FInfoBind.PerRef, true)),
-                              Format("%0:s\n", JUNCAO_ACORDO));
+                              Format("%0:s\n", regras::JUNCAO_ACORDO));
 }
 
 TDataset TTarvoESocialCamposS1200DadosCalculo::BuscarDadosCalculoRescisaoComplementar() const
@@ -319,7 +319,7 @@ WHERE FP_ESOCIALTABELA.CODIGO NOT IN ('9203')
 ORDER BY RPATPVALOR.SEQUENCIA, RPAVALOR.IDRPAVALOR, FP_RUBRICARELACRPA.IDRUBRICARELACRPA)";
     return TTarvoConsultasGeral::BuscarRegistrosSomenteLeitura(Format(SQL, FInfoBind.IdEmpregado(),
                                                                       FInfoBind.NrReciboRpa, ColunaDaLotacao(),
-                                                                      IdDaLotacao(), tabelas::ORIGEM_DA_RUBRICA_RPA));
+                                                                      IdDaLotacao(), regras::ORIGEM_DA_RUBRICA_RPA));
 }
 
 TDataset TTarvoESocialCamposS1200DadosCalculo::BuscarPorTipoDeQuebra() const
@@ -354,7 +354,7 @@ WHERE %1:s)";
     FSqlCalcQuebra = UnirQuebraECalculo(Format("%0:s\n  AND COALESCE(CALC_QUEBRA.IDDEPARTAMENTO, 0) = %1:d",
                                                Format(ORIGEM, JUNCAO_DA_QUEBRA, ACondicoes, AJuncaoDoAcordo), FIdDepto),
                                         Format("%0:s\n  AND COALESCE(CALCULO.IDDEPARTAMENTO, 0) = %1:d\n  AND %2:s",
-                                               LDoCalculo, FIdDepto, CALCULO_SEM_QUEBRA));
+                                               LDoCalculo, FIdDepto, regras::CALCULO_SEM_QUEBRA));
     return BuscarPorTipoDeQuebra();
 }
 
@@ -389,7 +389,7 @@ WHERE CALCULO.IDEMPREGADO = %0:D
                       ACondicoes, FIdDepto, AOrigem, ATabela);
     };
     return UnirQuebraECalculo(Ramo(ORIGEM_DA_QUEBRA, "CALC_QUEBRA"),
-                              Format("%0:s\n  AND %1:s", Ramo("FROM CALCULO", "CALCULO"), CALCULO_SEM_QUEBRA));
+                              Format("%0:s\n  AND %1:s", Ramo("FROM CALCULO", "CALCULO"), regras::CALCULO_SEM_QUEBRA));
 }
 
 std::string TTarvoESocialCamposS1200DadosCalculo::CaudaDaLotacao() const

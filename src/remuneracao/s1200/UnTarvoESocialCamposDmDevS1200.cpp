@@ -53,16 +53,16 @@ void TTarvoESocialCamposDmDevS1200::CarregarDados(const TListaCamposModificados*
 
 void TTarvoESocialCamposDmDevS1200::AlimentarIdeDmDev()
 {
-    TDadosIdeDmDev LDados;
+    regras::TDadosIdeDmDev LDados;
     LDados.TipoFolha = FInfoBind.TipoFolha();
     // Profit sharing goes by its day of payment.
     LDados.Data = LDados.TipoFolha == 9 ? FInfoBind.DataPagto() : FInfoBind.DataInicio();
     if (FInfoBind.TipoEmpregado() != TTipoTrabalhador::Empregado) {
-        LDados.Forma = TFormaIdeDmDev::Recibo;
+        LDados.Forma = regras::TFormaIdeDmDev::Recibo;
         LDados.NrRecibo = FInfoBind.NrReciboRpa;
         LDados.Data = FInfoBind.DataPagto();
     } else {
-        LDados.Forma = FInfoBind.Chave == 6 ? TFormaIdeDmDev::Rescisao : TFormaIdeDmDev::Folha;
+        LDados.Forma = FInfoBind.Chave == 6 ? regras::TFormaIdeDmDev::Rescisao : regras::TFormaIdeDmDev::Folha;
         LDados.SubTipoFolha = FInfoBind.SubTipoFolha();
         LDados.TipoFolhaCompl = FInfoBind.TipoFolhaCompl();
         if (FInfoBind.IdDetConvocacao != 0)
@@ -71,7 +71,7 @@ void TTarvoESocialCamposDmDevS1200::AlimentarIdeDmDev()
     if (TTarvoConsultasEmpregado::ExistemVariosVinculosAtivosComCategDiferentes(FInfoBind.IdEmpresa(), FInfoBind.Cpf(),
                                                                                 FInfoBind.DataInicio()))
         LDados.CodCateg = codCateg;
-    ideDmDev = FormarIdeDmDev(LDados);
+    ideDmDev = regras::FormarIdeDmDev(LDados);
 }
 
 } // namespace tarvo::remuneracao

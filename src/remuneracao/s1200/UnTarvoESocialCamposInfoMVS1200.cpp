@@ -144,10 +144,10 @@ ORDER BY GERAL.TPINSCRICAO, GERAL.INSCRICAO, GERAL.CODIGO)";
     return Format(SQL_GERAL,
                   Format(SQL, FInfoBind.Cpf(), FormatarDataDB(FInfoBind.DataInicio(), true),
                          FormatarDataDB(FInfoBind.DataFim(), true), LIdEmpresa,
-                         tabelas::CondicaoDaOrdemDeDesconto(LIdEmpresa, FInfoBind.Cpf()),
+                         regras::CondicaoDaOrdemDeDesconto(LIdEmpresa, FInfoBind.Cpf()),
                          FInfoBind.IndApuracao() == tpIndApuracao::Anual ? "=" : "<>",
-                         tabelas::CondicaoDeOutroEmpregador("RENDIMENTOS.INSCRICAO", "EMPREGADOS.IDEMPRESA"),
-                         tabelas::CondicaoDeOutroEmpregador("FP_RPAOUTROSREND.INSCRICAO", IntToStr(LIdEmpresa))));
+                         regras::CondicaoDeOutroEmpregador("RENDIMENTOS.INSCRICAO", "EMPREGADOS.IDEMPRESA"),
+                         regras::CondicaoDeOutroEmpregador("FP_RPAOUTROSREND.INSCRICAO", IntToStr(LIdEmpresa))));
 }
 
 void TTarvoESocialCamposInfoMVS1200::CarregarDadosremunOutrEmpr()
@@ -159,7 +159,7 @@ void TTarvoESocialCamposInfoMVS1200::CarregarDadosremunOutrEmpr()
         LRemuneracao->nrInsc = LCds->FieldByName("INSCRICAO").AsString();
         LRemuneracao->codCateg = LCds->FieldByName("CODIGO").AsInteger();
         // A binary sum would hang on the order of its rows.
-        LRemuneracao->vlrRemunOE = SomarQuantias(LCds->FieldByName("VALOR").AsFloat(), 0);
+        LRemuneracao->vlrRemunOE = regras::SomarQuantias(LCds->FieldByName("VALOR").AsFloat(), 0);
         remunOutrEmpr.push_back(std::move(LRemuneracao));
     }
 }

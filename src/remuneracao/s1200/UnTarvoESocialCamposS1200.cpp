@@ -63,8 +63,8 @@ std::string SqlDasFolhas(tpIndApuracao AIndApuracao)
                           NoMes("CALCULO.TIPO IN ('03')\n  AND CALCULO.SUBTIPO = 0")}) +
                LOrdem;
 
-    const auto LComplementar = "CALCULO\n" + std::string(JUNCAO_CALCULO_COMPLEMENTAR);
-    const auto LPorAcordo = LComplementar + "\n" + std::string(JUNCAO_ACORDO);
+    const auto LComplementar = "CALCULO\n" + std::string(regras::JUNCAO_CALCULO_COMPLEMENTAR);
+    const auto LPorAcordo = LComplementar + "\n" + std::string(regras::JUNCAO_ACORDO);
     const TRamoDeFolha LRamos[] = {
         // Normal payroll: all subtypes go together, one row a convocation and one for the work outside any.
         {1, SEM_DATA, "0", "0", "0", "CALCULO.IDDETCONVOCACAO", "CALCULO",
@@ -86,7 +86,7 @@ std::string SqlDasFolhas(tpIndApuracao AIndApuracao)
          "  AND CALCCOMPL.TIPOCALCULO = 1\n  AND CALCULO.COD_EMPRESA = %3:d"},
         // Complementary dismissal by agreement, paid in the month.
         {6, DATA_DO_PAGTO, "CALCULO.SUBTIPO", "0", "RESC_COMPL.IDINFOGFIP650660", "0",
-         "CALCULO\nINNER JOIN " + std::string(RESC_COMPL_DO_CALCULO) +
+         "CALCULO\nINNER JOIN " + std::string(regras::RESC_COMPL_DO_CALCULO) +
              "\nJOIN TAB_VERBAS ON (CALCULO.COD_VERBA = TAB_VERBAS.CODIGO)",
          "CALCULO.TIPO = '05'\n  AND CALCULO.SUBTIPO = 2\n  AND RESC_COMPL.IDINFOGFIP650660 IS NOT NULL\n"
          "  AND CALCULO.DATA_PAGTO BETWEEN %1:s AND %2:s"},

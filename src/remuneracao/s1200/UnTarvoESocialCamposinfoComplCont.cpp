@@ -51,8 +51,8 @@ WHERE %0:s
 ORDER BY SC00_EMPRESACFG.DATAINICIO DESC, SC00_EMPRESACFG.IDEMPRESACFG)";
     static constexpr std::array<std::int64_t, 5> CLASSIFICACOES{6, 7, 8, 21, 22};
     const auto LClassTrib =
-        StrToInt64Def(TTarvoConsultasGeral::BuscarTexto(
-                          Format(SQL, CondicaoDaChave(SC00_EMPRESACFG, FInfoBind.IdEmpresa(), {90, 38, 1}))),
+        StrToInt64Def(TTarvoConsultasGeral::BuscarTexto(Format(
+                          SQL, regras::CondicaoDaChave(regras::SC00_EMPRESACFG, FInfoBind.IdEmpresa(), {90, 38, 1}))),
                       0);
     return std::find(CLASSIFICACOES.begin(), CLASSIFICACOES.end(), LClassTrib) != CLASSIFICACOES.end();
 }

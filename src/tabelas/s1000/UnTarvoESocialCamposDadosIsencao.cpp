@@ -29,11 +29,11 @@ const TPropriedades& TTarvoESocialCamposDadosIsencao::Tabela()
 
 std::string TTarvoESocialCamposDadosIsencao::BuscarSQLDados()
 {
-    return SqlConfiguracaoVigente("SC00_EMPRESACFG.INFORMACAO8, SC00_EMPRESACFG.INFORMACAO2, "
-                                  "SC00_EMPRESACFG.DATAINICIO, SC00_EMPRESACFG.DATAFIM, "
-                                  "SC00_EMPRESACFG.INFORMACAO4, SC00_EMPRESACFG.INFORMACAO3, "
-                                  "SC00_EMPRESACFG.INFORMACAO5, SC00_EMPRESACFG.INFORMACAO6",
-                                  SC00_EMPRESACFG, FIDEmpresa, {90, 38, 2}, FData);
+    return regras::SqlConfiguracaoVigente("SC00_EMPRESACFG.INFORMACAO8, SC00_EMPRESACFG.INFORMACAO2, "
+                                          "SC00_EMPRESACFG.DATAINICIO, SC00_EMPRESACFG.DATAFIM, "
+                                          "SC00_EMPRESACFG.INFORMACAO4, SC00_EMPRESACFG.INFORMACAO3, "
+                                          "SC00_EMPRESACFG.INFORMACAO5, SC00_EMPRESACFG.INFORMACAO6",
+                                          regras::SC00_EMPRESACFG, FIDEmpresa, {90, 38, 2}, FData);
 }
 
 void TTarvoESocialCamposDadosIsencao::ReverterDados()

@@ -27,8 +27,8 @@ std::string TTarvoESocialCamposIdePeriodo::BuscarSQLDados()
 FROM SC00_EMPRESACFG
 WHERE %0:s
 ORDER BY %1:s, SC00_EMPRESACFG.IDEMPRESACFG)";
-    return Format(SQL, CondicaoDaChave(SC00_EMPRESACFG, FIDEmpresa, {90, 38, 10}),
-                  OrdemDaValidade(SC00_EMPRESACFG, FData));
+    return Format(SQL, regras::CondicaoDaChave(regras::SC00_EMPRESACFG, FIDEmpresa, {90, 38, 10}),
+                  regras::OrdemDaValidade(regras::SC00_EMPRESACFG, FData));
 }
 
 void TTarvoESocialCamposIdePeriodo::AtribuirValoresManualmente()

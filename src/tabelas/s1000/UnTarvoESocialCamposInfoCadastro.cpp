@@ -77,8 +77,8 @@ LEFT JOIN SQL_INDOPTREGELETRON ON (1=1)
 LEFT JOIN SQL_INDENTED ON (1=1)
 LEFT JOIN SQL_INDETT ON (1=1)
 WHERE SC00_EMPRESA.IDEMPRESA =%0:d)";
-    const auto Vigente = [this](std::string_view AColunas, TChaveDeConfiguracao AChave) {
-        return SqlConfiguracaoVigente(AColunas, SC00_EMPRESACFG, FIDEmpresa, AChave, FData);
+    const auto Vigente = [this](std::string_view AColunas, regras::TChaveDeConfiguracao AChave) {
+        return regras::SqlConfiguracaoVigente(AColunas, regras::SC00_EMPRESACFG, FIDEmpresa, AChave, FData);
     };
     return Format(SQL, FIDEmpresa, Vigente("SC00_EMPRESACFG.INFORMACAO1 NAT_JUR", {1, 1, 1}),
                   Vigente("SC00_EMPRESACFG.INFORMACAO1 CLASS_TRIB", {90, 38, 1}),
@@ -120,7 +120,7 @@ void TTarvoESocialCamposInfoCadastro::ReverterDados()
     const auto Atribuir = [](std::string_view AColuna, const std::string& AValor) {
         return Format(ATRIBUICAO, AColuna, AValor);
     };
-    const auto Atualizar = [&](const std::string& AAtribuicoes, TChaveDeConfiguracao AChave) {
+    const auto Atualizar = [&](const std::string& AAtribuicoes, regras::TChaveDeConfiguracao AChave) {
         return Format(SQL, FIDEmpresa, FormatarDataDB(FData, true), AAtribuicoes, AChave.Origem, AChave.Especie,
                       AChave.Tp);
     };

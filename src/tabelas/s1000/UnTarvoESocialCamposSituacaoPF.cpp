@@ -25,8 +25,8 @@ FROM SC00_EMPRESACFG
 WHERE %0:s
   AND %1:s
 ORDER BY SC00_EMPRESACFG.DATAINICIO DESC, SC00_EMPRESACFG.IDEMPRESACFG)";
-    return Format(SQL, CondicaoDaChave(SC00_EMPRESACFG, FIDEmpresa, {90, 38, 8}),
-                  CondicaoDaValidade(SC00_EMPRESACFG, FData));
+    return Format(SQL, regras::CondicaoDaChave(regras::SC00_EMPRESACFG, FIDEmpresa, {90, 38, 8}),
+                  regras::CondicaoDaValidade(regras::SC00_EMPRESACFG, FData));
 }
 
 void TTarvoESocialCamposSituacaoPF::ReverterDados() { TTarvoESocialCamposGrupoBase::ReverterDados(); }

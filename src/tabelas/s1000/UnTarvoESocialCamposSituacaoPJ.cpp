@@ -18,7 +18,8 @@ const TPropriedades& TTarvoESocialCamposSituacaoPJ::Tabela()
 
 std::string TTarvoESocialCamposSituacaoPJ::BuscarSQLDados()
 {
-    return SqlConfiguracaoVigente("SC00_EMPRESACFG.INFORMACAO1", SC00_EMPRESACFG, FIDEmpresa, {90, 38, 8}, FData);
+    return regras::SqlConfiguracaoVigente("SC00_EMPRESACFG.INFORMACAO1", regras::SC00_EMPRESACFG, FIDEmpresa,
+                                          {90, 38, 8}, FData);
 }
 
 void TTarvoESocialCamposSituacaoPJ::ReverterDados() { TTarvoESocialCamposGrupoBase::ReverterDados(); }

@@ -8,7 +8,7 @@ TTarvoESocialCamposAliqGilRat::TTarvoESocialCamposAliqGilRat(std::int64_t AIDEst
                                                              TDateTime AData)
     : TTarvoESocialCamposGrupoBase("{7D72C8DD-1F83-4EF6-A2A0-54E0E73E3C09}"), ProcAdmJudRat(AIDEstab, AIDDepto, AData),
       ProcAdmJudFap(AIDEstab, AIDDepto, AData), IdEstab(AIDEstab), IdDepto(AIDDepto),
-      FLugar(EstabelecimentoPrimeiro(AIDEstab, AIDDepto)), FData(AData)
+      FLugar(regras::EstabelecimentoPrimeiro(AIDEstab, AIDDepto)), FData(AData)
 {}
 
 const TPropriedades& TTarvoESocialCamposAliqGilRat::Tabela()
@@ -38,16 +38,16 @@ FROM SQL_ALIQ_RAT
 LEFT JOIN SQL_FAP ON (1=1))";
     static constexpr std::string_view SQL_RAT_DEPTO = "SELECT COALESCE((%0:s), (%1:s)) ALIQRAT FROM RDB$DATABASE";
     static constexpr std::string_view VALOR = "SC00_FILIALCFG.INFORMACAO1";
-    constexpr TChaveDeConfiguracao RAT{90, 51, 3};
+    constexpr regras::TChaveDeConfiguracao RAT{90, 51, 3};
 
-    const auto LAliqRat =
-        FLugar.EhDepto
-            ? Format(SQL_RAT_DEPTO,
-                     SqlCfgDoDono("SC00_DEPARTAMENTOCFG.INFORMACAO1", SC00_DEPARTAMENTOCFG, FLugar.Id, RAT, FData),
-                     SqlCfgDoEstab(VALOR, FLugar, RAT, FData))
-            : SqlCfgDoEstab("FIRST 1 SC00_FILIALCFG.INFORMACAO1 ALIQRAT", FLugar, RAT, FData);
-    return Format(SQL, LAliqRat, SqlCfgDoEstab(VALOR, FLugar, {90, 51, 1}, FData),
-                  SqlCfgDaEmpresa("SC00_EMPRESACFG.INFORMACAO1", FLugar, {90, 18, 1}, FData));
+    const auto LAliqRat = FLugar.EhDepto
+                              ? Format(SQL_RAT_DEPTO,
+                                       regras::SqlCfgDoDono("SC00_DEPARTAMENTOCFG.INFORMACAO1",
+                                                            regras::SC00_DEPARTAMENTOCFG, FLugar.Id, RAT, FData),
+                                       regras::SqlCfgDoEstab(VALOR, FLugar, RAT, FData))
+                              : regras::SqlCfgDoEstab("FIRST 1 SC00_FILIALCFG.INFORMACAO1 ALIQRAT", FLugar, RAT, FData);
+    return Format(SQL, LAliqRat, regras::SqlCfgDoEstab(VALOR, FLugar, {90, 51, 1}, FData),
+                  regras::SqlCfgDaEmpresa("SC00_EMPRESACFG.INFORMACAO1", FLugar, {90, 18, 1}, FData));
 }
 
 void TTarvoESocialCamposAliqGilRat::CarregarDados(const TListaCamposModificados* AListaCamposModificados)

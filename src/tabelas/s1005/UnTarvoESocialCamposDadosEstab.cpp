@@ -8,7 +8,7 @@ TTarvoESocialCamposDadosEstab::TTarvoESocialCamposDadosEstab(std::int64_t AIDEst
                                                              TDateTime AData)
     : TTarvoESocialCamposGrupoBase("{5A04AFF8-42B3-4A8C-9A42-4ED261E2151E}"), AliqGilRat(AIDEstab, AIDDepto, AData),
       InfoCaepf(AIDEstab, AIDDepto, AData), InfoObra(AIDEstab, AIDDepto, AData), InfoTrab(AIDEstab, AIDDepto, AData),
-      FLugar(EstabelecimentoPrimeiro(AIDEstab, AIDDepto))
+      FLugar(regras::EstabelecimentoPrimeiro(AIDEstab, AIDDepto))
 {}
 
 const TPropriedades& TTarvoESocialCamposDadosEstab::Tabela()
@@ -38,7 +38,8 @@ JOIN SC00_DEPTO ON (SC00_DEPTO.IDFILIAL = SC00_FILIALCFG.IDFILIAL)
 WHERE SC00_DEPTO.IDDEPTO = %0:d
   AND %1:s
 ORDER BY SC00_FILIALCFG.DATAINICIO, SC00_FILIALCFG.IDFILIALCFG)";
-    return Format(FLugar.EhDepto ? SQL_DEPTO : SQL_ESTAB, FLugar.Id, CondicaoDaChave(SC00_FILIALCFG, {1, 1, 2}));
+    return Format(FLugar.EhDepto ? SQL_DEPTO : SQL_ESTAB, FLugar.Id,
+                  regras::CondicaoDaChave(regras::SC00_FILIALCFG, {1, 1, 2}));
 }
 
 void TTarvoESocialCamposDadosEstab::CarregarDados(const TListaCamposModificados* AListaCamposModificados)

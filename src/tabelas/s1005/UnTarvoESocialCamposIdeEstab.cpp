@@ -6,7 +6,7 @@ namespace tarvo::tabelas {
 
 TTarvoESocialCamposIdeEstab::TTarvoESocialCamposIdeEstab(std::int64_t AIDEstab, std::int64_t AIDDepto)
     : TTarvoESocialCamposGrupoBase("{2638C56F-D1D7-4BE5-AA45-34B7951F0F83}"),
-      FLugar(EstabelecimentoPrimeiro(AIDEstab, AIDDepto))
+      FLugar(regras::EstabelecimentoPrimeiro(AIDEstab, AIDDepto))
 {}
 
 const TPropriedades& TTarvoESocialCamposIdeEstab::Tabela()

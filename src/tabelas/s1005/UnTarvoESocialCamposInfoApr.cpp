@@ -8,13 +8,13 @@ namespace tarvo::tabelas {
 
 namespace {
 
-constexpr TChaveDeConfiguracao APRENDIZES{90, 58, 1};
+constexpr regras::TChaveDeConfiguracao APRENDIZES{90, 58, 1};
 
 } // namespace
 
 TTarvoESocialCamposInfoApr::TTarvoESocialCamposInfoApr(std::int64_t AIDEstab, std::int64_t AIDDepto, TDateTime AData)
     : TTarvoESocialCamposGrupoBase("{49704D2F-D51A-4389-B6EF-478F2EE59163}"),
-      FLugar(EstabelecimentoPrimeiro(AIDEstab, AIDDepto)), FData(AData)
+      FLugar(regras::EstabelecimentoPrimeiro(AIDEstab, AIDDepto)), FData(AData)
 {
     CarregarInfoEntEduc();
 }
@@ -43,8 +43,8 @@ WHERE %1:s
   AND %2:s
 ORDER BY %0:s.DATAINICIO DESC, %0:s.%3:s)";
     const auto LCfg = FLugar.Cfg();
-    return Format(SQL, LCfg.Nome, CondicaoDaChave(LCfg, FLugar.Id, APRENDIZES),
-                  CondicaoDaValidade(LCfg, FData, TFimDaValidade::Exclusive), LCfg.ColunaDaChave);
+    return Format(SQL, LCfg.Nome, regras::CondicaoDaChave(LCfg, FLugar.Id, APRENDIZES),
+                  regras::CondicaoDaValidade(LCfg, FData, regras::TFimDaValidade::Exclusive), LCfg.ColunaDaChave);
 }
 
 void TTarvoESocialCamposInfoApr::CarregarInfoEntEduc()
@@ -61,8 +61,8 @@ ORDER BY FP_INFOGERALCFG.IDINFOGERALCFG + 0)";
     // one row follows another the newer one is taken.
     const auto LCds = TTarvoConsultasGeral::BuscarRegistros(
         Format(SQL, LCfg.ColunaDaChave,
-               SqlConfiguracaoVigente(Format("%0:s.%1:s", LCfg.Nome, LCfg.ColunaDaChave), LCfg, FLugar.Id, APRENDIZES,
-                                      FData)));
+               regras::SqlConfiguracaoVigente(Format("%0:s.%1:s", LCfg.Nome, LCfg.ColunaDaChave), LCfg, FLugar.Id,
+                                              APRENDIZES, FData)));
     AcrescentarUmPorLinha(InfoEntEduc, LCds, "IDINFOGERALCFG");
 }
 

@@ -27,7 +27,7 @@ protected:
 private:
     void CarregarInfoEntEduc();
 
-    TLugar FLugar;
+    regras::TLugar FLugar;
     TDateTime FData;
 };
 

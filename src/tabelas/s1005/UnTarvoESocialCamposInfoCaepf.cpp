@@ -5,7 +5,7 @@ namespace tarvo::tabelas {
 TTarvoESocialCamposInfoCaepf::TTarvoESocialCamposInfoCaepf(std::int64_t AIDEstab, std::int64_t AIDDepto,
                                                            TDateTime AData)
     : TTarvoESocialCamposGrupoBase("{9178B75C-6926-43A6-8818-6F273788B68B}"),
-      FLugar(EstabelecimentoPrimeiro(static_cast<std::int32_t>(AIDEstab), static_cast<std::int32_t>(AIDDepto))),
+      FLugar(regras::EstabelecimentoPrimeiro(static_cast<std::int32_t>(AIDEstab), static_cast<std::int32_t>(AIDDepto))),
       FData(AData)
 {}
 
@@ -20,7 +20,7 @@ const TPropriedades& TTarvoESocialCamposInfoCaepf::Tabela()
 
 std::string TTarvoESocialCamposInfoCaepf::BuscarSQLDados()
 {
-    return SqlCfgDaEmpresa("SC00_EMPRESACFG.INFORMACAO1", FLugar, {1, 1, 1}, FData);
+    return regras::SqlCfgDaEmpresa("SC00_EMPRESACFG.INFORMACAO1", FLugar, {1, 1, 1}, FData);
 }
 
 } // namespace tarvo::tabelas

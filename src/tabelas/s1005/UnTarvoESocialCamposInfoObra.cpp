@@ -25,7 +25,8 @@ std::string TTarvoESocialCamposInfoObra::BuscarSQLDados()
     // Whatever the establishment: only a department is a construction work.
     if (FIDDepto == 0)
         return {};
-    return SqlCfgDoDono("SC00_DEPARTAMENTOCFG.INFORMACAO1", SC00_DEPARTAMENTOCFG, FIDDepto, {90, 40, 1}, FData);
+    return regras::SqlCfgDoDono("SC00_DEPARTAMENTOCFG.INFORMACAO1", regras::SC00_DEPARTAMENTOCFG, FIDDepto, {90, 40, 1},
+                                FData);
 }
 
 } // namespace tarvo::tabelas

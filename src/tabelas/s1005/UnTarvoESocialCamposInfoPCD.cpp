@@ -6,7 +6,7 @@ namespace tarvo::tabelas {
 
 TTarvoESocialCamposInfoPCD::TTarvoESocialCamposInfoPCD(std::int64_t AIDEstab, std::int64_t AIDDepto, TDateTime AData)
     : TTarvoESocialCamposGrupoBase("{18F68A4B-54D0-4CD3-A3A3-F6F5C9F55BBF}"), IdEstab(AIDEstab), IdDepto(AIDDepto),
-      FLugar(EstabelecimentoPrimeiro(AIDEstab, AIDDepto)), FData(AData)
+      FLugar(regras::EstabelecimentoPrimeiro(AIDEstab, AIDDepto)), FData(AData)
 {}
 
 const TPropriedades& TTarvoESocialCamposInfoPCD::Tabela()
@@ -34,8 +34,9 @@ WHERE %2:s
   AND SC00_FILIAL.EHMATRIZ = 1
   AND SC00_DEPTO.%1:s = %0:D
 ORDER BY SC00_EMPRESACFG.DATAINICIO DESC, SC00_EMPRESACFG.IDEMPRESACFG)";
-    return Format(SQL, FLugar.Id, FLugar.EhDepto ? "IDDEPTO" : "IDFILIAL",
-                  CondicaoVigente(SC00_EMPRESACFG, {90, 38, 14}, FData, TFimDaValidade::Exclusive));
+    return Format(
+        SQL, FLugar.Id, FLugar.EhDepto ? "IDDEPTO" : "IDFILIAL",
+        regras::CondicaoVigente(regras::SC00_EMPRESACFG, {90, 38, 14}, FData, regras::TFimDaValidade::Exclusive));
 }
 
 } // namespace tarvo::tabelas

@@ -6,7 +6,7 @@ namespace tarvo::tabelas {
 
 TTarvoESocialCamposInfoTrab::TTarvoESocialCamposInfoTrab(std::int64_t AIDEstab, std::int64_t AIDDepto, TDateTime AData)
     : TTarvoESocialCamposGrupoBase("{0DF56C99-B4D1-4B1C-81B9-8274449872D5}"), InfoApr(AIDEstab, AIDDepto, AData),
-      InfoPCD(AIDEstab, AIDDepto, AData), FLugar(EstabelecimentoPrimeiro(AIDEstab, AIDDepto)), FData(AData)
+      InfoPCD(AIDEstab, AIDDepto, AData), FLugar(regras::EstabelecimentoPrimeiro(AIDEstab, AIDDepto)), FData(AData)
 {}
 
 const TPropriedades& TTarvoESocialCamposInfoTrab::Tabela()
@@ -23,7 +23,7 @@ const TPropriedades& TTarvoESocialCamposInfoTrab::Tabela()
 std::string TTarvoESocialCamposInfoTrab::BuscarSQLDados()
 {
     const auto LCfg = FLugar.Cfg();
-    return SqlCfgDoDono(Format("%0:s.INFORMACAO1", LCfg.Nome), LCfg, FLugar.Id, {90, 7, 1}, FData);
+    return regras::SqlCfgDoDono(Format("%0:s.INFORMACAO1", LCfg.Nome), LCfg, FLugar.Id, {90, 7, 1}, FData);
 }
 
 void TTarvoESocialCamposInfoTrab::CarregarDados(const TListaCamposModificados* AListaCamposModificados)

@@ -6,7 +6,7 @@ namespace tarvo::tabelas {
 
 TTarvoESocialCamposProcAdmJud::TTarvoESocialCamposProcAdmJud(std::string_view AGuid, std::int64_t AIDEstab,
                                                              std::int64_t AIDDepto, TDateTime AData)
-    : TTarvoESocialCamposGrupoBase(AGuid), FLugar(EstabelecimentoPrimeiro(AIDEstab, AIDDepto)), FData(AData)
+    : TTarvoESocialCamposGrupoBase(AGuid), FLugar(regras::EstabelecimentoPrimeiro(AIDEstab, AIDDepto)), FData(AData)
 {}
 
 const TPropriedades& TTarvoESocialCamposProcAdmJud::Tabela()

@@ -25,7 +25,7 @@ protected:
     /// before the columns: `FIRST 1`, a further column with its comma, or nothing.
     static std::string SqlProcesso(std::string_view APrefixo, const std::string& ASqlDoId);
 
-    TLugar FLugar;
+    regras::TLugar FLugar;
     TDateTime FData;
 };
 

@@ -10,8 +10,9 @@ TTarvoESocialCamposProcAdmJudFap::TTarvoESocialCamposProcAdmJudFap(std::int64_t 
 std::string TTarvoESocialCamposProcAdmJudFap::BuscarSQLDados()
 {
     // An empty text is no process.
-    return SqlProcesso("FIRST 1", SqlCfgDoEstab("IIF(SC00_FILIALCFG.INFORMACAO2 <> '',SC00_FILIALCFG.INFORMACAO2,NULL)",
-                                                FLugar, {90, 51, 1}, FData)) +
+    return SqlProcesso("FIRST 1",
+                       regras::SqlCfgDoEstab("IIF(SC00_FILIALCFG.INFORMACAO2 <> '',SC00_FILIALCFG.INFORMACAO2,NULL)",
+                                             FLugar, {90, 51, 1}, FData)) +
            "\nORDER BY ES02_SPPROCDET.DATA DESC, ES02_SPPROCDET.IDSPPROCDET";
 }
 

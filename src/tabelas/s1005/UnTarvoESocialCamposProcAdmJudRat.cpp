@@ -11,7 +11,7 @@ TTarvoESocialCamposProcAdmJudRat::TTarvoESocialCamposProcAdmJudRat(std::int64_t 
 
 std::string TTarvoESocialCamposProcAdmJudRat::BuscarSQLDados()
 {
-    constexpr TChaveDeConfiguracao RAT{90, 51, 3};
+    constexpr regras::TChaveDeConfiguracao RAT{90, 51, 3};
     // The subject isn't selected here; meant.
     static constexpr std::string_view SQL_DEPTO = R"(WITH
 SQL_FILIAL AS (%0:s),
@@ -25,12 +25,12 @@ FROM SQL_FILIAL
 FULL JOIN SQL_DEPTO ON (1=1)
 ORDER BY SQL_DEPTO.IDSPPROCDET, SQL_FILIAL.IDSPPROCDET)";
     static constexpr std::string_view DETALHE = "ES02_SPPROCDET.IDSPPROCDET,";
-    const auto LDoEstab = SqlCfgDoEstab("SC00_FILIALCFG.INFORMACAO2", FLugar, RAT, FData);
+    const auto LDoEstab = regras::SqlCfgDoEstab("SC00_FILIALCFG.INFORMACAO2", FLugar, RAT, FData);
     if (!FLugar.EhDepto)
         return SqlProcesso("", LDoEstab) + "\nORDER BY ES02_SPPROCDET.IDSPPROCDET + 0";
     return Format(SQL_DEPTO, SqlProcesso(DETALHE, LDoEstab),
-                  SqlProcesso(DETALHE, SqlCfgDoDono("SC00_DEPARTAMENTOCFG.INFORMACAO2", SC00_DEPARTAMENTOCFG, FLugar.Id,
-                                                    RAT, FData)));
+                  SqlProcesso(DETALHE, regras::SqlCfgDoDono("SC00_DEPARTAMENTOCFG.INFORMACAO2",
+                                                            regras::SC00_DEPARTAMENTOCFG, FLugar.Id, RAT, FData)));
 }
 
 } // namespace tarvo::tabelas

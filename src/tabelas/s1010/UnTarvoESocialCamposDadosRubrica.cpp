@@ -9,9 +9,9 @@
 
 namespace tarvo::tabelas {
 
-TTarvoESocialCamposDadosRubrica::TTarvoESocialCamposDadosRubrica(std::int64_t AIdVerba, std::int64_t AIdEmpresa,
-                                                                 TDateTime ADataGeracao, std::int64_t AIdRubricaRpa,
-                                                                 const TCodigosIncidenciaVerba* ACodigosIncidencia)
+TTarvoESocialCamposDadosRubrica::TTarvoESocialCamposDadosRubrica(
+    std::int64_t AIdVerba, std::int64_t AIdEmpresa, TDateTime ADataGeracao, std::int64_t AIdRubricaRpa,
+    const regras::TCodigosIncidenciaVerba* ACodigosIncidencia)
     : TTarvoESocialCamposGrupoBase("{A1A06C71-BE7A-4AE5-9004-430786D6C559}"), FIdVerba(AIdVerba),
       FIdEmpresa(AIdEmpresa), FDataGeracao(ADataGeracao), FIdRubricaRpa(AIdRubricaRpa),
       FCodigosIncidencia(ACodigosIncidencia)
@@ -96,7 +96,7 @@ std::string TTarvoESocialCamposDadosRubrica::BuscarSqlDaRubricaRpa() const
        FP_ESOCIALTABELACS.CODIGO CODINCCS
 %1:s
 WHERE FP_RUBRICARELACRPA.IDRUBRICARELACRPA = %0:D)";
-    return Format(SQL, FIdRubricaRpa, ORIGEM_DA_RUBRICA_RPA);
+    return Format(SQL, FIdRubricaRpa, regras::ORIGEM_DA_RUBRICA_RPA);
 }
 
 void TTarvoESocialCamposDadosRubrica::AtribuirCodigosIncidencia()

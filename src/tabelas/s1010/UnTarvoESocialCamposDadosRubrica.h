@@ -17,7 +17,8 @@ namespace tarvo::tabelas {
 class TTarvoESocialCamposDadosRubrica : public TTarvoESocialCamposGrupoBase {
 public:
     TTarvoESocialCamposDadosRubrica(std::int64_t AIdVerba, std::int64_t AIdEmpresa, TDateTime ADataGeracao,
-                                    std::int64_t AIdRubricaRpa, const TCodigosIncidenciaVerba* ACodigosIncidencia);
+                                    std::int64_t AIdRubricaRpa,
+                                    const regras::TCodigosIncidenciaVerba* ACodigosIncidencia);
 
     std::string dscRubr;
     std::string natRubr;
@@ -51,7 +52,7 @@ private:
     std::int64_t FIdEmpresa;
     TDateTime FDataGeracao;
     std::int64_t FIdRubricaRpa;
-    const TCodigosIncidenciaVerba* FCodigosIncidencia;
+    const regras::TCodigosIncidenciaVerba* FCodigosIncidencia;
 };
 
 } // namespace tarvo::tabelas

@@ -16,6 +16,6 @@ const TPropriedades& TTarvoESocialCamposIdeProcessoFGTS::Tabela()
     return tabela;
 }
 
-std::string TTarvoESocialCamposIdeProcessoFGTS::BuscarSQLDados() { return SqlProcessoComDetalhe(FIdProcesso); }
+std::string TTarvoESocialCamposIdeProcessoFGTS::BuscarSQLDados() { return regras::SqlProcessoComDetalhe(FIdProcesso); }
 
 } // namespace tarvo::tabelas

@@ -18,6 +18,6 @@ const TPropriedades& TTarvoESocialCamposIdeProcessoIRRF::Tabela()
     return tabela;
 }
 
-std::string TTarvoESocialCamposIdeProcessoIRRF::BuscarSQLDados() { return SqlProcessoComDetalhe(FIdProcesso); }
+std::string TTarvoESocialCamposIdeProcessoIRRF::BuscarSQLDados() { return regras::SqlProcessoComDetalhe(FIdProcesso); }
 
 } // namespace tarvo::tabelas

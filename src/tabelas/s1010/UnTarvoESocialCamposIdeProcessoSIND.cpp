@@ -23,7 +23,7 @@ std::string TTarvoESocialCamposIdeProcessoSIND::BuscarSQLDados()
        %1:s
 FROM ES02_SPPROC
 WHERE ES02_SPPROC.IDSPPROC = %0:d)";
-    return Format(SQL, FIdProcesso, NUMERO_DO_PROCESSO);
+    return Format(SQL, FIdProcesso, regras::NUMERO_DO_PROCESSO);
 }
 
 } // namespace tarvo::tabelas

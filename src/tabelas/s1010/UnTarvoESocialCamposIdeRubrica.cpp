@@ -6,7 +6,8 @@ namespace tarvo::tabelas {
 
 // The code is the rubric's own in both kinds: the incidences are not part of it here.
 TTarvoESocialCamposIdeRubrica::TTarvoESocialCamposIdeRubrica(std::int64_t AIdVerba, std::int64_t AidEmpresa,
-                                                             std::int64_t AIdRubricaRpa, const TCodigosIncidenciaVerba*)
+                                                             std::int64_t AIdRubricaRpa,
+                                                             const regras::TCodigosIncidenciaVerba*)
     : TTarvoESocialCamposGrupoBase("{380563FD-0740-4378-A5C6-83EF6E32FBDD}"), FIdVerba(AIdVerba),
       FIdEmpresa(AidEmpresa), FIdRubricaRpa(AIdRubricaRpa)
 {

@@ -11,7 +11,7 @@ namespace tarvo::tabelas {
 class TTarvoESocialCamposIdeRubrica : public TTarvoESocialCamposGrupoBase {
 public:
     TTarvoESocialCamposIdeRubrica(std::int64_t AIdVerba, std::int64_t AidEmpresa, std::int64_t AIdRubricaRpa,
-                                  const TCodigosIncidenciaVerba* ACodigosIncidencia);
+                                  const regras::TCodigosIncidenciaVerba* ACodigosIncidencia);
 
     std::string codRubr;
     std::string IdeTabRubr;

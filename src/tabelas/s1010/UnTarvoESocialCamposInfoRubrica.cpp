@@ -2,9 +2,9 @@
 
 namespace tarvo::tabelas {
 
-TTarvoESocialCamposInfoRubrica::TTarvoESocialCamposInfoRubrica(std::int64_t AIdVerba, std::int64_t AidEmpresa,
-                                                               std::int64_t AIdRubricaRpa, TDateTime ADataGeracao,
-                                                               const TCodigosIncidenciaVerba* ACodigosIncidencia)
+TTarvoESocialCamposInfoRubrica::TTarvoESocialCamposInfoRubrica(
+    std::int64_t AIdVerba, std::int64_t AidEmpresa, std::int64_t AIdRubricaRpa, TDateTime ADataGeracao,
+    const regras::TCodigosIncidenciaVerba* ACodigosIncidencia)
     : TTarvoESocialCamposGrupoBase("{A8F401E8-47C2-4F85-A70D-67DA3260217A}"),
       IdeRubrica(AIdVerba, AidEmpresa, AIdRubricaRpa, ACodigosIncidencia),
       DadosRubrica(AIdVerba, AidEmpresa, ADataGeracao, AIdRubricaRpa, ACodigosIncidencia)

@@ -9,7 +9,7 @@ namespace tarvo::tabelas {
 class TTarvoESocialCamposInfoRubrica : public TTarvoESocialCamposGrupoBase {
 public:
     TTarvoESocialCamposInfoRubrica(std::int64_t AIdVerba, std::int64_t AidEmpresa, std::int64_t AIdRubricaRpa,
-                                   TDateTime ADataGeracao, const TCodigosIncidenciaVerba* ACodigosIncidencia);
+                                   TDateTime ADataGeracao, const regras::TCodigosIncidenciaVerba* ACodigosIncidencia);
 
     TTarvoESocialCamposIdeRubrica IdeRubrica;
     TTarvoESocialCamposDadosRubrica DadosRubrica;

@@ -4,7 +4,7 @@ namespace tarvo::tabelas {
 
 TTarvoESocialCamposS1010::TTarvoESocialCamposS1010(std::int64_t AIdVerba, std::int64_t AidEmpresa,
                                                    std::int64_t AIdRubricaRpa, TDateTime ADataGeracao,
-                                                   const TCodigosIncidenciaVerba* ACodigosIncidencia)
+                                                   const regras::TCodigosIncidenciaVerba* ACodigosIncidencia)
     : TTarvoESocialCamposGrupoBase("{FB212D2E-76FD-4E48-9AFE-A985BC6AE4D7}"),
       InfoRubrica(AIdVerba, AidEmpresa, AIdRubricaRpa, ADataGeracao, ACodigosIncidencia)
 {}

@@ -10,7 +10,7 @@ namespace tarvo::tabelas {
 class TTarvoESocialCamposS1010 : public TTarvoESocialCamposGrupoBase {
 public:
     TTarvoESocialCamposS1010(std::int64_t AIdVerba, std::int64_t AidEmpresa, std::int64_t AIdRubricaRpa,
-                             TDateTime ADataGeracao, const TCodigosIncidenciaVerba* ACodigosIncidencia);
+                             TDateTime ADataGeracao, const regras::TCodigosIncidenciaVerba* ACodigosIncidencia);
 
     TTarvoESocialCamposInfoRubrica InfoRubrica;
 

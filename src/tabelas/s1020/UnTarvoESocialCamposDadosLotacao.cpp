@@ -8,7 +8,7 @@ namespace tarvo::tabelas {
 TTarvoESocialCamposDadosLotacao::TTarvoESocialCamposDadosLotacao(std::int64_t AIDEstab, std::int64_t AIDDepto,
                                                                  TDateTime AData)
     : TTarvoESocialCamposGrupoBase("{9D81C758-85A1-40C2-92CC-3E0E734A7575}"), FpasLotacao(AIDEstab, AIDDepto, AData),
-      InfoEmprParcial(AIDEstab, AIDDepto), FLugar(DepartamentoPrimeiro(AIDEstab, AIDDepto)), FData(AData)
+      InfoEmprParcial(AIDEstab, AIDDepto), FLugar(regras::DepartamentoPrimeiro(AIDEstab, AIDDepto)), FData(AData)
 {}
 
 const TPropriedades& TTarvoESocialCamposDadosLotacao::Tabela()

@@ -29,7 +29,7 @@ protected:
     std::string BuscarSQLDados() override;
 
 private:
-    TLugar FLugar;
+    regras::TLugar FLugar;
     TDateTime FData;
 };
 

@@ -7,7 +7,7 @@ namespace tarvo::tabelas {
 TTarvoESocialCamposFPASLotacao::TTarvoESocialCamposFPASLotacao(std::int64_t AIDEstab, std::int64_t AIDDepto,
                                                                TDateTime ADataBase)
     : TTarvoESocialCamposGrupoBase("{52228831-2345-4D33-A184-92A0DDC72412}"),
-      InfoProcJudTerceiros(AIDEstab, AIDDepto, ADataBase), FLugar(DepartamentoPrimeiro(AIDEstab, AIDDepto)),
+      InfoProcJudTerceiros(AIDEstab, AIDDepto, ADataBase), FLugar(regras::DepartamentoPrimeiro(AIDEstab, AIDDepto)),
       FDataBase(ADataBase)
 {}
 
@@ -77,9 +77,11 @@ ORDER BY %5:s, SC00_FILIALCFG.IDFILIALCFG,
   FP_FPASPERCENTUAIS.IDFPASPERCENTUAIS,
   SC00_EMPRESACFG.DATAINICIO DESC, SC00_EMPRESACFG.IDEMPRESACFG)";
     return Format(FLugar.EhDepto ? SQL_DEPTO : SQL_ESTAB, FLugar.Id, SQL_CODTERCS,
-                  Format(SQL_EMPRESA, CondicaoVigente(SC00_EMPRESACFG, {90, 38, 1}, FDataBase)),
-                  CondicaoDaChave(SC00_FILIALCFG, {90, 51, 2}), CondicaoDaChave(SC00_DEPARTAMENTOCFG, {90, 18, 2}),
-                  OrdemDaValidade(SC00_FILIALCFG, FDataBase), OrdemDaValidade(SC00_DEPARTAMENTOCFG, FDataBase));
+                  Format(SQL_EMPRESA, regras::CondicaoVigente(regras::SC00_EMPRESACFG, {90, 38, 1}, FDataBase)),
+                  regras::CondicaoDaChave(regras::SC00_FILIALCFG, {90, 51, 2}),
+                  regras::CondicaoDaChave(regras::SC00_DEPARTAMENTOCFG, {90, 18, 2}),
+                  regras::OrdemDaValidade(regras::SC00_FILIALCFG, FDataBase),
+                  regras::OrdemDaValidade(regras::SC00_DEPARTAMENTOCFG, FDataBase));
 }
 
 void TTarvoESocialCamposFPASLotacao::CarregarDados(const TListaCamposModificados* AListaCamposModificados)

@@ -28,7 +28,7 @@ protected:
     std::string BuscarSQLDados() override;
 
 private:
-    TLugar FLugar;
+    regras::TLugar FLugar;
     TDateTime FDataBase;
 };
 

@@ -6,7 +6,7 @@ namespace tarvo::tabelas {
 
 TTarvoESocialCamposIdeLotacao::TTarvoESocialCamposIdeLotacao(std::int64_t AIDEstab, std::int64_t AIDDepto)
     : TTarvoESocialCamposGrupoBase("{A232C1C0-B145-45F4-881E-B73EBBEA5AD5}"),
-      FLugar(DepartamentoPrimeiro(AIDEstab, AIDDepto))
+      FLugar(regras::DepartamentoPrimeiro(AIDEstab, AIDDepto))
 {}
 
 const TPropriedades& TTarvoESocialCamposIdeLotacao::Tabela()

@@ -23,7 +23,7 @@ protected:
     std::string BuscarSQLDados() override;
 
 private:
-    TLugar FLugar;
+    regras::TLugar FLugar;
 };
 
 } // namespace tarvo::tabelas

@@ -11,8 +11,8 @@ namespace {
 
 /// The FPAS row of a place, and what the code and the process of its suspended entities are kept in.
 struct TLinhaDoFpas {
-    TTabelaDeConfiguracao Cfg;
-    TChaveDeConfiguracao Chave;
+    regras::TTabelaDeConfiguracao Cfg;
+    regras::TChaveDeConfiguracao Chave;
     std::int64_t IdDono;
     std::string_view CodSusp;
     std::string_view Processo;
@@ -23,16 +23,16 @@ struct TLinhaDoFpas {
 FROM %1:s
 WHERE %2:s
 ORDER BY %3:s, %1:s.%4:s)";
-        return Format(SQL, AColunas, Cfg.Nome, CondicaoDaChave(Cfg, IdDono, Chave), OrdemDaValidade(Cfg, AData),
-                      Cfg.ColunaDaChave);
+        return Format(SQL, AColunas, Cfg.Nome, regras::CondicaoDaChave(Cfg, IdDono, Chave),
+                      regras::OrdemDaValidade(Cfg, AData), Cfg.ColunaDaChave);
     }
 };
 
-TLinhaDoFpas LinhaDoFpas(TLugar ALugar)
+TLinhaDoFpas LinhaDoFpas(regras::TLugar ALugar)
 {
     if (ALugar.EhDepto)
-        return {SC00_DEPARTAMENTOCFG, {90, 18, 2}, ALugar.Id, "INFORMACAO2", "INFORMACAO3"};
-    return {SC00_FILIALCFG, {90, 51, 2}, ALugar.Id, "INFORMACAO8", "INFORMACAO9"};
+        return {regras::SC00_DEPARTAMENTOCFG, {90, 18, 2}, ALugar.Id, "INFORMACAO2", "INFORMACAO3"};
+    return {regras::SC00_FILIALCFG, {90, 51, 2}, ALugar.Id, "INFORMACAO8", "INFORMACAO9"};
 }
 
 } // namespace
@@ -40,7 +40,7 @@ TLinhaDoFpas LinhaDoFpas(TLugar ALugar)
 TTarvoESocialCamposInfoProcJudTerceiros::TTarvoESocialCamposInfoProcJudTerceiros(std::int64_t AIDEstab,
                                                                                  std::int64_t AIDDepto, TDateTime AData)
     : TTarvoESocialCamposGrupoBase("{23F156AF-B2D6-4939-9BAE-DCAFD49C19B3}"),
-      FLugar(EstabelecimentoPrimeiro(AIDEstab, AIDDepto)), FData(AData)
+      FLugar(regras::EstabelecimentoPrimeiro(AIDEstab, AIDDepto)), FData(AData)
 {
     CarregarDadosProcJudTerceiro();
 }

@@ -27,7 +27,7 @@ private:
     /// The codes of a comma text that aren't 0, in its order.
     void AtribuirCodigosNaLista(const std::string& ACodigos);
 
-    TLugar FLugar;
+    regras::TLugar FLugar;
     TDateTime FData;
     std::vector<std::int64_t> FCodTerceiros;
 };

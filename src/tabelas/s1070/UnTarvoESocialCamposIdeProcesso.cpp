@@ -29,7 +29,7 @@ std::string TTarvoESocialCamposIdeProcesso::BuscarSQLDados()
   ES02_SPPROC.DATAABERTURA
 FROM ES02_SPPROC
 WHERE ES02_SPPROC.IDSPPROC = %0:D)";
-    return Format(SQL, FIdProcesso, NUMERO_DO_PROCESSO);
+    return Format(SQL, FIdProcesso, regras::NUMERO_DO_PROCESSO);
 }
 
 } // namespace tarvo::tabelas

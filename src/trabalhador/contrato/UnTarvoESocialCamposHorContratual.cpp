@@ -64,8 +64,8 @@ FROM EMPREGADOS
 LEFT JOIN TAB_HORARIOS ON ( TAB_HORARIOS.CODIGO = EMPREGADOS.COD_HORARIO)
 WHERE EMPREGADOS.IDEMPREGADO = %0:d
 ORDER BY TAB_HORARIOS.IDHORARIO + 0)";
-    return Format(SQL, FIDEmpregado, CondicaoDaChave(SC00_EMPREGADOCFG, FIDEmpregado, {90, 1, 1}),
-                  CondicaoDaValidade(SC00_EMPREGADOCFG, FDataGeracao));
+    return Format(SQL, FIDEmpregado, regras::CondicaoDaChave(regras::SC00_EMPREGADOCFG, FIDEmpregado, {90, 1, 1}),
+                  regras::CondicaoDaValidade(regras::SC00_EMPREGADOCFG, FDataGeracao));
 }
 
 void TTarvoESocialCamposHorContratual::CarregarDadosHorario()

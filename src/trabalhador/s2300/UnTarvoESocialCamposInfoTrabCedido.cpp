@@ -61,8 +61,8 @@ ORDER BY
   EMPREGADOSCFG.FORADAVALIDADE,
   EMPREGADOSCFG.DATAINICIO DESC,
   EMPREGADOSCFG.IDEMPREGADOCFG)";
-    return Format(SQL, FIDEmpregado, CondicaoDaChave(SC00_EMPREGADOCFG, FIDEmpregado, {90, 38, 7}),
-                  CondicaoDaValidade(SC00_EMPREGADOCFG, FDataGeracao));
+    return Format(SQL, FIDEmpregado, regras::CondicaoDaChave(regras::SC00_EMPREGADOCFG, FIDEmpregado, {90, 38, 7}),
+                  regras::CondicaoDaValidade(regras::SC00_EMPREGADOCFG, FDataGeracao));
 }
 
 } // namespace tarvo::trabalhador

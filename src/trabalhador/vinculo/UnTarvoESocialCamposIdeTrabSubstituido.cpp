@@ -27,8 +27,8 @@ FROM SC00_EMPREGADOCFG
 WHERE %0:s
   AND %1:s
 ORDER BY SC00_EMPREGADOCFG.DATAINICIO DESC, SC00_EMPREGADOCFG.IDEMPREGADOCFG)";
-    return Format(SQL, CondicaoDaChave(SC00_EMPREGADOCFG, FIDEmpregado, {90, 38, 9}),
-                  CondicaoDaValidade(SC00_EMPREGADOCFG, FDataGeracao));
+    return Format(SQL, regras::CondicaoDaChave(regras::SC00_EMPREGADOCFG, FIDEmpregado, {90, 38, 9}),
+                  regras::CondicaoDaValidade(regras::SC00_EMPREGADOCFG, FDataGeracao));
 }
 
 } // namespace tarvo::trabalhador

@@ -11,7 +11,7 @@ namespace tarvo::trabalhador {
 
 namespace {
 
-constexpr TChaveDeConfiguracao REGIMES{90, 38, 7};
+constexpr regras::TChaveDeConfiguracao REGIMES{90, 38, 7};
 
 } // namespace
 
@@ -72,7 +72,7 @@ LEFT JOIN SINDICATOS ON (EMPREGADOS.COD_SINDI = SINDICATOS.COD_SINDI)
 LEFT JOIN FP_ESOCIALTABELA ON (EMPREGADOS.IDCATEGORIAESOCIAL=FP_ESOCIALTABELA.IDESOCIALTABELA)
 WHERE EMPREGADOS.IDEMPREGADO = %0:d)";
     const auto Regime = [this](std::string_view AColuna) {
-        return SqlConfiguracaoVigente(AColuna, SC00_EMPREGADOCFG, FIDEmpregado, REGIMES, FDataGeracao);
+        return regras::SqlConfiguracaoVigente(AColuna, regras::SC00_EMPREGADOCFG, FIDEmpregado, REGIMES, FDataGeracao);
     };
     return Format(SQL, FIDEmpregado, Regime("SC00_EMPREGADOCFG.INFORMACAO1"), Regime("SC00_EMPREGADOCFG.INFORMACAO4"));
 }
@@ -105,7 +105,7 @@ ORDER BY SC00_EMPREGADOCFG.DATAINICIO DESC, SC00_EMPREGADOCFG.IDEMPREGADOCFG)";
     IndicativoAdmissao.clear();
     TipoRegimeJornada.clear();
     const auto LCds = TTarvoConsultasGeral::BuscarRegistros(
-        Format(SQL, FIDEmpregado, CondicaoVigente(SC00_EMPREGADOCFG, REGIMES, FDataGeracao)));
+        Format(SQL, FIDEmpregado, regras::CondicaoVigente(regras::SC00_EMPREGADOCFG, REGIMES, FDataGeracao)));
     if (LCds->IsEmpty())
         return;
     const auto Codigo = [&LCds](std::string_view AColuna) {

@@ -40,8 +40,8 @@ FROM SC00_EMPREGADOCFG
 WHERE %0:s
   AND %1:s
 ORDER BY SC00_EMPREGADOCFG.DATAINICIO DESC, SC00_EMPREGADOCFG.IDEMPREGADOCFG)";
-    return Format(SQL, CondicaoDaChave(SC00_EMPREGADOCFG, FIDEmpregado, {90, 38, 10}),
-                  CondicaoDaValidade(SC00_EMPREGADOCFG, FDataGeracao));
+    return Format(SQL, regras::CondicaoDaChave(regras::SC00_EMPREGADOCFG, FIDEmpregado, {90, 38, 10}),
+                  regras::CondicaoDaValidade(regras::SC00_EMPREGADOCFG, FDataGeracao));
 }
 
 } // namespace tarvo::trabalhador

@@ -54,7 +54,7 @@ LEFT JOIN SC00_EMPREGADOCFG ON (SC00_EMPREGADOCFG.COD_EMPRESA = EMPREGADOS.COD_E
   AND %1:s)
 WHERE EMPREGADOS.IDEMPREGADO = %0:d
 ORDER BY SC00_EMPREGADOCFG.DATAINICIO DESC, SC00_EMPREGADOCFG.IDEMPREGADOCFG)";
-    return Format(SQL, FIDEmpregado, CondicaoVigente(SC00_EMPREGADOCFG, {90, 38, 7}, FDataGeracao));
+    return Format(SQL, FIDEmpregado, regras::CondicaoVigente(regras::SC00_EMPREGADOCFG, {90, 38, 7}, FDataGeracao));
 }
 
 void TTarvoESocialCamposVinculo::CarregarDados(const TListaCamposModificados* AListaCamposModificados)

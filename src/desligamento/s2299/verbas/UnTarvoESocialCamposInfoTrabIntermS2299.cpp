@@ -18,7 +18,7 @@ const TPropriedades& TTarvoESocialCamposInfoTrabIntermS2299::Tabela()
 
 std::string TTarvoESocialCamposInfoTrabIntermS2299::BuscarSQLDados()
 {
-    return tabelas::SqlConvocacao(FIDDetConvocacaoTrabInterm);
+    return regras::SqlConvocacao(FIDDetConvocacaoTrabInterm);
 }
 
 } // namespace tarvo::desligamento

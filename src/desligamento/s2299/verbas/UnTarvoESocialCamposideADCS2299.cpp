@@ -26,7 +26,7 @@ const TPropriedades& TTarvoESocialCamposideADCS2299::Tabela()
 
 std::string TTarvoESocialCamposideADCS2299::BuscarSQLDados()
 {
-    return tabelas::SqlAcordo(FDadosCalculos.DadosS2299().IdAcordoConvencaoDissidio);
+    return regras::SqlAcordo(FDadosCalculos.DadosS2299().IdAcordoConvencaoDissidio);
 }
 
 void TTarvoESocialCamposideADCS2299::AtribuirValoresManualmente()
