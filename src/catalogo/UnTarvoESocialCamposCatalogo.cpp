@@ -76,21 +76,6 @@ TEventoConstruidoDe<pagamento::TTarvoESocialCamposS1210> EventoS1210(const TArgu
     return {std::move(LInfoBind), std::move(LEvento)};
 }
 
-/// AAAA-MM-DD; an unset date when the text is none.
-TDateTime LerDataIso(std::string_view ATexto)
-{
-    if (ATexto.size() != 10 || ATexto[4] != '-' || ATexto[7] != '-')
-        return {};
-    const auto LParte = [&](std::size_t AInicio, std::size_t ATamanho) {
-        const auto LTexto = ATexto.substr(AInicio, ATamanho);
-        return std::all_of(LTexto.begin(), LTexto.end(), EhDigito) ? static_cast<int>(StrToInt64Def(LTexto, 0)) : 0;
-    };
-    const int LAno = LParte(0, 4);
-    const int LMes = LParte(5, 2);
-    const int LDia = LParte(8, 2);
-    return DataValida(LAno, LMes, LDia) ? EncodeDate(LAno, LMes, LDia) : TDateTime();
-}
-
 constexpr TArgumentoDeEvento TIPO_CONEXAO{
     "ATipoConexao", taInteiro, "1 folha, 2 Brenco no banco da folha, outro valor Brenco em banco próprio (--brenco)"};
 
@@ -539,7 +524,7 @@ TArgumentosDeEvento::TArgumentosDeEvento(const std::vector<TArgumentoDeEvento>& 
                         IntToStr(LDefinicao->UltimoOrdinal));
             break;
         case taData:
-            LLido.Data = LerDataIso(LTexto);
+            LLido.Data = LerDataIso(LTexto).value_or(TDateTime());
             if (LLido.Data.Vazia())
                 Recusar("não é uma data AAAA-MM-DD");
             break;

@@ -55,10 +55,9 @@ TDateTime Data(const std::string& ATexto)
     const auto LTexto = Trim(ATexto);
     if (LTexto.empty())
         return {};
-    const bool LIso = LTexto.size() == 10 && LTexto[4] == '-' && LTexto[7] == '-';
-    return StrToDateTime(LIso ? std::string(LTexto.substr(8)) + "/" + std::string(LTexto.substr(5, 2)) + "/" +
-                                    std::string(LTexto.substr(0, 4))
-                              : std::string(LTexto));
+    if (const auto LIso = LerDataIso(LTexto))
+        return *LIso;
+    return StrToDateTime(LTexto);
 }
 
 TValorPropriedade ParaValor(TTipoPropriedade ATipo, const std::string& ATexto)

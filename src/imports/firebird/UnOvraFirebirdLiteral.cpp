@@ -12,33 +12,18 @@ namespace {
 
 constexpr unsigned BYTES_POR_CARACTERE_UTF8 = 4;
 
-/// dd.mm.yyyy with an optional hh:nn:ss, as the library writes dates; anything else is left to the engine.
-std::optional<ISC_TIMESTAMP> LerDataDoLiteral(const std::string& ATexto)
+/// A date as the library writes it, in the engine's form; anything else is left to the engine.
+std::optional<ISC_TIMESTAMP> LerDataDoLiteral(std::string_view ATexto)
 {
-    static constexpr std::string_view MOLDE = "00.00.0000 00:00:00";
-    if (ATexto.size() != 10 && ATexto.size() != MOLDE.size())
+    const auto LPartes = LerDataDB(ATexto);
+    if (!LPartes)
         return std::nullopt;
-    for (std::size_t i = 0; i < ATexto.size(); ++i)
-        if (MOLDE[i] == '0' ? ATexto[i] < '0' || ATexto[i] > '9' : ATexto[i] != MOLDE[i])
-            return std::nullopt;
-    const auto LParte = [&](std::size_t AInicio, std::size_t ATamanho) {
-        return static_cast<int>(StrToInt64(std::string_view(ATexto).substr(AInicio, ATamanho)));
-    };
-    const int LDia = LParte(0, 2);
-    const int LMes = LParte(3, 2);
-    const int LAno = LParte(6, 4);
-    if (!DataValida(LAno, LMes, LDia))
-        return std::nullopt;
+    const TPartesDaData& LDia = LPartes->first;
+    const TPartesDaHora& LHora = LPartes->second;
     ISC_TIMESTAMP LMomento{};
-    LMomento.timestamp_date = static_cast<ISC_DATE>(EncodeDate(LAno, LMes, LDia).Valor()) + DIA_ZERO_DO_MOTOR;
-    if (ATexto.size() > 10) {
-        const int LHora = LParte(11, 2);
-        const int LMinuto = LParte(14, 2);
-        const int LSegundo = LParte(17, 2);
-        if (LHora > 23 || LMinuto > 59 || LSegundo > 59)
-            return std::nullopt;
-        LMomento.timestamp_time = static_cast<ISC_TIME>(((LHora * 60 + LMinuto) * 60 + LSegundo) * 10'000);
-    }
+    LMomento.timestamp_date =
+        static_cast<ISC_DATE>(EncodeDate(LDia.Ano, LDia.Mes, LDia.Dia).Valor()) + DIA_ZERO_DO_MOTOR;
+    LMomento.timestamp_time = static_cast<ISC_TIME>(((LHora.Hora * 60 + LHora.Minuto) * 60 + LHora.Segundo) * 10'000);
     return LMomento;
 }
 

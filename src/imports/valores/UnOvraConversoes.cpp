@@ -92,6 +92,26 @@ int LerDigitos(std::string_view ATexto, std::size_t& APosicao, std::size_t AMaxi
     return AQuantos == 0 ? -1 : LValor;
 }
 
+/// Whether a text has a digit wherever the model has a zero, and the model's own character elsewhere.
+bool SegueOMolde(std::string_view ATexto, std::string_view AMolde)
+{
+    if (ATexto.size() != AMolde.size())
+        return false;
+    for (std::size_t i = 0; i < AMolde.size(); ++i)
+        if (AMolde[i] == '0' ? !EhDigito(ATexto[i]) : ATexto[i] != AMolde[i])
+            return false;
+    return true;
+}
+
+/// The number that so many digits are.
+int Digitos(std::string_view ATexto, std::size_t AInicio, std::size_t ATamanho)
+{
+    int LValor = 0;
+    for (const char LChar : ATexto.substr(AInicio, ATamanho))
+        LValor = LValor * 10 + (LChar - '0');
+    return LValor;
+}
+
 std::optional<TDateTime> LerData(std::string_view AValor)
 {
     const auto LTexto = Trim(AValor);
@@ -257,6 +277,33 @@ TDateTime StrToDateTime(std::string_view AValor)
     if (const auto LData = LerData(AValor))
         return *LData;
     throw EConvertError("'" + std::string(AValor) + "' não é uma data válida");
+}
+
+std::optional<std::pair<TPartesDaData, TPartesDaHora>> LerDataDB(std::string_view AValor)
+{
+    static constexpr std::string_view MOLDE = "00.00.0000 00:00:00";
+    const bool LComHora = AValor.size() > 10;
+    if (!SegueOMolde(AValor, LComHora ? MOLDE : MOLDE.substr(0, 10)))
+        return std::nullopt;
+    const TPartesDaData LDia{.Ano = Digitos(AValor, 6, 4), .Mes = Digitos(AValor, 3, 2), .Dia = Digitos(AValor, 0, 2)};
+    TPartesDaHora LHora;
+    if (LComHora)
+        LHora = {.Hora = Digitos(AValor, 11, 2), .Minuto = Digitos(AValor, 14, 2), .Segundo = Digitos(AValor, 17, 2)};
+    if (!DataValida(LDia.Ano, LDia.Mes, LDia.Dia) || LHora.Hora > 23 || LHora.Minuto > 59 || LHora.Segundo > 59)
+        return std::nullopt;
+    return std::pair{LDia, LHora};
+}
+
+std::optional<TDateTime> LerDataIso(std::string_view AValor)
+{
+    if (!SegueOMolde(AValor, "0000-00-00"))
+        return std::nullopt;
+    const int LAno = Digitos(AValor, 0, 4);
+    const int LMes = Digitos(AValor, 5, 2);
+    const int LDia = Digitos(AValor, 8, 2);
+    if (!DataValida(LAno, LMes, LDia))
+        return std::nullopt;
+    return EncodeDate(LAno, LMes, LDia);
 }
 
 TDateTime StrToDateTimeDef(std::string_view AValor, TDateTime APadrao) { return LerData(AValor).value_or(APadrao); }

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "imports/valores/UnOvraCurrency.h"
 #include "imports/valores/UnOvraDataHora.h"
@@ -39,6 +40,11 @@ double StrToDouble(std::string_view AValor);
 /// dd/mm/yyyy or dd.mm.yy (00-49 is 2000-2049, 50-99 is 1950-1999) with an optional hh:nn[:ss].
 /// EConvertError with the text when it is no real date, or blank.
 TDateTime StrToDateTime(std::string_view AValor);
+/// dd.mm.yyyy, with hh:nn:ss or without, as the library writes dates into statements; nothing for any other text, and
+/// for what is no real moment.
+std::optional<std::pair<TPartesDaData, TPartesDaHora>> LerDataDB(std::string_view AValor);
+/// yyyy-mm-dd; nothing for any other text, and for what is no real day.
+std::optional<TDateTime> LerDataIso(std::string_view AValor);
 /// The same with a default.
 TDateTime StrToDateTimeDef(std::string_view AValor, TDateTime APadrao);
 
