@@ -18,6 +18,20 @@ double SomarQuantias(double A, double B)
     return std::fabs(LSoma - LExata) <= LRuido ? LExata : LSoma;
 }
 
+std::string UnirQuebraECalculo(std::string_view AColunas, std::string_view ADaQuebra, std::string_view ADoCalculo)
+{
+    static constexpr std::string_view SQL = R"(SELECT
+  %0:s
+FROM (
+%1:s
+UNION ALL
+%2:s
+  AND %3:s
+)
+GROUP BY %0:s)";
+    return Format(SQL, AColunas, ADaQuebra, ADoCalculo, CALCULO_SEM_QUEBRA);
+}
+
 std::string SqlFeriasComplementares(std::int64_t AIdEmpregado, std::string_view ATipoFolha, TDateTime ADataInicio,
                                     TDateTime ADataFim)
 {

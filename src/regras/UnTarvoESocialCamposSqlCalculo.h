@@ -21,6 +21,10 @@ double SomarQuantias(double A, double B);
 inline constexpr std::string_view CALCULO_SEM_QUEBRA =
     "NOT EXISTS (SELECT CALC_QUEBRA.IDCALCQUEBRA FROM CALC_QUEBRA WHERE CALCULO.IDCALCULO = CALC_QUEBRA.IDCALCULO)";
 
+/// The rows of the break table and those of CALCULO that it doesn't split, alike ones once and without an order. AColunas
+/// is what is shown of both; a key that isn't among it can be had by MIN(...) in an order. ADoCalculo ends in a condition.
+std::string UnirQuebraECalculo(std::string_view AColunas, std::string_view ADaQuebra, std::string_view ADoCalculo);
+
 /// From a row of CALCULO to the complementary calculation that it belongs to.
 inline constexpr std::string_view JUNCAO_CALCULO_COMPLEMENTAR =
     R"(INNER JOIN FP_CALCCOMPLEMPREG ON (FP_CALCCOMPLEMPREG.IDEMPREGADO = CALCULO.IDEMPREGADO)

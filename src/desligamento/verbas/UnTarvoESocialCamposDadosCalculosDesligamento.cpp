@@ -105,18 +105,8 @@ std::string TDadosCalculosDesligamento::SqlDaQuebra(std::string_view ACondicoes,
 
 std::string TDadosCalculosDesligamento::SqlDaQuebraOuDoCalculo(std::string_view ACondicoes) const
 {
-    static constexpr std::string_view SQL = R"(SELECT
-  %3:s
-FROM (
-%0:s
-UNION ALL
-%1:s
-  AND %2:s
-)
-GROUP BY %3:s)";
-    return Format(SQL, SqlDaQuebra(ACondicoes, CHAVES_DA_QUEBRA),
-                  SqlDoCalculo(ACondicoes, COLUNAS_DO_CALCULO_SEM_QUEBRA), regras::CALCULO_SEM_QUEBRA,
-                  COLUNAS_DA_UNIAO);
+    return regras::UnirQuebraECalculo(COLUNAS_DA_UNIAO, SqlDaQuebra(ACondicoes, CHAVES_DA_QUEBRA),
+                                      SqlDoCalculo(ACondicoes, COLUNAS_DO_CALCULO_SEM_QUEBRA));
 }
 
 TDataset TDadosCalculosDesligamento::BuscarCalculoRescisaoComplementar() const

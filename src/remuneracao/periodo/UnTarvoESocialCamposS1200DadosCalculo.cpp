@@ -44,33 +44,14 @@ constexpr std::string_view ORDEM_DO_CALCULO =
 
 /// Split rows where there are any, else the row of CALCULO. Of a rubric's rows the lowest key comes last: a merged item
 /// shows the quantity of its last row. ADaQuebra and ADoCalculo are the branches from their FROM on.
-std::string UnirQuebraECalculo(const std::string& ADaQuebra, const std::string& ADoCalculo)
+std::string SqlDaQuebraOuDoCalculo(const std::string& ADaQuebra, const std::string& ADoCalculo)
 {
-    // Grouped by all its columns, with the key of its first row, a split row is there once, as by DISTINCT. The
-    // branches have no row in common.
-    static constexpr std::string_view SQL = R"(SELECT
-  IDCALCULO,
-  COD_VERBA,
-  BASE,
-  REFERENCIA,
-  VALOR,
-  DIASTRAB,
-  IDVERBA,
-  HORAS,
-  FORMULA,
-  VLR_CALC
-FROM (
-SELECT%0:s,
-  MIN(CALC_QUEBRA.IDCALCQUEBRA) AS IDCALCQUEBRA
-%2:s
-GROUP BY%0:s
-UNION
-SELECT DISTINCT%1:s,
-  0 AS IDCALCQUEBRA
-%3:s
-)
-ORDER BY COD_VERBA, IDCALCULO DESC, IDCALCQUEBRA DESC, IDVERBA DESC)";
-    return Format(SQL, COLUNAS_DA_QUEBRA, COLUNAS_DO_CALCULO, ADaQuebra, ADoCalculo);
+    static constexpr std::string_view COLUNAS =
+        "IDCALCULO, COD_VERBA, BASE, REFERENCIA, VALOR, DIASTRAB, IDVERBA, HORAS, FORMULA, VLR_CALC";
+    return regras::UnirQuebraECalculo(
+               COLUNAS, Format("SELECT%0:s,\n  CALC_QUEBRA.IDCALCQUEBRA\n%1:s", COLUNAS_DA_QUEBRA, ADaQuebra),
+               Format("SELECT%0:s,\n  NULL AS IDCALCQUEBRA\n%1:s", COLUNAS_DO_CALCULO, ADoCalculo)) +
+           "\nORDER BY COD_VERBA, IDCALCULO DESC, MIN(IDCALCQUEBRA) DESC, IDVERBA DESC";
 }
 
 // The short list lets '99H' through: the normal payroll adds its value to '7L' before the row goes.
@@ -351,10 +332,10 @@ WHERE %1:s)";
     if (FInfoBind.TipoFolha() == 3)
         return TTarvoConsultasGeral::BuscarRegistrosSomenteLeitura(FSqlCalc);
     // No filter by establishment here; that is meant.
-    FSqlCalcQuebra = UnirQuebraECalculo(Format("%0:s\n  AND COALESCE(CALC_QUEBRA.IDDEPARTAMENTO, 0) = %1:d",
-                                               Format(ORIGEM, JUNCAO_DA_QUEBRA, ACondicoes, AJuncaoDoAcordo), FIdDepto),
-                                        Format("%0:s\n  AND COALESCE(CALCULO.IDDEPARTAMENTO, 0) = %1:d\n  AND %2:s",
-                                               LDoCalculo, FIdDepto, regras::CALCULO_SEM_QUEBRA));
+    FSqlCalcQuebra =
+        SqlDaQuebraOuDoCalculo(Format("%0:s\n  AND COALESCE(CALC_QUEBRA.IDDEPARTAMENTO, 0) = %1:d",
+                                      Format(ORIGEM, JUNCAO_DA_QUEBRA, ACondicoes, AJuncaoDoAcordo), FIdDepto),
+                               Format("%0:s\n  AND COALESCE(CALCULO.IDDEPARTAMENTO, 0) = %1:d", LDoCalculo, FIdDepto));
     return BuscarPorTipoDeQuebra();
 }
 
@@ -388,8 +369,7 @@ WHERE CALCULO.IDEMPREGADO = %0:D
         return Format(RAMO, FInfoBind.IdEmpregado(), ColunaDaLotacao(), IdDaLotacao(), TipoFolhaEntreAspas(),
                       ACondicoes, FIdDepto, AOrigem, ATabela);
     };
-    return UnirQuebraECalculo(Ramo(ORIGEM_DA_QUEBRA, "CALC_QUEBRA"),
-                              Format("%0:s\n  AND %1:s", Ramo("FROM CALCULO", "CALCULO"), regras::CALCULO_SEM_QUEBRA));
+    return SqlDaQuebraOuDoCalculo(Ramo(ORIGEM_DA_QUEBRA, "CALC_QUEBRA"), Ramo("FROM CALCULO", "CALCULO"));
 }
 
 std::string TTarvoESocialCamposS1200DadosCalculo::CaudaDaLotacao() const
