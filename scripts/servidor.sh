@@ -37,7 +37,9 @@ iniciar_servidor() {
     SERVIDOR_PORTA=$(python3 -c 'import socket; s = socket.socket(); s.bind(("127.0.0.1", 0)); print(s.getsockname()[1])')
     mkdir "$SERVIDOR/trava"
     # Copies: neither plugins nor character sets are loaded from behind a link.
-    cp -rL "$pasta"/{plugins,firebird.msg,plugins.conf,intl} "$SERVIDOR/"
+    cp -rL "$pasta"/{plugins,plugins.conf,intl} "$SERVIDOR/"
+    # Beside another version a server may come without its texts; those of errors are the client's.
+    [ ! -e "$pasta/firebird.msg" ] || cp -L "$pasta/firebird.msg" "$SERVIDOR/"
     : > "$SERVIDOR/databases.conf"
     cat > "$SERVIDOR/firebird.conf" <<CONF
 RemoteServicePort = $SERVIDOR_PORTA
