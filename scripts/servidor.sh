@@ -41,7 +41,11 @@ iniciar_servidor() {
     # Beside another version a server may come without its texts; those of errors are the client's.
     [ ! -e "$pasta/firebird.msg" ] || cp -L "$pasta/firebird.msg" "$SERVIDOR/"
     : > "$SERVIDOR/databases.conf"
+    # The engine by its name: the library that both versions' programs may share would look for that of its own.
+    local engine=Engine13
+    [[ $versao != 3.* ]] || engine=Engine12
     cat > "$SERVIDOR/firebird.conf" <<CONF
+Providers = Remote,$engine,Loopback
 RemoteServicePort = $SERVIDOR_PORTA
 RemoteBindAddress = 127.0.0.1
 SecurityDatabase = $SERVIDOR/seguranca.fdb
