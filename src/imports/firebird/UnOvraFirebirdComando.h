@@ -25,7 +25,7 @@ struct TComando {
     bool TemCursor = false;
 };
 
-/// Errors as those of the session's Preparar.
+/// Errors as those of TSessao::Preparar.
 std::unique_ptr<TComando> PrepararComando(TSessao& ASessao, std::string_view ASql, std::size_t AParametros = 0);
 /// Runs the statement with the parameters that its message holds, and reads all its rows.
 TConjuntoDeLinhas Ler(TSessao& ASessao, TComando& AComando);

@@ -16,7 +16,7 @@ public:
     explicit TSessao(const TParametrosConexao& AParametros);
     TSessao(const TSessao&) = delete;
     TSessao& operator=(const TSessao&) = delete;
-    /// Undoes an open transaction. The statements of the session must be gone.
+    /// Undoes an open transaction. Its statements must be gone.
     ~TSessao();
 
     static void CriarBanco(const TParametrosConexao& AParametros);
@@ -31,7 +31,7 @@ public:
     void Desfazer();
 
     /// Prepares a text that has so many parameters. EDatabaseError when it has others, and when it is a statement that
-    /// starts or ends a transaction, which the session does itself.
+    /// starts or ends a transaction, which TSessao does itself.
     TReferencia<Firebird::IStatement> Preparar(std::string_view ASql, std::size_t AParametros = 0);
 
     void DefinirVigia(TVigiaSql AVigia) { FVigia = std::move(AVigia); }
